@@ -1,0 +1,74 @@
+// The whole calculator: start-up, the current view, the dialogs above it, view switching and the end.
+#pragma once
+
+#include <memory>
+#include <optional>
+#include <vector>
+
+#include "app/frmCTLApp.h"
+#include "model/Form.h"
+#include "services/Services.h"
+#include "views/ViewFrame.h"
+
+namespace qves {
+
+/// Told when forms come and go, so that a shell can show them.
+class AppObserver {
+ public:
+  virtual ~AppObserver() = default;
+  /// The form is loaded and to be shown. It has spoken already.
+  virtual void FormShown(Form&) {}
+  /// The form is about to be destroyed.
+  virtual void FormClosed(Form&) {}
+  /// The last form is gone: the program is to end.
+  virtual void Ended() {}
+};
+
+struct StartOptions {
+  std::optional<int> View;  ///< the CalcView to open instead of the stored one
+};
+
+class CalculatorApp : private ViewFrame {
+ public:
+  CalculatorApp(Services& services, AppObserver& observer);
+  ~CalculatorApp() override;
+
+  /// Start-up: shows the first view. False when another copy runs and this one is to end at once.
+  bool Main(const StartOptions& options = {});
+
+  /// The form that has the keyboard: the top dialog, else the view; null before the start and after the end.
+  Form* ActiveForm() const;
+
+  /// A key press: through the keyboard hook, then to the active form. True when the calculator has used it; else it
+  /// is the toolkit's own.
+  bool KeyDown(const KeyEvent& event);
+  /// The release of a key.
+  void KeyUp(int keyCode);
+  /// Leaves the calculator as File, Exit does. Nothing when it has ended already.
+  void Leave();
+
+ private:
+  // ViewFrame
+  void SwitchView(int calcView) override;
+  void Exit() override;
+  void LoadHostForm(Form& keyTarget) override;
+  void UnloadHostForm() override;
+  bool IsSwitching() const override { return ViewSwitching; }
+  void ViewLoaded() override { ViewSwitching = false; }
+  bool TakeWelcome() override;
+
+  std::unique_ptr<Form> CreateView(int calcView);
+  void ShowView(std::unique_ptr<Form> view);
+  void UnloadView();
+
+  Services& Services_;
+  AppObserver& Observer;
+  std::unique_ptr<frmCTLApp> HostForm;
+  std::unique_ptr<Form> View;
+  std::vector<std::unique_ptr<Form>> Dialogs;
+  std::vector<std::unique_ptr<Form>> Retired;  ///< unloaded forms, kept until their own handler has returned
+  bool ViewSwitching = false;
+  bool WelcomeDue = true;
+};
+
+}  // namespace qves

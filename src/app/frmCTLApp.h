@@ -1,0 +1,57 @@
+// The hidden host form: keyboard hook, menu hints, speech notifications and the end of the session, forwarded to the
+// form that is current. It lives as long as one view.
+#pragma once
+
+#include <functional>
+#include <string>
+
+#include "model/Form.h"
+#include "platform/Notifiers.h"
+#include "platform/TTS.h"
+#include "services/Services.h"
+
+namespace qves {
+
+class frmCTLApp : private KeyListener, private HintListener, private QueryUnloadListener, private TtsListener {
+ public:
+  struct Callbacks {
+    std::function<Form*()> ActiveForm;
+    std::function<void()> UnloadView;
+  };
+
+  frmCTLApp(Services& services, Callbacks callbacks);
+  ~frmCTLApp() override;
+  frmCTLApp(const frmCTLApp&) = delete;
+  frmCTLApp& operator=(const frmCTLApp&) = delete;
+
+  void SetKeyTarget(Form* view) { KeyTarget = view; }
+  void SetBookMarkTarget(Form* form) { BookMarkTarget = form; }
+  void SetSpeechStoppedTarget(Form* form) { SpeechStoppedTarget = form; }
+  bool IsMenuActive() const { return MenuActive; }
+
+  bool KeyDown(const KeyEvent& event) override;
+  void KeyUp(int keyCode) override;
+
+ private:
+  void MenuItemHighlighted(std::string_view text, std::string_view mnemonic, bool hasSubMenu) override;
+  void MenusClosed() override { MenuActive = false; }
+  void QueryUnload(int reason) override;
+  void BookMarkReached(std::int32_t number, TtsSpeaker& speaker) override;
+  void SpeechStopped(TtsSpeaker& speaker) override;
+  void EngineListChanged() override;
+  void DescribeMenuItem();
+  void FocusCancelControl();
+
+  Services& Services_;
+  Callbacks Calls;
+  Form* KeyTarget = nullptr;
+  Form* BookMarkTarget = nullptr;
+  Form* SpeechStoppedTarget = nullptr;
+  bool MenuActive = false;
+  std::string MenuHintText;
+  std::string MenuMnemonic;
+  bool MenuHasSubMenu = false;
+  bool CtrlAlone = false;
+};
+
+}  // namespace qves

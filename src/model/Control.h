@@ -1,0 +1,92 @@
+// What a form is made of: controls hold state; what they do is their form's business.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace qves {
+
+class TtsEngine;
+class TtsSpeaker;
+
+enum class ControlKind { Button, TextBox };
+
+/// Where a control stands: a panel of the window, and the cell inside the panel's own grid.
+struct GridCell {
+  int Panel = 0;
+  int Row = 0;
+  int Column = 0;
+  int RowSpan = 1;
+  int ColumnSpan = 1;
+};
+
+/// Traits of a control, a bit set.
+enum ControlTrait : unsigned {
+  PlainControl = 0,
+  DefaultButton = 1,  ///< Enter presses it when no button was gone to
+  CancelButton = 2,   ///< Escape moves the focus to it
+  MultiLine = 4,      ///< a text box of several lines
+  Indicator = 8,      ///< shown, but never focused
+};
+
+inline constexpr int NoIndex = -1;    ///< the index of a control that is no member of an array
+inline constexpr int NoMessage = 0;  ///< no message of this kind
+
+/// One row of a view's control table.
+struct ControlSpec {
+  std::string_view Name;               ///< of the control, or of its array
+  int Index = NoIndex;                 ///< inside the array
+  ControlKind Kind = ControlKind::Button;
+  std::string_view Caption;            ///< the caption, when it is no message
+  int CaptionMessage = NoMessage;      ///< the message that is its caption
+  int NameMessage = NoMessage;         ///< the message that is its spoken name; none: its caption is
+  int HelpMessage = NoMessage;         ///< the message that F1 speaks
+  GridCell Cell;
+  unsigned Traits = PlainControl;
+};
+
+/// What the speech service hands to every control that speaks for itself.
+struct SpeakingLink {
+  int MsgBase = 0;                 ///< message-id base of the speaking controls
+  TtsEngine* Voice = nullptr;      ///< SetVoice
+  TtsSpeaker* Referee = nullptr;   ///< SetReferee
+  bool Quiescent = true;           ///< true: the control announces nothing
+  int ListPosAct = 0;              ///< list-position verbosity action
+  std::string ListPosStr;          ///< list-position words
+};
+
+class Control {
+ public:
+  Control(const ControlSpec& spec, std::string caption, std::string spokenName, std::string helpText)
+      : Spec(spec), Caption(std::move(caption)), SpokenName(std::move(spokenName)), HelpText(std::move(helpText)) {}
+  virtual ~Control() = default;
+
+  std::string_view Name() const { return Spec.Name; }
+  int Index() const { return Spec.Index; }
+  bool Has(ControlTrait trait) const { return (Spec.Traits & trait) != 0; }
+  bool CanFocus() const { return Enabled && !Has(Indicator); }
+
+  const ControlSpec& Spec;
+  const std::string Caption;
+  const std::string SpokenName;  ///< spoken on focus and F7; a screen reader's name of the control
+  const std::string HelpText;    ///< spoken on F1; a screen reader's description of the control
+  bool Enabled = true;
+  SpeakingLink Speaking;
+};
+
+class Button : public Control {
+ public:
+  using Control::Control;
+};
+
+/// A read-only text box. The selection is counted in bytes.
+class TextBox : public Control {
+ public:
+  using Control::Control;
+  std::string Text;
+  std::size_t SelStart = 0;
+  std::size_t SelLength = 0;
+};
+
+}  // namespace qves

@@ -1,0 +1,121 @@
+// A form: its controls in Tab order, the focus, the menus, and the one place where a key and a click meet.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "model/Control.h"
+#include "model/KeyEvent.h"
+#include "model/Menu.h"
+
+namespace qves {
+
+class Form;
+
+/// Told what changed on a form, so that a shell can repaint it.
+class FormObserver {
+ public:
+  virtual ~FormObserver() = default;
+  /// Text, selection or enabled state of the control changed.
+  virtual void ControlChanged(Form&, Control&) {}
+  /// The box's text grew at its end; `from` is where the new part begins (bytes).
+  virtual void TextAppended(Form&, TextBox&, std::size_t /*from*/) {}
+  /// The form's focused control changed.
+  virtual void FocusChanged(Form&) {}
+};
+
+/// Where a panel of controls stands in the form's window.
+struct PanelSpec {
+  int Panel = 0;
+  int Row = 0;
+  int Column = 0;
+  int RowSpan = 1;
+  int ColumnSpan = 1;
+};
+
+class Form {
+ public:
+  Form(std::string name, std::string title);
+  virtual ~Form() = default;
+  Form(const Form&) = delete;
+  Form& operator=(const Form&) = delete;
+
+  const std::string& Name() const { return FormName; }
+  const std::string& Title() const { return FormTitle; }
+  const std::vector<std::unique_ptr<Control>>& Controls() const { return ControlList; }  ///< in Tab order
+  const std::vector<PanelSpec>& Panels() const { return PanelList; }
+  const std::vector<Menu>& Menus() const { return MenuList; }
+  Control* FocusedControl() const { return Focused; }
+  /// The control of that name, and index when it is a member of an array; null when there is none.
+  Control* Find(std::string_view name, int index = NoIndex) const;
+
+  virtual void Form_Load() {}
+  virtual void Form_Unload() {}
+
+  /// Presses a control, by key or by mouse: the one way to its handler. A disabled control does nothing. A fault of
+  /// the handler ends here, in OnFault.
+  void Click(Control& control);
+  /// What a mouse click, or a screen reader's press, does: the focus, then the click.
+  void MouseClick(Control& control);
+  /// The user went to the control, with Tab, the mouse or a screen reader. From then on Enter presses it.
+  void FocusByUser(Control& control);
+  /// Moves the focus and lets the control announce itself. Moving it to where it is, or to a control that cannot
+  /// have it, is nothing.
+  void SetFocus(Control& control);
+
+  /// The view's key map. Sets `handled` when it has used the key.
+  virtual void NotifyKeyDown(bool& /*handled*/, const KeyEvent&) {}
+  /// A key that the keyboard hook let through: the focused control's own keys, Tab, Enter and Space. True when used;
+  /// else the key is the toolkit's own (a copy, a movement in a text).
+  bool KeyDown(const KeyEvent& event);
+  /// A key release.
+  virtual void Form_KeyUp(int /*keyCode*/) {}
+  /// Chooses the menu item with that id; false when the form has none.
+  bool ChooseMenu(int id);
+  /// Moves the focus to the cancel control, if there is one.
+  void FocusCancelControl();
+
+  virtual void NotifyBookMark(int /*bookMark*/, TtsSpeaker&) {}
+  virtual void NotifySpeechStopped(TtsSpeaker&) {}
+
+  void AddObserver(FormObserver& observer);
+  void RemoveObserver(FormObserver& observer);
+
+ protected:
+  Control& Add(std::unique_ptr<Control> control);
+  void SetText(TextBox& box, std::string_view text);
+  void AppendText(TextBox& box, std::string_view text);
+  void SelectAll(TextBox& box);
+  /// Puts the focus on a control without a word.
+  void PlaceFocus(Control& control);
+  /// After a key of the key map has acted, Enter presses the default button.
+  void EnterPressesDefault() { EnterPressesFocused = false; }
+
+  virtual void OnClick(Control&) {}
+  virtual void OnGotFocus(Control&) {}
+  /// The focused control's own keys (help, name, copy). True when used.
+  virtual bool OnControlKey(Control&, const KeyEvent&) { return false; }
+  virtual void OnMenu(int /*id*/) {}
+  /// An arithmetic fault of a handler.
+  virtual void OnFault() {}
+
+  std::vector<PanelSpec> PanelList;
+  std::vector<Menu> MenuList;
+
+ private:
+  bool PressEnter();
+  void MoveFocus(int step);
+  template <class Notify>
+  void Tell(Notify notify);
+
+  std::string FormName;
+  std::string FormTitle;
+  std::vector<std::unique_ptr<Control>> ControlList;
+  std::vector<FormObserver*> Observers;
+  Control* Focused = nullptr;
+  bool EnterPressesFocused = false;
+};
+
+}  // namespace qves

@@ -1,0 +1,54 @@
+// The controls that bring outside events to the hidden host form: the keyboard hook, the menu hints, the window
+// messages. A shell raises them through the listener; without one they are dropped.
+#pragma once
+
+#include <string_view>
+
+#include "model/KeyEvent.h"
+
+namespace qves {
+
+template <class Listener>
+class Notifier {
+ public:
+  void SetListener(Listener* listener) { Current = listener; }
+  Listener* GetListener() const { return Current; }
+
+ private:
+  Listener* Current = nullptr;
+};
+
+class KeyListener {
+ public:
+  virtual ~KeyListener() = default;
+  /// True: the key is swallowed.
+  virtual bool KeyDown(const KeyEvent& event) = 0;
+  virtual void KeyUp(int keyCode) = 0;
+};
+
+class HintListener {
+ public:
+  virtual ~HintListener() = default;
+  /// A menu item is highlighted: its text without "&", its mnemonic character ("" for none), whether it opens a
+  /// sub-menu.
+  virtual void MenuItemHighlighted(std::string_view text, std::string_view mnemonic, bool hasSubMenu) = 0;
+  virtual void MenusClosed() = 0;
+};
+
+/// Why a program is asked to end.
+inline constexpr int SessionEnding = 2;
+
+class QueryUnloadListener {
+ public:
+  virtual ~QueryUnloadListener() = default;
+  virtual void QueryUnload(int reason) = 0;
+};
+
+/// The keyboard hook: sees every key before the view does.
+class KeyCapture : public Notifier<KeyListener> {};
+/// The menu-hint control.
+class HintNotify : public Notifier<HintListener> {};
+/// The window-message control: tells of the end of the desktop session.
+class AppWMSpy : public Notifier<QueryUnloadListener> {};
+
+}  // namespace qves

@@ -1,0 +1,25 @@
+// All outside things together, as a shell hands them to the calculator.
+#pragma once
+
+#include "platform/FileStore.h"
+#include "platform/Notifiers.h"
+#include "platform/Outside.h"
+#include "platform/TTS.h"
+#include "platform/WindowSystem.h"
+
+namespace qves {
+
+struct Platform {
+  TTS& Speech;
+  KeyCapture& Keys;
+  HintNotify& Hints;
+  AppWMSpy& WindowMessages;
+  WindowSystem& Windows;
+  FileStore& Files;
+  DirectoryManager& Directories;
+  qves::Registry& RegistryStore;
+  qves::Clock& Clock;
+  EventPump& Events;
+};
+
+}  // namespace qves

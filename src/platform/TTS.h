@@ -1,0 +1,84 @@
+// The speech engine control: a list of engines (one a voice) of all back ends, and what an engine and its speakers do.
+//
+// No call of any class here blocks: a back end queues the work for a thread of its own and returns at once, also when
+// its speech server hangs, dies or was never there. Whatever a back end has to tell arrives at the listener as a
+// queued event on the calculator's one thread.
+#pragma once
+
+#include <cstdint>
+#include <memory>
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace qves {
+
+/// A mark inside a text; it is reported when the speech reaches it.
+struct BookMark {
+  std::size_t Offset = 0;    ///< in bytes from the start of the text
+  std::int32_t Number = 0;
+};
+
+class TtsSpeaker {
+ public:
+  virtual ~TtsSpeaker() = default;
+  /// Silences what is being spoken and drops what is queued, then speaks the text (UTF-8). An empty text only
+  /// silences.
+  virtual void SpeakNow(std::string_view text, std::span<const BookMark> marks = {}) = 0;
+  /// Speaks the text (UTF-8) after what is being spoken and queued.
+  virtual void SpeakQueued(std::string_view text, std::span<const BookMark> marks = {}) = 0;
+  /// Silences the speaker and drops what is queued.
+  virtual void Stop() = 0;
+  /// True while the speaker speaks or has text queued.
+  virtual bool Busy() const = 0;
+};
+
+class TtsEngine {
+ public:
+  virtual ~TtsEngine() = default;
+  /// Makes the engine ready; false when it cannot speak at all.
+  virtual bool Initialise() = 0;
+  virtual void SetSpeed(int wordsPerMinute) = 0;
+  /// From 0 (silent) to 65535 (full). A larger value counts as full, a negative one as 0.
+  virtual void SetVolume(std::int32_t volume) = 0;
+  /// From MinimumPitch to MaximumPitch.
+  virtual void SetPitch(int pitch) = 0;
+  virtual int MinimumPitch() const = 0;
+  virtual int MaximumPitch() const = 0;
+  /// Speaker 1 or 2, owned by the engine; null for any other number.
+  virtual TtsSpeaker* Speaker(int number) = 0;
+  virtual bool Busy() const = 0;
+};
+
+/// What the settings are matched against.
+struct TtsEngineInfo {
+  std::string Manufacturer;
+  std::string Product;
+  std::string VoiceName;
+  int LanguageId = 0;  ///< the low ten bits are the primary language (9 English, 7 German, 12 French, ...)
+};
+
+/// Told, on the calculator's thread, what the speakers report.
+class TtsListener {
+ public:
+  virtual ~TtsListener() = default;
+  virtual void BookMarkReached(std::int32_t number, TtsSpeaker& speaker) = 0;
+  virtual void SpeechStopped(TtsSpeaker& speaker) = 0;
+  /// The list of engines has grown or shrunk since it was read last.
+  virtual void EngineListChanged() {}
+};
+
+class TTS {
+ public:
+  virtual ~TTS() = default;
+  /// How many engines are known by now.
+  virtual int Count() const = 0;
+  /// The engine's description; `index` counts from 1.
+  virtual TtsEngineInfo Item(int index) const = 0;
+  /// The engine itself; `index` counts from 1. Null when it cannot be had.
+  virtual std::unique_ptr<TtsEngine> Open(int index) = 0;
+  /// Null: nobody listens. Events of before are dropped.
+  virtual void SetListener(TtsListener* listener) = 0;
+};
+
+}  // namespace qves

@@ -1,0 +1,33 @@
+// Owns the services of one run.
+#pragma once
+
+#include "services/Services.h"
+
+namespace qves {
+
+class ServiceSet {
+ public:
+  explicit ServiceSet(Platform& platform)
+      : Log(platform.Files, platform.Clock),
+        Messages(platform.Files, platform.Directories, Log),
+        Verbosity(Messages),
+        SettingsStore(Settings, FolderLocations, Messages, Verbosity, Log, platform),
+        Speech(platform, Settings, Messages),
+        All{Settings, SettingsStore, FolderLocations, Messages, Log, Speech, Verbosity, platform} {}
+  ServiceSet(const ServiceSet&) = delete;
+  ServiceSet& operator=(const ServiceSet&) = delete;
+
+ private:
+  AppSettings Settings;
+  Folders FolderLocations;
+  ErrorLog Log;
+  MessageStore Messages;
+  VerbosityTable Verbosity;
+  SettingsFiles SettingsStore;
+  SpeechService Speech;
+
+ public:
+  Services All;
+};
+
+}  // namespace qves

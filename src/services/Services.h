@@ -1,0 +1,26 @@
+// The services, as they are handed to the forms.
+#pragma once
+
+#include "platform/Platform.h"
+#include "services/AppSettings.h"
+#include "services/ErrorLog.h"
+#include "services/Folders.h"
+#include "services/Messages.h"
+#include "services/Settings.h"
+#include "services/Speech.h"
+#include "services/VerbosityTable.h"
+
+namespace qves {
+
+struct Services {
+  AppSettings& Settings;
+  SettingsFiles& SettingsStore;
+  Folders& FolderLocations;
+  MessageStore& Messages;
+  ErrorLog& Log;
+  SpeechService& Speech;
+  VerbosityTable& Verbosity;
+  Platform& Outside;
+};
+
+}  // namespace qves

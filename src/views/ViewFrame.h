@@ -1,0 +1,25 @@
+// What a view asks of the application around it.
+#pragma once
+
+namespace qves {
+
+class Form;
+
+class ViewFrame {
+ public:
+  virtual ~ViewFrame() = default;
+  /// Unloads the current view and shows the one of that CalcView.
+  virtual void SwitchView(int calcView) = 0;
+  /// Unloads the current view; the program ends.
+  virtual void Exit() = 0;
+  /// Creates the hidden host form if need be and makes `keyTarget` the receiver of keys.
+  virtual void LoadHostForm(Form& keyTarget) = 0;
+  virtual void UnloadHostForm() = 0;
+  virtual bool IsSwitching() const = 0;
+  /// The view has finished its load.
+  virtual void ViewLoaded() = 0;
+  /// True once: the first view after start-up speaks the welcome.
+  virtual bool TakeWelcome() = 0;
+};
+
+}  // namespace qves
