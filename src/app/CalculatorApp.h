@@ -1,8 +1,9 @@
-// The whole calculator: start-up, the current view, the dialogs above it, view switching and the end.
+// The whole calculator: start-up, the current view, view switching and the end.
 #pragma once
 
 #include <memory>
 #include <optional>
+#include <utility>
 #include <vector>
 
 #include "app/frmCTLApp.h"
@@ -36,11 +37,11 @@ class CalculatorApp : private ViewFrame {
   /// Start-up: shows the first view. False when another copy runs and this one is to end at once.
   bool Main(const StartOptions& options = {});
 
-  /// The form that has the keyboard: the top dialog, else the view; null before the start and after the end.
-  Form* ActiveForm() const;
+  /// The form that has the keyboard; null before the start and after the end.
+  Form* ActiveForm() const { return View.get(); }
 
-  /// A key press: through the keyboard hook, then to the active form. True when the calculator has used it; else it
-  /// is the toolkit's own.
+  /// A key press: through the keyboard hook, then to the active form. True when the calculator has used it;
+  /// else it is the toolkit's own.
   bool KeyDown(const KeyEvent& event);
   /// The release of a key.
   void KeyUp(int keyCode);
@@ -49,23 +50,23 @@ class CalculatorApp : private ViewFrame {
 
  private:
   // ViewFrame
+  bool HasView(int calcView) const override;
   void SwitchView(int calcView) override;
   void Exit() override;
   void LoadHostForm(Form& keyTarget) override;
-  void UnloadHostForm() override;
+  void LeaveKeys() override;
+  void UnloadHostForm() override { HostForm.reset(); }
   bool IsSwitching() const override { return ViewSwitching; }
   void ViewLoaded() override { ViewSwitching = false; }
-  bool TakeWelcome() override;
+  bool TakeWelcome() override { return std::exchange(WelcomeDue, false); }
 
-  std::unique_ptr<Form> CreateView(int calcView);
-  void ShowView(std::unique_ptr<Form> view);
+  void ShowView(int calcView);
   void UnloadView();
 
   Services& Services_;
   AppObserver& Observer;
   std::unique_ptr<frmCTLApp> HostForm;
   std::unique_ptr<Form> View;
-  std::vector<std::unique_ptr<Form>> Dialogs;
   std::vector<std::unique_ptr<Form>> Retired;  ///< unloaded forms, kept until their own handler has returned
   bool ViewSwitching = false;
   bool WelcomeDue = true;

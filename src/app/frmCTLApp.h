@@ -1,5 +1,5 @@
-// The hidden host form: keyboard hook, menu hints, speech notifications and the end of the session, forwarded to the
-// form that is current. It lives as long as one view.
+// The hidden host form: keyboard hook, menu hints, speech notifications and the end of the session, forwarded
+// to the form that is current. It lives as long as one view.
 #pragma once
 
 #include <functional>
@@ -12,7 +12,10 @@
 
 namespace qves {
 
-class frmCTLApp : private KeyListener, private HintListener, private QueryUnloadListener, private TtsListener {
+class frmCTLApp : private KeyListener,
+                  private HintListener,
+                  private QueryUnloadListener,
+                  private TtsListener {
  public:
   struct Callbacks {
     std::function<Form*()> ActiveForm;

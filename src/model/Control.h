@@ -30,36 +30,39 @@ enum ControlTrait : unsigned {
   Indicator = 8,      ///< shown, but never focused
 };
 
-inline constexpr int NoIndex = -1;    ///< the index of a control that is no member of an array
+inline constexpr int NoIndex = -1;   ///< the index of a control that is no member of an array
 inline constexpr int NoMessage = 0;  ///< no message of this kind
 
 /// One row of a view's control table.
 struct ControlSpec {
-  std::string_view Name;               ///< of the control, or of its array
-  int Index = NoIndex;                 ///< inside the array
+  std::string_view Name = {};  ///< of the control, or of its array
+  int Index = NoIndex;         ///< inside the array
   ControlKind Kind = ControlKind::Button;
-  std::string_view Caption;            ///< the caption, when it is no message
-  int CaptionMessage = NoMessage;      ///< the message that is its caption
-  int NameMessage = NoMessage;         ///< the message that is its spoken name; none: its caption is
-  int HelpMessage = NoMessage;         ///< the message that F1 speaks
-  GridCell Cell;
+  std::string_view Caption = {};   ///< the caption, when it is no message
+  int CaptionMessage = NoMessage;  ///< the message that is its caption
+  int NameMessage = NoMessage;     ///< the message that is its spoken name; none: its caption is
+  int HelpMessage = NoMessage;     ///< the message that F1 speaks
+  GridCell Cell = {};
   unsigned Traits = PlainControl;
 };
 
 /// What the speech service hands to every control that speaks for itself.
 struct SpeakingLink {
-  int MsgBase = 0;                 ///< message-id base of the speaking controls
-  TtsEngine* Voice = nullptr;      ///< SetVoice
-  TtsSpeaker* Referee = nullptr;   ///< SetReferee
-  bool Quiescent = true;           ///< true: the control announces nothing
-  int ListPosAct = 0;              ///< list-position verbosity action
-  std::string ListPosStr;          ///< list-position words
+  int MsgBase = 0;                ///< message-id base of the speaking controls
+  TtsEngine* Voice = nullptr;     ///< SetVoice
+  TtsSpeaker* Referee = nullptr;  ///< SetReferee
+  bool Quiescent = true;          ///< true: the control announces nothing
+  int ListPosAct = 0;             ///< list-position verbosity action
+  std::string ListPosStr;         ///< list-position words
 };
 
 class Control {
  public:
   Control(const ControlSpec& spec, std::string caption, std::string spokenName, std::string helpText)
-      : Spec(spec), Caption(std::move(caption)), SpokenName(std::move(spokenName)), HelpText(std::move(helpText)) {}
+      : Spec(spec),
+        Caption(std::move(caption)),
+        SpokenName(std::move(spokenName)),
+        HelpText(std::move(helpText)) {}
   virtual ~Control() = default;
 
   std::string_view Name() const { return Spec.Name; }

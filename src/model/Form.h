@@ -9,6 +9,7 @@
 #include "model/Control.h"
 #include "model/KeyEvent.h"
 #include "model/Menu.h"
+#include "model/StateField.h"
 
 namespace qves {
 
@@ -54,21 +55,21 @@ class Form {
   virtual void Form_Load() {}
   virtual void Form_Unload() {}
 
-  /// Presses a control, by key or by mouse: the one way to its handler. A disabled control does nothing. A fault of
-  /// the handler ends here, in OnFault.
+  /// Presses a control, by key or by mouse: the one way to its handler. A disabled control does nothing. A
+  /// fault of the handler ends here, in OnFault.
   void Click(Control& control);
   /// What a mouse click, or a screen reader's press, does: the focus, then the click.
   void MouseClick(Control& control);
   /// The user went to the control, with Tab, the mouse or a screen reader. From then on Enter presses it.
   void FocusByUser(Control& control);
-  /// Moves the focus and lets the control announce itself. Moving it to where it is, or to a control that cannot
-  /// have it, is nothing.
+  /// Moves the focus and lets the control announce itself. Moving it to where it is, or to a control that
+  /// cannot have it, is nothing.
   void SetFocus(Control& control);
 
   /// The view's key map. Sets `handled` when it has used the key.
   virtual void NotifyKeyDown(bool& /*handled*/, const KeyEvent&) {}
-  /// A key that the keyboard hook let through: the focused control's own keys, Tab, Enter and Space. True when used;
-  /// else the key is the toolkit's own (a copy, a movement in a text).
+  /// A key that the keyboard hook let through: the focused control's own keys, Tab, Enter and Space. True
+  /// when used; else the key is the toolkit's own (a copy, a movement in a text).
   bool KeyDown(const KeyEvent& event);
   /// A key release.
   virtual void Form_KeyUp(int /*keyCode*/) {}
@@ -79,6 +80,9 @@ class Form {
 
   virtual void NotifyBookMark(int /*bookMark*/, TtsSpeaker&) {}
   virtual void NotifySpeechStopped(TtsSpeaker&) {}
+
+  /// The fields of the form's engine by their names; none where there is no engine.
+  virtual StateFields EngineState() const { return {}; }
 
   void AddObserver(FormObserver& observer);
   void RemoveObserver(FormObserver& observer);

@@ -6,7 +6,8 @@ namespace qves {
 /// The bits of a key event's shift state.
 enum ShiftState : int { NoShift = 0, ShiftBit = 1, ControlBit = 2, AltBit = 4 };
 
-/// Key codes that have no printable character, and the keypad's. Letters and digits are their upper-case ASCII.
+/// Key codes that have no printable character, and the keypad's. Letters and digits are their upper-case
+/// ASCII.
 enum KeyCode : int {
   KeyBackspace = 8,
   KeyTab = 9,

@@ -1,5 +1,5 @@
-// The controls that bring outside events to the hidden host form: the keyboard hook, the menu hints, the window
-// messages. A shell raises them through the listener; without one they are dropped.
+// The controls that bring outside events to the hidden host form: the keyboard hook, the menu hints, the
+// window messages. A shell raises them through the listener; without one they are dropped.
 #pragma once
 
 #include <string_view>
@@ -29,8 +29,8 @@ class KeyListener {
 class HintListener {
  public:
   virtual ~HintListener() = default;
-  /// A menu item is highlighted: its text without "&", its mnemonic character ("" for none), whether it opens a
-  /// sub-menu.
+  /// A menu item is highlighted: its text without "&", its mnemonic character ("" for none), whether it opens
+  /// a sub-menu.
   virtual void MenuItemHighlighted(std::string_view text, std::string_view mnemonic, bool hasSubMenu) = 0;
   virtual void MenusClosed() = 0;
 };

@@ -25,7 +25,8 @@ class Registry {
   virtual ~Registry() = default;
   virtual std::optional<std::string> Read(std::string_view key, std::string_view value) = 0;
   /// False on failure, with the reason in `error`.
-  virtual bool Write(std::string_view key, std::string_view value, std::string_view text, std::string& error) = 0;
+  virtual bool Write(std::string_view key, std::string_view value, std::string_view text,
+                     std::string& error) = 0;
 };
 
 struct Date {

@@ -1,8 +1,9 @@
-// The speech engine control: a list of engines (one a voice) of all back ends, and what an engine and its speakers do.
+// The speech engine control: a list of engines (one a voice) of all back ends, and what an engine and its
+// speakers do.
 //
-// No call of any class here blocks: a back end queues the work for a thread of its own and returns at once, also when
-// its speech server hangs, dies or was never there. Whatever a back end has to tell arrives at the listener as a
-// queued event on the calculator's one thread.
+// No call of any class here blocks: a back end queues the work for a thread of its own and returns at once,
+// also when its speech server hangs, dies or was never there. Whatever a back end has to tell arrives at the
+// listener as a queued event on the calculator's one thread.
 #pragma once
 
 #include <cstdint>
@@ -15,7 +16,7 @@ namespace qves {
 
 /// A mark inside a text; it is reported when the speech reaches it.
 struct BookMark {
-  std::size_t Offset = 0;    ///< in bytes from the start of the text
+  std::size_t Offset = 0;  ///< in bytes from the start of the text
   std::int32_t Number = 0;
 };
 

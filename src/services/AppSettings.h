@@ -1,5 +1,5 @@
-// The one settings record. The calculator uses a part of it; the rest is read so that the record matches the host
-// reading product's.
+// The one settings record. The calculator uses a part of it; the rest is read so that the record matches the
+// host reading product's.
 #pragma once
 
 #include <cstdint>

@@ -8,12 +8,15 @@ class Form;
 class ViewFrame {
  public:
   virtual ~ViewFrame() = default;
+  virtual bool HasView(int calcView) const = 0;
   /// Unloads the current view and shows the one of that CalcView.
   virtual void SwitchView(int calcView) = 0;
   /// Unloads the current view; the program ends.
   virtual void Exit() = 0;
   /// Creates the hidden host form if need be and makes `keyTarget` the receiver of keys.
   virtual void LoadHostForm(Form& keyTarget) = 0;
+  /// The view is leaving: no more keys for it.
+  virtual void LeaveKeys() = 0;
   virtual void UnloadHostForm() = 0;
   virtual bool IsSwitching() const = 0;
   /// The view has finished its load.

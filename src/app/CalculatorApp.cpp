@@ -1,0 +1,105 @@
+#include "app/CalculatorApp.h"
+
+#include "views/standard/frmStandard.h"
+
+namespace qves {
+namespace {
+
+constexpr std::string_view ApplicationTitle = "QVES Calculator Application";
+
+using ViewMaker = std::unique_ptr<Form> (*)(Services&, ViewFrame&);
+
+template <class ViewForm>
+std::unique_ptr<Form> Make(Services& services, ViewFrame& frame) {
+  return std::make_unique<ViewForm>(services, frame);
+}
+
+/// By CalcView; null for a view that is not built yet.
+constexpr ViewMaker ViewMakers[] = {nullptr, nullptr, Make<frmStandard>, nullptr};
+
+bool IsCalcView(int number) {
+  return number >= ScientificView && number <= BusinessView;
+}
+
+}  // namespace
+
+CalculatorApp::CalculatorApp(Services& services, AppObserver& observer)
+    : Services_(services), Observer(observer) {}
+
+CalculatorApp::~CalculatorApp() = default;
+
+bool CalculatorApp::Main(const StartOptions& options) {
+  WindowSystem& windows = Services_.Outside.Windows;
+  if (windows.AnotherInstanceRuns()) {
+    // Under another title, so that the search for the first copy cannot find this one.
+    windows.SetApplicationTitle("...duplicate instance");
+    windows.ActivateApplication(ApplicationTitle);
+    return false;
+  }
+  windows.SetApplicationTitle(ApplicationTitle);
+  Services_.Messages.LoadMessageFile("CalcMsg.txt");
+  Services_.SettingsStore.ReadSettings();
+  const int calcView = options.View.value_or(Services_.Settings.CalcView);
+  // No fallback for a number that is no view: the program then runs without a window, as wanted.
+  if (IsCalcView(calcView)) ShowView(HasView(calcView) ? calcView : int{StandardView});
+  return true;
+}
+
+bool CalculatorApp::HasView(int calcView) const {
+  return IsCalcView(calcView) && ViewMakers[calcView] != nullptr;
+}
+
+void CalculatorApp::ShowView(int calcView) {
+  View = ViewMakers[calcView](Services_, *this);
+  View->Form_Load();
+  Observer.FormShown(*View);
+}
+
+void CalculatorApp::SwitchView(int calcView) {
+  ViewSwitching = true;
+  UnloadView();
+  ShowView(calcView);
+}
+
+void CalculatorApp::Exit() {
+  UnloadView();
+  Observer.Ended();
+}
+
+void CalculatorApp::UnloadView() {
+  if (!View) return;
+  // The wait of the shutdown lets events run; they find no view any more.
+  Retired.push_back(std::move(View));
+  Form& leaving = *Retired.back();
+  leaving.Form_Unload();
+  Observer.FormClosed(leaving);
+}
+
+void CalculatorApp::Leave() {
+  if (View) Exit();
+}
+
+bool CalculatorApp::KeyDown(const KeyEvent& event) {
+  Retired.clear();
+  KeyListener* hook = Services_.Outside.Keys.GetListener();
+  if (hook && hook->KeyDown(event)) return true;
+  return View && !(HostForm && HostForm->IsMenuActive()) && View->KeyDown(event);
+}
+
+void CalculatorApp::KeyUp(int keyCode) {
+  if (KeyListener* hook = Services_.Outside.Keys.GetListener()) hook->KeyUp(keyCode);
+  if (View) View->Form_KeyUp(keyCode);
+}
+
+void CalculatorApp::LoadHostForm(Form& keyTarget) {
+  if (!HostForm)
+    HostForm = std::make_unique<frmCTLApp>(
+        Services_, frmCTLApp::Callbacks{[this] { return ActiveForm(); }, [this] { Leave(); }});
+  HostForm->SetKeyTarget(&keyTarget);
+}
+
+void CalculatorApp::LeaveKeys() {
+  if (HostForm) HostForm->SetKeyTarget(nullptr);
+}
+
+}  // namespace qves

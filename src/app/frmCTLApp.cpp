@@ -1,0 +1,102 @@
+#include "app/frmCTLApp.h"
+
+#include "services/Text.h"
+
+namespace qves {
+namespace {
+
+constexpr int ControlPlusMessage = 20;
+constexpr int ShiftPlusMessage = 21;
+constexpr int OpensDialogMessage = 22;
+constexpr int HasSubMenuMessage = 23;
+constexpr int MnemonicMessage = 24;
+constexpr int MoreItemsMessage = 25;
+constexpr std::string_view Dots = "...";
+
+}  // namespace
+
+frmCTLApp::frmCTLApp(Services& services, Callbacks callbacks)
+    : Services_(services), Calls(std::move(callbacks)) {
+  Services_.Outside.Keys.SetListener(this);
+  Services_.Outside.Hints.SetListener(this);
+  Services_.Outside.WindowMessages.SetListener(this);
+  Services_.Outside.Speech.SetListener(this);
+}
+
+frmCTLApp::~frmCTLApp() {
+  Services_.Outside.Keys.SetListener(nullptr);
+  Services_.Outside.Hints.SetListener(nullptr);
+  Services_.Outside.WindowMessages.SetListener(nullptr);
+  Services_.Outside.Speech.SetListener(nullptr);
+}
+
+bool frmCTLApp::KeyDown(const KeyEvent& event) {
+  CtrlAlone = event.Code == KeyControl;
+  if (MenuActive) {
+    if (event.Code != KeyF1) return false;
+    DescribeMenuItem();
+    return true;
+  }
+  if (event.Code == KeyEscape) FocusCancelControl();
+  bool handled = false;
+  if (KeyTarget) KeyTarget->NotifyKeyDown(handled, event);
+  return handled;
+}
+
+void frmCTLApp::KeyUp(int keyCode) {
+  if (keyCode == KeyControl && CtrlAlone) Services_.Speech.StopSpeech();
+  CtrlAlone = false;
+}
+
+void frmCTLApp::FocusCancelControl() {
+  if (Form* form = Calls.ActiveForm()) form->FocusCancelControl();
+}
+
+void frmCTLApp::MenuItemHighlighted(std::string_view text, std::string_view mnemonic, bool hasSubMenu) {
+  MenuActive = true;
+  if (Services_.Settings.DontSpeak) return;
+  const MessageStore& messages = Services_.Messages;
+  MenuMnemonic = mnemonic;
+  MenuHintText = ReplaceAll(text, "Ctrl+", messages.GetMessage(ControlPlusMessage) + " ");
+  MenuHintText = ReplaceAll(MenuHintText, "Shift+", messages.GetMessage(ShiftPlusMessage) + " ");
+  if (MenuHintText.find(Dots) != std::string::npos) {
+    // Only the last three characters go when the dots end the text; else every "..." does.
+    MenuHintText =
+        MenuHintText.ends_with(Dots) && MenuHintText.find(Dots) == MenuHintText.size() - Dots.size()
+            ? MenuHintText.substr(0, MenuHintText.size() - Dots.size())
+            : ReplaceAll(MenuHintText, Dots, "");
+    MenuHintText += ". " + messages.GetMessage(OpensDialogMessage);
+  }
+  MenuHasSubMenu = hasSubMenu;
+  Services_.Speech.SpeakText(hasSubMenu ? MenuHintText + ". " + messages.GetMessage(HasSubMenuMessage)
+                                        : MenuHintText);
+}
+
+void frmCTLApp::DescribeMenuItem() {
+  std::string text = MenuHintText + ". ";
+  if (!MenuMnemonic.empty())
+    text += FillPlaceholders(Services_.Messages.GetMessage(MnemonicMessage),
+                             {Services_.Speech.SpeakableChar(MenuMnemonic)});
+  if (MenuHasSubMenu) text += " " + Services_.Messages.GetMessage(MoreItemsMessage);
+  Services_.Speech.SpeakText(text);
+}
+
+void frmCTLApp::QueryUnload(int reason) {
+  if (reason != SessionEnding) return;
+  const auto unload = Calls.UnloadView;  // this form goes with the view
+  unload();
+}
+
+void frmCTLApp::BookMarkReached(std::int32_t number, TtsSpeaker& speaker) {
+  if (BookMarkTarget) BookMarkTarget->NotifyBookMark(number, speaker);
+}
+
+void frmCTLApp::SpeechStopped(TtsSpeaker& speaker) {
+  if (SpeechStoppedTarget) SpeechStoppedTarget->NotifySpeechStopped(speaker);
+}
+
+void frmCTLApp::EngineListChanged() {
+  Services_.Speech.EngineListChanged();
+}
+
+}  // namespace qves

@@ -1,0 +1,229 @@
+#include "engine/EntryEngine.h"
+
+#include "engine/Numbers.h"
+#include "model/ArithmeticFault.h"
+
+namespace qves {
+namespace {
+
+using enum qves::LastAction;
+
+constexpr int PointNameMessage = 1073;
+constexpr int SeparatorMessage = 1081;
+
+bool IsOneOf(LastAction action, std::initializer_list<LastAction> list) {
+  for (const LastAction one : list)
+    if (one == action) return true;
+  return false;
+}
+
+}  // namespace
+
+void EntryEngine::Digit(const PressedKey& key) {
+  Says.Say(key.SpokenName);
+  if (StartsAnew()) {
+    ClearAll();
+    EntryText.clear();
+  }
+  if (Shown == "(" || LastAction == Biop) {
+    BeginSecondOperand();
+    EntryText = key.Caption;
+  } else {
+    // The lone leading zero is replaced.
+    if (Shown == "0" && !DecimalEntered) EntryText.clear();
+    EntryText += key.Caption;
+  }
+  Show(EntryText);
+  CurrentValue = TextToNumber(EntryText);
+  LastAction = Num;
+}
+
+void EntryEngine::DecimalPoint(const PressedKey& key) {
+  Says.Say(key.SpokenName);
+  if (EntryHoldsPoint()) return;
+  if (StartsAnew()) ClearAll();
+  const std::string& separator = Says.Message(SeparatorMessage);
+  if (Shown == "(" || LastAction == Biop) {
+    BeginSecondOperand();
+    EntryText = "0" + separator;
+    CurrentValue = 0;
+  } else if (LastAction != Decimal) {
+    EntryText += separator;
+  }
+  Show(EntryText);
+  DecimalEntered = true;
+  LastAction = Decimal;
+}
+
+void EntryEngine::Backspace(const PressedKey&) {
+  const std::string last = EntryText.empty() ? "" : EntryText.substr(EntryText.size() - 1);
+  const bool isPoint = last == Says.Message(SeparatorMessage);
+  Says.Say(isPoint ? Says.Message(PointNameMessage) : last);
+  // A sign change may be backspaced into; after any other result the key only speaks.
+  if (!IsOneOf(LastAction, {Num, qves::LastAction::Backspace, Decimal}) &&
+      !(CurrentOp == "+/-" && LastAction == Uop))
+    return;
+  const std::size_t length = EntryText.size();
+  if (length < 2 || (length == 2 && EntryText.front() == '-')) {
+    EntryText = "0";
+  } else {
+    if (isPoint) DecimalEntered = false;
+    EntryText.pop_back();
+  }
+  ErrorState = false;
+  Show(EntryText);
+  CurrentValue = TextToNumber(EntryText);
+  LastAction = qves::LastAction::Backspace;
+}
+
+void EntryEngine::ClearEntry(const PressedKey& key) {
+  Says.Say(key.SpokenName);
+  if (SecondOperandDue()) BeginSecondOperand();
+  ErrorState = false;
+  EntryText = "0";
+  CurrentValue = 0;
+  DecimalEntered = false;
+  Show(EntryText);
+  LastAction = Ce;
+}
+
+void EntryEngine::BinaryOperator(const PressedKey& key) {
+  if (ErrorState) ClearAll();
+  Says.Say(key.SpokenName);
+  DecimalEntered = false;
+  CurrentOp = key.Caption;
+  if (LastAction != Biop) CompletePending();
+  PendingOp = CurrentOp;  // "" after a failed evaluation
+  SecondOperandBegun = false;
+  LastAction = Biop;
+  if (ErrorState) Says.SayError();
+}
+
+void EntryEngine::UnaryOperator(const PressedKey& key) {
+  DecimalEntered = false;
+  CurrentOp = key.Caption;
+  if (!ErrorState) Calculate(Accumulator, CurrentValue, key.Caption);
+  // Straight after a binary operator it cancels that and applies to the number shown.
+  if (LastAction == Biop) PendingOp.clear();
+  LastAction = Uop;
+  SayResult("");
+}
+
+void EntryEngine::Equals(const PressedKey& key) {
+  // A second equals repeats nothing, and an operator without its second operand is dropped. Both are wanted.
+  if (!IsOneOf(LastAction, {Equal, Biop})) CompletePending();
+  PendingOp.clear();
+  SayResult(std::string(key.Caption) + " ");
+  LastAction = Equal;
+  DecimalEntered = false;
+}
+
+void EntryEngine::ClearAll() {
+  PendingOp.clear();
+  CurrentOp.clear();
+  LastAction = None;
+  PrevEntryText = EntryText = "0";
+  DecimalEntered = false;
+  ErrorState = false;
+  SecondOperandBegun = false;
+  Show(EntryText);
+  Accumulator = CurrentValue = 0;
+  TapeLine.clear();
+}
+
+void EntryEngine::Calculate(double first, double& second, std::string_view op) {
+  if (op.empty()) return;
+  try {
+    Evaluate(first, second, op);
+  } catch (const ArithmeticFault&) {
+    Fail();
+  }
+}
+
+void EntryEngine::Evaluate(double first, double& second, std::string_view op) {
+  const OperatorRow* row = FindOperator(Operators, op);
+  const std::string secondText = NumberToText(second);
+  if (!row || row->Operands == Arity::Binary)
+    TapeLine = NumberToText(first) + " " + std::string(op) + " " + secondText + " = ";
+  else if (row->TapeLead.empty())
+    TapeLine.clear();
+  else
+    TapeLine = std::string(row->TapeLead) + secondText + std::string(row->TapeTail);
+  if (row) second = row->Apply(first, second);
+  EntryText = NumberToText(second);
+  Show(EntryText);
+  WriteTapeLine();
+}
+
+void EntryEngine::WriteTapeLine() {
+  TapeLine += EntryText;
+  const std::string line = TapeLine + "\r\n";
+  TapeText += line;
+  Host.AppendTape(line);
+}
+
+void EntryEngine::Fail() {
+  ClearAll();
+  ErrorState = true;
+  EntryText = "E";
+  Show(EntryText);
+}
+
+void EntryEngine::FailAloud() {
+  Fail();
+  Says.SayError();
+}
+
+/// A digit or a point after a result or an error starts a new calculation.
+bool EntryEngine::StartsAnew() const {
+  return ErrorState || IsOneOf(LastAction, {qves::LastAction::Memory, Uop, Equal});
+}
+
+/// A pending operator waits for its second operand; a store after the operator does not begin it.
+bool EntryEngine::SecondOperandDue() const {
+  return LastAction == Biop || (!PendingOp.empty() && !SecondOperandBegun);
+}
+
+void EntryEngine::BeginSecondOperand() {
+  PrevEntryText = EntryText;
+  Accumulator = CurrentValue;
+  SecondOperandBegun = true;
+}
+
+/// True when the number being typed has its point already.
+bool EntryEngine::EntryHoldsPoint() const {
+  if (StartsAnew() || Shown == "(" || LastAction == Biop) return false;
+  return EntryText.find(Says.Message(SeparatorMessage)) != std::string::npos;
+}
+
+void EntryEngine::CompletePending() {
+  if (SecondOperandBegun) Calculate(Accumulator, CurrentValue, PendingOp);
+}
+
+void EntryEngine::Show(std::string_view text) {
+  Shown = text;
+  Host.ShowDisplay(text);
+}
+
+void EntryEngine::SayResult(std::string_view leadIn) {
+  if (ErrorState)
+    Says.SayError();
+  else
+    Says.SayValue(EntryText, leadIn);
+}
+
+StateFields EntryEngine::Fields() const {
+  return {{"PrevEntryText", PrevEntryText},
+          {"EntryText", EntryText},
+          {"Accumulator", Accumulator},
+          {"CurrentValue", CurrentValue},
+          {"DecimalEntered", DecimalEntered},
+          {"MemoryText", MemoryCell.Text()},
+          {"PendingOp", PendingOp},
+          {"LastAction", std::string(ToWord(LastAction))},
+          {"CurrentOp", CurrentOp},
+          {"TapeLine", TapeLine},
+          {"TapeText", TapeText}};
+}
+
+}  // namespace qves

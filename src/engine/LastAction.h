@@ -1,0 +1,17 @@
+// The kind of the last key, as the engine remembers it.
+#pragma once
+
+#include <string_view>
+
+namespace qves {
+
+enum class LastAction { None, Num, Decimal, Backspace, Ce, Biop, Uop, Equal, Memory };
+
+/// The word of an action: "num", "biop", ...; "" for None.
+constexpr std::string_view ToWord(LastAction action) {
+  constexpr std::string_view words[] = {"",     "num", "decimal", "backspace", "CE",
+                                        "biop", "uop", "equal",   "memory"};
+  return words[static_cast<int>(action)];
+}
+
+}  // namespace qves

@@ -1,0 +1,28 @@
+// The one memory register, kept as text.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace qves {
+
+class MemoryRegister {
+ public:
+  const std::string& Text() const { return MemoryText; }
+  /// "M" while something has been stored, "" after a clear.
+  std::string_view Indicator() const { return Stored ? "M" : ""; }
+
+  void Clear();
+  /// Keeps the text as it stands, a trailing point included.
+  void Store(std::string_view text);
+  /// Adds the number; faults when the sum is not finite, and then keeps what it held.
+  void Add(double number);
+  /// The number held. Faults when it is none.
+  double Value() const;
+
+ private:
+  std::string MemoryText = "0";
+  bool Stored = false;
+};
+
+}  // namespace qves

@@ -1,0 +1,25 @@
+// Numbers and their texts. Nothing here depends on the locale.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace qves {
+
+/// The value itself; faults when it is not finite.
+double Checked(double value);
+
+/// The general text of a number: up to 15 significant digits, "-" for negative ones, exponent form ("1E+20",
+/// "1E-05") for very large and very small magnitudes. Negative zero is "0".
+std::string NumberToText(double value);
+
+/// The value of a text: blanks around, a sign, digits with a point, an exponent of "E" or "e". An exponent
+/// that has no digit yet counts as absent. Nothing when the text is no number; faults when it is beyond a
+/// double; a value too small for one is 0.
+std::optional<double> ParseNumber(std::string_view text);
+
+/// As ParseNumber, but faults when the text is no number.
+double TextToNumber(std::string_view text);
+
+}  // namespace qves

@@ -1,0 +1,38 @@
+// Files and folders of the machine, optionally only those below one folder.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "platform/FileStore.h"
+
+namespace qves {
+
+class PosixFileStore : public FileStore {
+ public:
+  /// No limits.
+  PosixFileStore() = default;
+  /// Writes below `root` only, reads below `root` and `programFolder` only; anything else is not there.
+  /// Relative paths are not there either.
+  PosixFileStore(std::string root, std::string programFolder);
+
+  std::optional<std::string> Read(const std::string& path, std::string& error) override;
+  bool Write(const std::string& path, std::string_view content, std::string& error) override;
+  bool Append(const std::string& path, std::string_view text, std::string& error) override;
+  bool IsFile(const std::string& path) override;
+  bool IsFolder(const std::string& path) override;
+  bool MakeFolder(const std::string& path) override;
+
+  /// The files written since the last call, in order.
+  std::vector<std::string> TakeWritten();
+
+ private:
+  bool MayRead(const std::string& path) const;
+  bool MayWrite(const std::string& path, std::string& error) const;
+
+  std::string Root;
+  std::string ProgramFolder;
+  std::vector<std::string> Written;
+};
+
+}  // namespace qves

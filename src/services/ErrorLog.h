@@ -1,0 +1,37 @@
+// The error log: a line for each fault of the outside world.
+#pragma once
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/FileStore.h"
+#include "platform/Outside.h"
+
+namespace qves {
+
+inline constexpr int SettingsErrorCode = 1;  ///< a settings file
+inline constexpr int MessageErrorCode = 2;   ///< a message file
+inline constexpr int OverflowErrorCode = 6;  ///< a count beyond its integer range
+
+class ErrorLog {
+ public:
+  ErrorLog(FileStore& files, qves::Clock& clock) : Files(files), TheClock(clock) {}
+
+  /// The folder the log lives in. Lines written before it is known are kept and written now.
+  void SetFolder(const std::string& temporaryFolder);
+
+  /// Appends one line to "Error Log.txt": local date and time, code and text, separated by tabs. Makes the
+  /// folder when missing. When the log cannot be written the line goes to standard error.
+  void WriteErrorLog(int code, std::string_view text);
+
+ private:
+  void Append(const std::string& line);
+
+  FileStore& Files;
+  qves::Clock& TheClock;
+  std::string Folder;
+  std::vector<std::string> Waiting;
+};
+
+}  // namespace qves

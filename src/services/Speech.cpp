@@ -1,0 +1,178 @@
+#include "services/Speech.h"
+
+#include <charconv>
+#include <cmath>
+#include <limits>
+
+#include "model/ArithmeticFault.h"
+#include "services/Text.h"
+
+namespace qves {
+namespace {
+
+constexpr int PrimaryLanguageMask = 1023;
+constexpr int PitchSteps = 19;  // step 1 is the minimum, step 20 the maximum
+
+constexpr int LineBreakMessage = 402;
+constexpr int PointMessage = 1073;
+constexpr int DecimalSeparatorMessage = 1081;
+constexpr int MinusMessage = 1204;
+constexpr int TimesMessage = 1208;
+constexpr int MsgBaseMessage = 99;
+constexpr int CharacterNames = 4000;  // + the ASCII code
+
+bool IsDigit(char c) {
+  return c >= '0' && c <= '9';
+}
+
+bool Wants(std::string_view setting, std::string_view item) {
+  return setting.empty() || setting == item;
+}
+
+}  // namespace
+
+bool SpeechService::CreateSpeech(std::string_view voice, std::string_view manufacturer,
+                                 std::string_view product, int language) {
+  int index = FindEngine(voice, manufacturer, product, language);
+  ExactVoice = index > 0;
+  if (index < 0) index = FindEngine("", "", "", language);
+  return OpenEngine(index < 0 ? 1 : index);
+}
+
+int SpeechService::FindEngine(std::string_view voice, std::string_view manufacturer, std::string_view product,
+                              int language) const {
+  const int count = Outside.Speech.Count();
+  for (int index = 1; index <= count; ++index) {
+    const TtsEngineInfo item = Outside.Speech.Item(index);
+    if (Wants(voice, item.VoiceName) && Wants(product, item.Product) &&
+        Wants(manufacturer, item.Manufacturer) &&
+        (language == 0 || language == (item.LanguageId & PrimaryLanguageMask)))
+      return index;
+  }
+  return -1;
+}
+
+bool SpeechService::OpenEngine(int index) {
+  ReleaseSpeech();
+  if (index > Outside.Speech.Count()) return false;
+  SpeechEngine = Outside.Speech.Open(index);
+  if (!SpeechEngine || !SpeechEngine->Initialise()) return false;
+  ApplyVoiceSettings();
+  PrimarySpeaker = SpeechEngine->Speaker(2);
+  SecondSpeaker = SpeechEngine->Speaker(1);
+  return true;
+}
+
+void SpeechService::ApplyVoiceSettings() {
+  SpeechEngine->SetSpeed(Settings.SystemSpeed);
+  SpeechEngine->SetVolume(Settings.SystemVolume);
+  if (Settings.SystemPitch == -1) return;
+  const double lowest = SpeechEngine->MinimumPitch();
+  const double step = (SpeechEngine->MaximumPitch() - lowest) / PitchSteps;
+  SpeechEngine->SetPitch(static_cast<int>(std::nearbyint(lowest + step * (Settings.SystemPitch - 1))));
+}
+
+void SpeechService::ShutDownSpeech() {
+  StopSpeech();
+  const std::int64_t end = std::int64_t{Outside.Clock.TickCount()} + ShutDownWait;
+  if (end > std::numeric_limits<std::int32_t>::max()) throw ArithmeticFault("the tick count overflows");
+  const auto deadline = static_cast<std::int32_t>(end);
+  if (PrimarySpeaker) WaitWhileBusy(*PrimarySpeaker, deadline);
+  PrimarySpeaker = nullptr;
+  if (SecondSpeaker) WaitWhileBusy(*SecondSpeaker, deadline);
+  SecondSpeaker = nullptr;
+  if (SpeechEngine) WaitWhileBusy(*SpeechEngine, deadline);
+  SpeechEngine.reset();
+}
+
+template <class Talker>
+void SpeechService::WaitWhileBusy(const Talker& talker, std::int32_t deadline) {
+  constexpr int slice = 5;
+  while (talker.Busy()) {
+    Outside.Events.ProcessEvents(slice);
+    if (Outside.Clock.TickCount() > deadline) return;
+  }
+}
+
+void SpeechService::ReleaseSpeech() {
+  PrimarySpeaker = SecondSpeaker = nullptr;
+  SpeechEngine.reset();
+}
+
+void SpeechService::SpeakText(std::string_view text) {
+  if (!PrimarySpeaker) return;
+  PrimarySpeaker->SpeakNow(text);
+  LastText = text;
+}
+
+void SpeechService::SpeakTextQueued(std::string_view text) {
+  if (!PrimarySpeaker) return;
+  PrimarySpeaker->SpeakQueued(text);
+  LastText = text;
+}
+
+void SpeechService::StopSpeech() {
+  if (PrimarySpeaker) PrimarySpeaker->Stop();
+  if (SecondSpeaker) SecondSpeaker->Stop();
+}
+
+std::string SpeechService::TranslateForSpeech(std::string_view text) const {
+  if (!SpeechEngine) return std::string(text);
+  std::string out;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (i > 0 && IsDigit(text[i - 1]) && IsDigit(text[i])) out += ' ';
+    out += text[i];
+  }
+  return out;
+}
+
+std::string SpeechService::SpeechFormatNumber(std::string_view text) const {
+  std::string out = Settings.ReadAsDigits ? TranslateForSpeech(text) : std::string(text);
+  const std::string& separator = Messages.GetMessage(DecimalSeparatorMessage);
+  // No blanks around the word for the point: it is spoken close to its digits, as wanted.
+  if (!separator.empty()) out = ReplaceAll(out, separator, Messages.GetMessage(PointMessage));
+  out = ReplaceAll(out, "-", Messages.GetMessage(MinusMessage));
+  return ReplaceAll(out, "*", Messages.GetMessage(TimesMessage));
+}
+
+std::string SpeechService::SpeakableChar(std::string_view character) const {
+  if (character.empty()) return "";
+  if (character[0] == 11 || character[0] == 13) return Messages.GetMessage(LineBreakMessage) + " ";
+  if (!SpeechEngine || character.size() > 1) return std::string(character);
+  // No engine library tells a character's name, so all engines share the names of the message file.
+  const std::string& name = Messages.GetMessage(CharacterNames + static_cast<unsigned char>(character[0]));
+  return name.empty() ? std::string(character) : name;
+}
+
+void SpeechService::AttachSpeakingControls(Form& form, const VerbosityTable& verbosity) const {
+  const std::string& text = Messages.GetMessage(MsgBaseMessage);
+  std::int16_t base = 0;
+  std::from_chars(text.data(), text.data() + text.size(), base);
+  for (const auto& control : form.Controls())
+    control->Speaking = {base,
+                         SpeechEngine.get(),
+                         PrimarySpeaker,
+                         false,
+                         static_cast<int>(verbosity.Mode(ListPositionEntry)),
+                         verbosity.Text(ListPositionEntry)};
+}
+
+void SpeechService::DetachSpeakingControls(Form& form) const {
+  for (const auto& control : form.Controls()) {
+    control->Speaking.Voice = nullptr;
+    control->Speaking.Referee = nullptr;
+    control->Speaking.Quiescent = true;
+  }
+}
+
+void SpeechService::EngineListChanged() {
+  if (!SpeechEngine || ExactVoice) return;
+  const int index =
+      FindEngine(Settings.SystemVoice, Settings.SystemManuf, Settings.SystemProduct, Settings.SystemLanguage);
+  if (index < 0) return;
+  const bool speaking = SpeechEngine->Busy();
+  ExactVoice = true;
+  if (OpenEngine(index) && speaking) SpeakText(std::string(LastText));
+}
+
+}  // namespace qves

@@ -1,0 +1,74 @@
+// The speech service: everything the calculator says goes through here.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <string_view>
+
+#include "model/Form.h"
+#include "platform/Platform.h"
+#include "services/AppSettings.h"
+#include "services/Messages.h"
+#include "services/VerbosityTable.h"
+
+namespace qves {
+
+/// The longest that ShutDownSpeech waits, in milliseconds.
+inline constexpr int ShutDownWait = 3000;
+
+class SpeechService {
+ public:
+  SpeechService(Platform& platform, const AppSettings& settings, const MessageStore& messages)
+      : Outside(platform), Settings(settings), Messages(messages) {}
+
+  /// Chooses the engine that matches (texts: "" is any; language 0 is any), else one of the language, else
+  /// the first; applies the voice settings and gets both speakers. False when there is no engine or it fails.
+  bool CreateSpeech(std::string_view voice, std::string_view manufacturer, std::string_view product,
+                    int language);
+  /// Stops speech and releases the speech objects, waiting no longer than ShutDownWait in all. Faults when
+  /// the deadline leaves the signed 32-bit range of the tick count; that arithmetic is wanted as it is.
+  void ShutDownSpeech();
+  /// Releases the speech objects without a wait.
+  void ReleaseSpeech();
+
+  /// Silences what is being spoken and says the text at once.
+  void SpeakText(std::string_view text);
+  /// Says the text after what is being spoken.
+  void SpeakTextQueued(std::string_view text);
+  void StopSpeech();
+  /// The last text handed to SpeakText or SpeakTextQueued while there was a speaker.
+  const std::string& LastSpokenText() const { return LastText; }
+
+  /// The text with a blank between any two adjacent digits; unchanged without an engine.
+  std::string TranslateForSpeech(std::string_view text) const;
+  /// What to speak for a number text.
+  std::string SpeechFormatNumber(std::string_view text) const;
+  /// What to speak for one typed character.
+  std::string SpeakableChar(std::string_view character) const;
+
+  /// Hands the engine and the speaker to every control of the form, and takes them back.
+  void AttachSpeakingControls(Form& form, const VerbosityTable& verbosity) const;
+  void DetachSpeakingControls(Form& form) const;
+
+  /// More engines are known now: the one the settings ask for may be among them.
+  void EngineListChanged();
+
+ private:
+  int FindEngine(std::string_view voice, std::string_view manufacturer, std::string_view product,
+                 int language) const;
+  bool OpenEngine(int index);
+  void ApplyVoiceSettings();
+  template <class Talker>
+  void WaitWhileBusy(const Talker& talker, std::int32_t deadline);
+
+  Platform& Outside;
+  const AppSettings& Settings;
+  const MessageStore& Messages;
+  std::unique_ptr<TtsEngine> SpeechEngine;
+  TtsSpeaker* PrimarySpeaker = nullptr;
+  TtsSpeaker* SecondSpeaker = nullptr;
+  std::string LastText;
+  bool ExactVoice = false;  ///< the engine is the one that the settings ask for
+};
+
+}  // namespace qves

@@ -1,0 +1,23 @@
+// Small helpers on texts.
+#pragma once
+
+#include <functional>
+#include <string>
+#include <string_view>
+
+namespace qves {
+
+/// True when the bytes are well-formed UTF-8 (no surrogates, no overlong forms).
+bool IsUtf8(std::string_view bytes);
+
+/// Calls `visit` with the number (from 1) and the text of each line, without its LF or CR LF and without a
+/// byte-order mark at the start of the first.
+void ForEachLine(std::string_view text, const std::function<void(int, std::string_view)>& visit);
+
+/// The text with every occurrence of `from` (not empty) replaced by `to`.
+std::string ReplaceAll(std::string_view text, std::string_view from, std::string_view to);
+
+/// True when `text` holds `part`, ASCII letters compared without regard to case.
+bool ContainsIgnoringCase(std::string_view text, std::string_view part);
+
+}  // namespace qves

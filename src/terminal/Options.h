@@ -1,0 +1,31 @@
+// The command line of the terminal program.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "platform/Outside.h"
+#include "speech/SpeechBackEnds.h"
+
+namespace qves {
+
+struct Options {
+  bool Script = false;
+  bool Help = false;
+  bool Version = false;
+  std::string ScriptFile;  ///< "" or "-": standard input
+  std::optional<int> View;
+  std::optional<Date> Today;
+  std::optional<unsigned long> Seed;
+  std::string Home;
+  std::optional<SpeechChoice> Speech;  ///< none: the transcript alone
+};
+
+/// The options; nothing when one is wrong, with the reason in `error`.
+std::optional<Options> ParseOptions(const std::vector<std::string>& arguments, std::string& error);
+
+/// What --help prints.
+std::string_view HelpText();
+
+}  // namespace qves

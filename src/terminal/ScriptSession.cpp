@@ -1,0 +1,189 @@
+#include "terminal/ScriptSession.h"
+
+#include <charconv>
+#include <optional>
+
+#include "services/Text.h"
+#include "terminal/Chord.h"
+#include "terminal/Report.h"
+
+namespace qves {
+namespace {
+
+bool IsBlank(char c) {
+  return c == ' ' || c == '\t';
+}
+
+std::string_view Trim(std::string_view text) {
+  while (!text.empty() && (IsBlank(text.front()) || text.front() == '\r')) text.remove_prefix(1);
+  while (!text.empty() && (IsBlank(text.back()) || text.back() == '\r')) text.remove_suffix(1);
+  return text;
+}
+
+/// The first word of the text; the text keeps what follows, without blanks around.
+std::string_view TakeWord(std::string_view& text) {
+  std::size_t end = 0;
+  while (end < text.size() && !IsBlank(text[end])) ++end;
+  const std::string_view word = text.substr(0, end);
+  text = Trim(text.substr(end));
+  return word;
+}
+
+std::optional<int> ToNumber(std::string_view text) {
+  int number = 0;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+  if (error != std::errc() || end != text.data() + text.size()) return std::nullopt;
+  return number;
+}
+
+std::string Quoted(std::string_view text) {
+  return "\"" + std::string(text.substr(0, 60)) + "\"";
+}
+
+PosixFileStore MakeFiles(const Options& options, BaseDirectories& directories) {
+  return options.Home.empty() ? PosixFileStore()
+                              : PosixFileStore(directories.Home(), directories.ProgramFolder());
+}
+
+}  // namespace
+
+struct ScriptSession::Command {
+  std::string_view Name;
+  Handler Run;
+};
+
+const ScriptSession::Command ScriptSession::Commands[] = {
+    {"key", &ScriptSession::Key},       {"keys", &ScriptSession::Keys},
+    {"click", &ScriptSession::Click},   {"focus", &ScriptSession::Focus},
+    {"select", &ScriptSession::Select}, {"menu", &ScriptSession::ChooseMenu},
+    {"answer", &ScriptSession::Answer}, {"heard", &ScriptSession::Heard},
+    {"state", &ScriptSession::State},   {"quit", &ScriptSession::Quit},
+};
+
+ScriptSession::ScriptSession(const Options& options)
+    : Directories(options.Home),
+      Files(MakeFiles(options, Directories)),
+      RegistryStore(Files, Directories.ConfigFolder() + "/QVES/registry.ini"),
+      TheClock(options.Today),
+      RealSpeech(options.Speech ? MakeSpeech(*options.Speech, Events) : nullptr),
+      Speech(Spoken, RealSpeech.get()),
+      Outside{Speech, Hook,        Hints,         WindowMessages, Windows,
+              Files,  Directories, RegistryStore, TheClock,       Events},
+      Services_(Outside),
+      App(Services_.All, *this) {
+  App.Main({options.View});
+  // The lines report what they do themselves; the start is over.
+  Spoken.clear();
+  Files.TakeWritten();
+}
+
+ScriptSession::~ScriptSession() {
+  App.Leave();
+}
+
+Json ScriptSession::Run(int lineNumber, std::string_view line) {
+  const std::string error = IsUtf8(line) ? Perform(Trim(line)) : "the line is not UTF-8";
+  Errors = Errors || !error.empty();
+  Events.ProcessEvents(0);
+  return Report(lineNumber, line, error);
+}
+
+std::string ScriptSession::Perform(std::string_view line) {
+  std::string_view argument = line;
+  const std::string_view name = TakeWord(argument);
+  for (const Command& command : Commands)
+    if (command.Name == name) return (this->*command.Run)(argument);
+  return "unknown command " + Quoted(name);
+}
+
+std::string ScriptSession::Key(std::string_view argument) {
+  const auto event = ParseChord(argument);
+  if (!event) return Quoted(argument) + " is no key";
+  Press(*event);
+  return "";
+}
+
+std::string ScriptSession::Keys(std::string_view argument) {
+  if (argument.empty()) return "keys wants a text";
+  for (const char& c : argument)
+    if (!IsBlank(c) && !ParseChord({&c, 1})) return "the text holds a character that no key types";
+  for (const char& c : argument)
+    if (!IsBlank(c)) Press(*ParseChord({&c, 1}));
+  return "";
+}
+
+void ScriptSession::Press(const KeyEvent& event) {
+  if (event.Code == KeyCapsLock || event.Code == KeyNumLock || event.Code == KeyScrollLock)
+    Windows.Toggle(event.Code);
+  App.KeyDown(event);
+  App.KeyUp(event.Code);
+}
+
+std::string ScriptSession::WithControl(std::string_view argument, void (Form::*action)(Control&)) {
+  const std::string_view name = TakeWord(argument);
+  const auto index = argument.empty() ? NoIndex : ToNumber(argument);
+  if (name.empty() || !index) return "a control's name is wanted, and its index in an array";
+  Form* form = App.ActiveForm();
+  if (!form) return "";
+  Control* control = form->Find(name, *index);
+  if (!control || control->Has(Indicator))
+    return "no control " + Quoted(name) + (argument.empty() ? "" : " with index " + std::string(argument));
+  (form->*action)(*control);
+  return "";
+}
+
+std::string ScriptSession::Click(std::string_view argument) {
+  return WithControl(argument, &Form::MouseClick);
+}
+
+std::string ScriptSession::Focus(std::string_view argument) {
+  return WithControl(argument, &Form::FocusByUser);
+}
+
+std::string ScriptSession::Select(std::string_view argument) {
+  return Quoted(TakeWord(argument)) + " is no list of this form";
+}
+
+std::string ScriptSession::ChooseMenu(std::string_view argument) {
+  const auto id = ToNumber(argument);
+  if (!id) return "menu wants the number of a message";
+  Form* form = App.ActiveForm();
+  return !form || form->ChooseMenu(*id) ? "" : "the form has no menu item " + std::to_string(*id);
+}
+
+std::string ScriptSession::Answer(std::string_view) {
+  return "";
+}
+
+/// No text is being read aloud: every other text counts as finished at once.
+std::string ScriptSession::Heard(std::string_view argument) {
+  const auto count = argument.empty() ? 0 : ToNumber(argument);
+  return count && *count >= 0 ? "" : "heard wants a number of bookmarks, or nothing";
+}
+
+std::string ScriptSession::State(std::string_view) {
+  WantsState = true;
+  return "";
+}
+
+std::string ScriptSession::Quit(std::string_view) {
+  App.Leave();
+  return "";
+}
+
+void ScriptSession::TextAppended(Form&, TextBox& box, std::size_t from) {
+  TapeAdded.append(box.Text, from);
+}
+
+Json ScriptSession::Report(int lineNumber, std::string_view line, const std::string& error) {
+  Json report = {{"line", lineNumber}, {"command", line}};
+  if (!error.empty()) report["error"] = error;
+  ReportForm(report, App.ActiveForm(), std::exchange(TapeAdded, {}));
+  ReportSpeech(report, std::exchange(Spoken, {}));
+  report["sounds"] = Json::array();
+  report["files"] = Files.TakeWritten();
+  if (std::exchange(WantsState, false)) ReportState(report, App.ActiveForm());
+  return report;
+}
+
+}  // namespace qves

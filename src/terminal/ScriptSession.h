@@ -1,0 +1,80 @@
+// The calculator without a window: commands in, and out comes what was shown and spoken.
+#pragma once
+
+#include <memory>
+#include <nlohmann/json.hpp>
+#include <string>
+#include <string_view>
+
+#include "app/CalculatorApp.h"
+#include "posix/BaseDirectories.h"
+#include "posix/EventQueue.h"
+#include "posix/IniRegistry.h"
+#include "posix/PosixFileStore.h"
+#include "posix/SystemClock.h"
+#include "services/ServiceSet.h"
+#include "terminal/Options.h"
+#include "terminal/RecordingTts.h"
+#include "terminal/TerminalWindows.h"
+
+namespace qves {
+
+using Json = nlohmann::ordered_json;
+
+class ScriptSession : private AppObserver, private FormObserver {
+ public:
+  explicit ScriptSession(const Options& options);
+  ~ScriptSession() override;
+
+  /// Runs one command. The object tells what it did; it has "error" when the line is no command.
+  Json Run(int lineNumber, std::string_view line);
+  bool HadErrors() const { return Errors; }
+
+ private:
+  struct Command;
+  using Handler = std::string (ScriptSession::*)(std::string_view argument);
+
+  // The commands. Each returns why it is none, "" when it is one.
+  std::string Key(std::string_view argument);
+  std::string Keys(std::string_view argument);
+  std::string Click(std::string_view argument);
+  std::string Focus(std::string_view argument);
+  std::string Select(std::string_view argument);
+  std::string ChooseMenu(std::string_view argument);
+  std::string Answer(std::string_view argument);
+  std::string Heard(std::string_view argument);
+  std::string State(std::string_view argument);
+  std::string Quit(std::string_view argument);
+
+  std::string Perform(std::string_view line);
+  std::string WithControl(std::string_view argument, void (Form::*action)(Control&));
+  void Press(const KeyEvent& event);
+  Json Report(int lineNumber, std::string_view line, const std::string& error);
+
+  void FormShown(Form& form) override { form.AddObserver(*this); }
+  void TextAppended(Form&, TextBox& box, std::size_t from) override;
+
+  static const Command Commands[];
+
+  BaseDirectories Directories;
+  PosixFileStore Files;
+  IniRegistry RegistryStore;
+  SystemClock TheClock;
+  EventQueue Events;
+  TerminalWindows Windows;
+  KeyCapture Hook;
+  HintNotify Hints;
+  AppWMSpy WindowMessages;
+  Transcript Spoken;
+  std::unique_ptr<TTS> RealSpeech;
+  RecordingTts Speech;
+  Platform Outside;
+  ServiceSet Services_;
+  CalculatorApp App;
+
+  std::string TapeAdded;
+  bool WantsState = false;
+  bool Errors = false;
+};
+
+}  // namespace qves

@@ -1,0 +1,221 @@
+#include "views/View.h"
+
+#include <algorithm>
+
+#include "model/ArithmeticFault.h"
+#include "services/WindowActivation.h"
+#include "views/ClickHandlers.h"
+#include "views/LockKeys.h"
+#include "views/MenuIds.h"
+
+namespace qves {
+namespace {
+
+constexpr int TitleMessage = 100;
+constexpr int WelcomeMessage = 101;
+constexpr int CopyMessage = 50;
+constexpr int ErrorMessage = 1202;
+constexpr int CurrentValueMessage = 1201;
+constexpr int AllSelectedMessage = 1600;
+constexpr std::string_view HostWindow = " Quorvane 1000";
+constexpr KeyEvent CopyKey{'C', ControlBit, 0};
+constexpr KeyEvent SelectAllKey{'A', ControlBit, 0};
+
+bool Is(const KeyEvent& event, const KeyEvent& key) {
+  return event.Code == key.Code && event.Shift == key.Shift;
+}
+
+}  // namespace
+
+View::View(const ViewTables& tables, Services& services, ViewFrame& frame)
+    : Form(std::string(tables.FormName), services.Messages.GetMessage(TitleMessage)),
+      Tables(tables),
+      Services_(services),
+      Frame(frame),
+      Says(services.Speech, services.Messages) {
+  AddControls();
+  AddMenus();
+  PanelList.assign(Tables.Panels.begin(), Tables.Panels.end());
+  EngineHost& host = *this;
+  Engine = std::make_unique<EntryEngine>(Tables.Operators, host, Says);
+}
+
+void View::AddControls() {
+  for (const ControlSpec& spec : Tables.Controls) {
+    const std::string caption =
+        spec.CaptionMessage == NoMessage ? std::string(spec.Caption) : Message(spec.CaptionMessage);
+    const std::string name = spec.NameMessage == NoMessage ? caption : Message(spec.NameMessage);
+    const std::string help = spec.HelpMessage == NoMessage ? "" : Message(spec.HelpMessage);
+    if (spec.Kind == ControlKind::TextBox)
+      Add(std::make_unique<TextBox>(spec, caption, name, help));
+    else
+      Add(std::make_unique<Button>(spec, caption, name, help));
+  }
+  Display = static_cast<TextBox*>(Find("txtDisplay"));
+  Tape = static_cast<TextBox*>(Find("txtResult"));
+  MemoryBox = static_cast<TextBox*>(Find("txtMemory"));
+}
+
+void View::AddMenus() {
+  for (const MenuSpec& menu : MenuTable) {
+    Menu shown{menu.Title, Message(menu.Title), {}};
+    for (const int item : menu.Items)
+      if (item != NoMessage) shown.Items.push_back({item, Message(item)});
+    MenuList.push_back(std::move(shown));
+  }
+}
+
+void View::Form_Load() {
+  Services_.Messages.LoadMessageFile("CalcMsg.txt");
+  if (!Services_.Settings.DontSpeak) CreateSpeech();
+  Frame.LoadHostForm(*this);
+  if (Frame.TakeWelcome()) Services_.Speech.SpeakText(Message(WelcomeMessage));
+  Engine->ClearAll();
+  // Silently: the view's name is being spoken.
+  PlaceFocus(*Display);
+  Services_.Settings.CalcView = static_cast<std::int16_t>(Tables.CalcView);
+  Services_.Speech.SpeakTextQueued(Message(Tables.NameMessage));
+  Frame.ViewLoaded();
+}
+
+void View::CreateSpeech() {
+  const AppSettings& s = Services_.Settings;
+  if (Services_.Speech.CreateSpeech(s.SystemVoice, s.SystemManuf, s.SystemProduct, s.SystemLanguage))
+    Services_.Speech.AttachSpeakingControls(*this, Services_.Verbosity);
+}
+
+void View::Form_Unload() {
+  Services_.SettingsStore.SaveSettings();
+  Frame.LeaveKeys();
+  ShutDownSpeech();
+  Frame.UnloadHostForm();
+  if (!Frame.IsSwitching()) ActivateWindowByTitle(Services_.Outside.Windows, HostWindow);
+}
+
+void View::ShutDownSpeech() {
+  try {
+    Services_.Speech.ShutDownSpeech();
+  } catch (const ArithmeticFault& fault) {
+    Services_.Log.WriteErrorLog(OverflowErrorCode,
+                                std::string(fault.what()) + "; speech is released without a wait");
+    Services_.Speech.ReleaseSpeech();
+  }
+  Services_.Speech.DetachSpeakingControls(*this);
+}
+
+void View::NotifyKeyDown(bool& handled, const KeyEvent& event) {
+  const KeyRow* row = FindKeyRow(Tables.KeyMap, event);
+  if (!row || row->Action == KeyAction::LeaveIt) return;
+  handled = true;
+  EnterPressesDefault();
+  if (row->Action == KeyAction::RepeatSpeech) {
+    Services_.Speech.SpeakText(std::string(Services_.Speech.LastSpokenText()));
+    return;
+  }
+  Control* control = Find(row->Control, row->IndexFromCode ? event.Code + row->Index : row->Index);
+  if (!control) return;
+  if (row->Action == KeyAction::Focus)
+    SetFocus(*control);
+  else
+    Click(*control);
+}
+
+void View::Form_KeyUp(int keyCode) {
+  AnnounceLockKey(Services_, keyCode);
+}
+
+void View::OnClick(Control& control) {
+  if (&control == Display || &control == Tape) return SayOf(control, false);
+  const ClickRow* row = FindClickRow(control.Name());
+  if (!row) return;
+  if (row->TakesFocus) SetFocus(control);
+  Says.BeginKey();
+  (Engine.get()->*row->Operation)({control.Caption, control.SpokenName});
+}
+
+void View::OnGotFocus(Control& control) {
+  SayOf(control, &control == Display);
+}
+
+/// What a control says of itself: the display its value, the tape all of it, any other its name.
+void View::SayOf(const Control& control, bool queued) {
+  std::string text = control.SpokenName;
+  if (&control == Tape) {
+    text = Services_.Speech.SpeechFormatNumber(Tape->Text);
+  } else if (&control == Display) {
+    SelectAll(*Display);  // so that a copy takes all of it
+    text = Engine->InError() ? Message(ErrorMessage)
+                             : FillPlaceholders(Message(CurrentValueMessage),
+                                                {Services_.Speech.SpeechFormatNumber(Engine->DisplayText())});
+  }
+  if (queued)
+    Services_.Speech.SpeakTextQueued(text);
+  else
+    Services_.Speech.SpeakText(text);
+}
+
+bool View::OnControlKey(Control& control, const KeyEvent& event) {
+  if (event.Code == KeyF1) {
+    Services_.Speech.SpeakText(control.HelpText);
+    return true;
+  }
+  if (event.Code == KeyF7) {
+    SayOf(control, false);
+    return true;
+  }
+  auto* box = dynamic_cast<TextBox*>(&control);
+  return box && TextBoxKey(*box, event);
+}
+
+bool View::TextBoxKey(TextBox& box, const KeyEvent& event) {
+  if (Is(event, CopyKey)) {
+    Services_.Speech.SpeakText(Message(CopyMessage));
+    return false;  // the copy itself is the toolkit's
+  }
+  if (!box.Has(MultiLine) || !Is(event, SelectAllKey)) return false;
+  SelectAll(box);
+  Services_.Speech.SpeakText(Message(AllSelectedMessage));
+  return true;
+}
+
+void View::OnMenu(int id) {
+  switch (id) {
+    case ExitItem:
+      return Frame.Exit();
+    case AboutItem:
+    case HotKeysItem:
+    case InverseItem:
+      return SayNotAvailable(TitleOfHelp(id));
+    default:
+      return ChooseView(id);
+  }
+}
+
+void View::ChooseView(int id) {
+  const int calcView = CalcViewOf(id);
+  if (calcView == Tables.CalcView)
+    Services_.Speech.SpeakText(Message(id));
+  else if (Frame.HasView(calcView))
+    Frame.SwitchView(calcView);
+  else
+    SayNotAvailable(id);
+}
+
+void View::SayNotAvailable(int titleMessage) {
+  Services_.Speech.SpeakText(Message(titleMessage));
+  Services_.Speech.SpeakTextQueued(Message(NotAvailableMessage));
+}
+
+void View::ShowMemory(std::string_view indicator) {
+  if (MemoryBox) SetText(*MemoryBox, indicator);
+}
+
+void View::AppendTape(std::string_view line) {
+  if (Tape) AppendText(*Tape, line);
+}
+
+void View::ClearTape() {
+  if (Tape) SetText(*Tape, "");
+}
+
+}  // namespace qves

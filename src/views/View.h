@@ -1,0 +1,72 @@
+// What every view is: a form made from tables, an engine behind it, and the rules of focus, help and keys.
+#pragma once
+
+#include <memory>
+#include <span>
+#include <string_view>
+
+#include "engine/Announcer.h"
+#include "engine/EntryEngine.h"
+#include "model/Form.h"
+#include "model/KeyMap.h"
+#include "services/Services.h"
+#include "views/ViewFrame.h"
+
+namespace qves {
+
+/// The tables of one view.
+struct ViewTables {
+  std::string_view FormName;
+  int CalcView = 0;
+  int NameMessage = 0;  ///< its View-menu item, spoken when it is shown
+  std::span<const ControlSpec> Controls;
+  std::span<const PanelSpec> Panels;
+  std::span<const KeyRow> KeyMap;
+  std::span<const OperatorRow> Operators;
+};
+
+class View : public Form, private EngineHost {
+ public:
+  View(const ViewTables& tables, Services& services, ViewFrame& frame);
+
+  void Form_Load() override;
+  void Form_Unload() override;
+  void NotifyKeyDown(bool& handled, const KeyEvent& event) override;
+  void Form_KeyUp(int keyCode) override;
+  StateFields EngineState() const override { return Engine->Fields(); }
+
+ private:
+  // EngineHost
+  void ShowDisplay(std::string_view text) override { SetText(*Display, text); }
+  void ShowMemory(std::string_view indicator) override;
+  void AppendTape(std::string_view line) override;
+  void ClearTape() override;
+
+  // Form
+  void OnClick(Control& control) override;
+  void OnGotFocus(Control& control) override;
+  bool OnControlKey(Control& control, const KeyEvent& event) override;
+  void OnMenu(int id) override;
+  void OnFault() override { Engine->FailAloud(); }
+
+  void AddControls();
+  void AddMenus();
+  void CreateSpeech();
+  void ShutDownSpeech();
+  void SayOf(const Control& control, bool queued);
+  bool TextBoxKey(TextBox& box, const KeyEvent& event);
+  void ChooseView(int id);
+  void SayNotAvailable(int titleMessage);
+  const std::string& Message(int id) const { return Services_.Messages.GetMessage(id); }
+
+  const ViewTables& Tables;
+  Services& Services_;
+  ViewFrame& Frame;
+  Announcer Says;
+  std::unique_ptr<EntryEngine> Engine;
+  TextBox* Display = nullptr;
+  TextBox* Tape = nullptr;  ///< none in most views
+  TextBox* MemoryBox = nullptr;
+};
+
+}  // namespace qves
