@@ -11,10 +11,9 @@ const TextBox* FindBox(const Form& form, std::string_view name) {
   return dynamic_cast<const TextBox*>(form.Find(name));
 }
 
-Json NameOf(const Control* control) {
-  if (!control) return nullptr;
-  std::string name(control->Name());
-  if (control->Index() != NoIndex) name += "(" + std::to_string(control->Index()) + ")";
+std::string NameOf(const Control& control) {
+  std::string name(control.Name());
+  if (control.Index() != NoIndex) name += "(" + std::to_string(control.Index()) + ")";
   return name;
 }
 
@@ -29,36 +28,61 @@ Json Describe(const Control& control) {
   return out;
 }
 
+void ReportTape(JsonLine& report, const std::string& tapeAdded) {
+  report.Name("tape");
+  report.Begin('[');
+  ForEachLine(tapeAdded, [&](int, std::string_view line) { report.Value(line); });
+  report.End(']');
+}
+
 }  // namespace
 
-void ReportForm(Json& report, const Form* form, const std::string& tapeAdded) {
-  report["form"] = form ? Json(form->Name()) : Json(nullptr);
-  report["focus"] = NameOf(form ? form->FocusedControl() : nullptr);
-  const TextBox* display = form ? FindBox(*form, "txtDisplay") : nullptr;
-  report["display"] = display ? display->Text : "";
-  if (!form) return;
-  if (const TextBox* memory = FindBox(*form, "txtMemory")) report["memory"] = memory->Text;
-  if (!FindBox(*form, "txtResult")) return;
-  Json& tape = report["tape"] = Json::array();
-  ForEachLine(tapeAdded, [&](int, std::string_view line) { tape.push_back(line); });
-}
-
-void ReportSpeech(Json& report, const Transcript& spoken) {
-  Json& list = report["spoken"] = Json::array();
-  for (const SpokenText& said : spoken) {
-    Json entry = {{"how", said.How}};
-    if (said.How != "stop") entry["text"] = said.Text;
-    list.push_back(std::move(entry));
+void ReportForm(JsonLine& report, const Form* form, const std::string& tapeAdded) {
+  if (!form) {
+    report.Field("form", Json(nullptr));
+    report.Field("focus", Json(nullptr));
+    report.Field("display", std::string_view());
+    return;
   }
+  report.Field("form", std::string_view(form->Name()));
+  const Control* focused = form->FocusedControl();
+  report.Name("focus");
+  focused ? report.Value(std::string_view(NameOf(*focused))) : report.Value(Json(nullptr));
+  const TextBox* display = FindBox(*form, "txtDisplay");
+  report.Field("display", display ? std::string_view(display->Text) : std::string_view());
+  if (const TextBox* memory = FindBox(*form, "txtMemory")) report.Field("memory", std::string_view(memory->Text));
+  if (FindBox(*form, "txtResult")) ReportTape(report, tapeAdded);
 }
 
-void ReportState(Json& report, const Form* form) {
-  Json& engine = report["engine"] = Json::object();
-  Json& controls = report["controls"] = Json::array();
-  if (!form) return;
-  for (const StateField& field : form->EngineState())
-    std::visit([&](const auto& value) { engine[std::string(field.Name)] = value; }, field.Value);
-  for (const auto& control : form->Controls()) controls.push_back(Describe(*control));
+void ReportSpeech(JsonLine& report, const Transcript& spoken) {
+  report.Name("spoken");
+  report.Begin('[');
+  for (const SpokenText& said : spoken) {
+    report.Begin('{');
+    report.Field("how", said.How);
+    if (said.How != "stop") report.Field("text", std::string_view(said.Text));
+    report.End('}');
+  }
+  report.End(']');
+}
+
+void ReportList(JsonLine& report, std::string_view name, const std::vector<std::string>& texts) {
+  report.Name(name);
+  report.Begin('[');
+  for (const std::string& text : texts) report.Value(std::string_view(text));
+  report.End(']');
+}
+
+void ReportState(JsonLine& report, const Form* form) {
+  Json engine = Json::object();
+  Json controls = Json::array();
+  if (form) {
+    for (const StateField& field : form->EngineState())
+      std::visit([&](const auto& value) { engine[std::string(field.Name)] = value; }, field.Value);
+    for (const auto& control : form->Controls()) controls.push_back(Describe(*control));
+  }
+  report.Field("engine", engine);
+  report.Field("controls", controls);
 }
 
 }  // namespace qves

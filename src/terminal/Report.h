@@ -1,18 +1,20 @@
 // The parts of a script line's report.
 #pragma once
 
-#include <nlohmann/json.hpp>
 #include <string>
+#include <vector>
 
 #include "model/Form.h"
+#include "terminal/JsonLine.h"
 #include "terminal/RecordingTts.h"
 
 namespace qves {
 
 /// Form, focus, display, memory and the tape lines added ("\r\n" after each). `form` is null after the end.
-void ReportForm(nlohmann::ordered_json& report, const Form* form, const std::string& tapeAdded);
-void ReportSpeech(nlohmann::ordered_json& report, const Transcript& spoken);
+void ReportForm(JsonLine& report, const Form* form, const std::string& tapeAdded);
+void ReportSpeech(JsonLine& report, const Transcript& spoken);
+void ReportList(JsonLine& report, std::string_view name, const std::vector<std::string>& texts);
 /// The engine's fields and all controls.
-void ReportState(nlohmann::ordered_json& report, const Form* form);
+void ReportState(JsonLine& report, const Form* form);
 
 }  // namespace qves

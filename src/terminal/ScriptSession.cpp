@@ -81,11 +81,12 @@ ScriptSession::~ScriptSession() {
   App.Leave();
 }
 
-Json ScriptSession::Run(int lineNumber, std::string_view line) {
+const std::string& ScriptSession::Run(int lineNumber, std::string_view line) {
   const std::string error = IsUtf8(line) ? Perform(Trim(line)) : "the line is not UTF-8";
   Errors = Errors || !error.empty();
   Events.ProcessEvents(0);
-  return Report(lineNumber, line, error);
+  Report(lineNumber, line, error);
+  return Line.Text();
 }
 
 std::string ScriptSession::Perform(std::string_view line) {
@@ -175,15 +176,20 @@ void ScriptSession::TextAppended(Form&, TextBox& box, std::size_t from) {
   TapeAdded.append(box.Text, from);
 }
 
-Json ScriptSession::Report(int lineNumber, std::string_view line, const std::string& error) {
-  Json report = {{"line", lineNumber}, {"command", line}};
-  if (!error.empty()) report["error"] = error;
-  ReportForm(report, App.ActiveForm(), std::exchange(TapeAdded, {}));
-  ReportSpeech(report, std::exchange(Spoken, {}));
-  report["sounds"] = Json::array();
-  report["files"] = Files.TakeWritten();
-  if (std::exchange(WantsState, false)) ReportState(report, App.ActiveForm());
-  return report;
+void ScriptSession::Report(int lineNumber, std::string_view line, const std::string& error) {
+  Line.Clear();
+  Line.Begin('{');
+  Line.Field("line", nlohmann::ordered_json(lineNumber));
+  Line.Field("command", line);
+  if (!error.empty()) Line.Field("error", std::string_view(error));
+  ReportForm(Line, App.ActiveForm(), TapeAdded);
+  ReportSpeech(Line, Spoken);
+  ReportList(Line, "sounds", {});
+  ReportList(Line, "files", Files.TakeWritten());
+  if (std::exchange(WantsState, false)) ReportState(Line, App.ActiveForm());
+  Line.End('}');
+  TapeAdded.clear();
+  Spoken.clear();
 }
 
 }  // namespace qves

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <memory>
-#include <nlohmann/json.hpp>
 #include <string>
 #include <string_view>
 
@@ -13,21 +12,21 @@
 #include "posix/PosixFileStore.h"
 #include "posix/SystemClock.h"
 #include "services/ServiceSet.h"
+#include "terminal/JsonLine.h"
 #include "terminal/Options.h"
 #include "terminal/RecordingTts.h"
 #include "terminal/TerminalWindows.h"
 
 namespace qves {
 
-using Json = nlohmann::ordered_json;
-
 class ScriptSession : private AppObserver, private FormObserver {
  public:
   explicit ScriptSession(const Options& options);
   ~ScriptSession() override;
 
-  /// Runs one command. The object tells what it did; it has "error" when the line is no command.
-  Json Run(int lineNumber, std::string_view line);
+  /// Runs one command. The JSON object tells what it did; it has "error" when the line is no command. It is good
+  /// until the next call.
+  const std::string& Run(int lineNumber, std::string_view line);
   bool HadErrors() const { return Errors; }
 
  private:
@@ -49,7 +48,7 @@ class ScriptSession : private AppObserver, private FormObserver {
   std::string Perform(std::string_view line);
   std::string WithControl(std::string_view argument, void (Form::*action)(Control&));
   void Press(const KeyEvent& event);
-  Json Report(int lineNumber, std::string_view line, const std::string& error);
+  void Report(int lineNumber, std::string_view line, const std::string& error);
 
   void FormShown(Form& form) override { form.AddObserver(*this); }
   void TextAppended(Form&, TextBox& box, std::size_t from) override;
@@ -72,6 +71,7 @@ class ScriptSession : private AppObserver, private FormObserver {
   ServiceSet Services_;
   CalculatorApp App;
 
+  JsonLine Line;
   std::string TapeAdded;
   bool WantsState = false;
   bool Errors = false;

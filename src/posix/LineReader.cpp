@@ -1,0 +1,70 @@
+#include "posix/LineReader.h"
+
+#include <poll.h>
+#include <signal.h>
+#include <unistd.h>
+
+#include <cerrno>
+
+namespace qves {
+namespace {
+
+volatile sig_atomic_t Arrived = 0;
+
+void Note(int number) { Arrived = number; }
+
+constexpr int EndingSignals[] = {SIGTERM, SIGINT, SIGHUP};
+
+}  // namespace
+
+LineReader::LineReader(int descriptor) : Descriptor(descriptor) {
+  struct sigaction action {};
+  action.sa_handler = Note;
+  sigset_t blocked;
+  sigemptyset(&blocked);
+  for (const int number : EndingSignals) {
+    sigaction(number, &action, nullptr);
+    sigaddset(&blocked, number);
+  }
+  // They arrive while the reader waits and at no other time.
+  sigprocmask(SIG_BLOCK, &blocked, nullptr);
+}
+
+bool LineReader::Next(std::string& line) {
+  std::size_t from = At;
+  for (;;) {
+    const std::size_t end = Buffer.find('\n', from);
+    if (end != std::string::npos) {
+      line.assign(Buffer, At, end - At);
+      At = end + 1;
+      return true;
+    }
+    Buffer.erase(0, At);
+    At = 0;
+    from = Buffer.size();
+    if (!Fill()) break;
+  }
+  line.swap(Buffer);
+  Buffer.clear();
+  return !line.empty() && EndingSignal() == 0;
+}
+
+bool LineReader::Fill() {
+  sigset_t none;
+  sigemptyset(&none);
+  pollfd input{Descriptor, POLLIN, 0};
+  char chunk[65536];
+  while (EndingSignal() == 0) {
+    if (ppoll(&input, 1, nullptr, &none) < 0) continue;
+    const ssize_t count = ::read(Descriptor, chunk, sizeof chunk);
+    if (count < 0 && errno == EINTR) continue;
+    if (count <= 0) return false;
+    Buffer.append(chunk, static_cast<std::size_t>(count));
+    return true;
+  }
+  return false;
+}
+
+int LineReader::EndingSignal() const { return Arrived; }
+
+}  // namespace qves

@@ -1,0 +1,122 @@
+// Runs every script beside this file. A script holds commands and, indented below each, what it has to do:
+//   said     every spoken text in order: [now], +[queued], stop
+//   tape     a line added to the tape
+//   display, memory, focus   when they differ from before
+//   error    when the line is no command
+// "== title" starts a new calculator; lines "host KEY,VALUE" right below it are its host settings file.
+// QVES_UPDATE_SCRIPTS=1 rewrites the scripts from what the calculator does: read the difference before you keep it.
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <memory>
+#include <sstream>
+
+#include "TemporaryFolder.h"
+#include "services/Text.h"
+#include "terminal/ScriptSession.h"
+
+namespace qves {
+namespace {
+
+namespace fs = std::filesystem;
+using Json = nlohmann::ordered_json;
+
+std::string Said(const Json& spoken) {
+  std::string out;
+  for (const Json& said : spoken) {
+    const std::string how = said["how"];
+    const std::string text = ReplaceAll(said.value("text", ""), "\r\n", "\\r\\n");
+    out += how == "stop" ? " stop" : (how == "queued" ? " +[" : " [") + text + "]";
+  }
+  return out;
+}
+
+class ScriptRunner {
+ public:
+  /// What the script should look like, from what the calculator does.
+  std::string Run(std::istream& script) {
+    std::string out;
+    for (std::string line; std::getline(script, line);) {
+      if (line.starts_with("  ")) continue;
+      out += line + "\n";
+      if (line.starts_with("== "))
+        Restart();
+      else if (line.starts_with("host "))
+        HostSettings += line.substr(5) + "\n";
+      else if (!line.empty() && line[0] != '#')
+        out += Perform(line);
+    }
+    return out;
+  }
+
+ private:
+  void Restart() {
+    Session.reset();
+    Home = std::make_unique<TemporaryFolder>();
+    HostSettings.clear();
+    Before = {{"display", "0"}, {"memory", ""}, {"focus", "txtDisplay"}};
+  }
+
+  void Start() {
+    const fs::path folder = Home->Path / ".config/QVES/Settings";
+    fs::create_directories(folder);
+    if (!HostSettings.empty()) std::ofstream(folder / "Quorvane 1000.ost") << "\"Settings\"\n" << HostSettings;
+    Options options;
+    options.Home = Home->Path;
+    Session = std::make_unique<ScriptSession>(options);
+  }
+
+  std::string Perform(const std::string& line) {
+    if (!Session) Start();
+    const Json report = Json::parse(Session->Run(1, line));
+    std::string out;
+    if (report.contains("error")) out += "  error " + report["error"].get<std::string>() + "\n";
+    if (!report["spoken"].empty()) out += "  said" + Said(report["spoken"]) + "\n";
+    for (const Json& tape : report.value("tape", Json::array())) out += "  tape " + tape.get<std::string>() + "\n";
+    for (auto& [name, before] : Before) {
+      const Json now = report.value(name, Json());
+      if (now == before) continue;
+      out += "  " + name + " " + (now.is_string() ? now.get<std::string>() : "none") + "\n";
+      before = now;
+    }
+    return out;
+  }
+
+  std::unique_ptr<TemporaryFolder> Home;
+  std::string HostSettings;
+  std::unique_ptr<ScriptSession> Session;
+  std::map<std::string, Json> Before;
+};
+
+class ScriptFiles : public testing::TestWithParam<std::string> {};
+
+TEST_P(ScriptFiles, DoesWhatItSays) {
+  const fs::path path = fs::path(SCRIPTS_DIR) / GetParam();
+  std::stringstream expected;
+  expected << std::ifstream(path).rdbuf();
+  const std::string actual = ScriptRunner().Run(expected);
+  EXPECT_EQ(actual, expected.str());
+  if (std::getenv("QVES_UPDATE_SCRIPTS")) std::ofstream(path) << actual;
+}
+
+std::vector<std::string> AllScripts() {
+  std::vector<std::string> names;
+  for (const auto& entry : fs::recursive_directory_iterator(SCRIPTS_DIR))
+    if (entry.path().extension() == ".script") names.push_back(fs::relative(entry.path(), SCRIPTS_DIR));
+  return names;
+}
+
+std::string TestName(const testing::TestParamInfo<std::string>& info) {
+  std::string name = info.param;
+  for (char& c : name)
+    if (!std::isalnum(static_cast<unsigned char>(c))) c = '_';
+  return name;
+}
+
+INSTANTIATE_TEST_SUITE_P(All, ScriptFiles, testing::ValuesIn(AllScripts()), TestName);
+
+}  // namespace
+}  // namespace qves

@@ -1,0 +1,167 @@
+// Script mode as a program: its options, its input, its exit status, its files.
+#include <gtest/gtest.h>
+#include <signal.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <array>
+#include <cstdio>
+#include <fstream>
+#include <nlohmann/json.hpp>
+#include <sstream>
+#include <vector>
+
+#include "TemporaryFolder.h"
+
+namespace qves {
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+struct Outcome {
+  int Status = -1;
+  std::vector<Json> Lines;
+};
+
+std::string ReadAll(const std::filesystem::path& path) {
+  std::ostringstream text;
+  text << std::ifstream(path, std::ios::binary).rdbuf();
+  return text.str();
+}
+
+class ScriptMode : public testing::Test {
+ protected:
+  /// Runs the program in a home of its own.
+  Outcome Run(const std::string& input, const std::string& options = "") {
+    const auto in = Home.Path / "in.txt";
+    const auto out = Home.Path / "out.txt";
+    std::ofstream(in, std::ios::binary) << input;
+    const std::string command = std::string(CLI) + " --script --home '" + HomeFolder() + "' " + options + " < " +
+                                in.string() + " > " + out.string() + " 2> " + (Home.Path / "err.txt").string();
+    Outcome outcome;
+    outcome.Status = WEXITSTATUS(std::system(command.c_str()));
+    std::istringstream lines(ReadAll(out));
+    for (std::string line; std::getline(lines, line);) outcome.Lines.push_back(Json::parse(line));
+    return outcome;
+  }
+
+  std::string HomeFolder() const { return (Home.Path / "home").string(); }
+  std::filesystem::path OwnSettings() const { return Home.Path / "home/.config/QVES/Settings/Calc.ost"; }
+  std::string ErrorLog() const { return ReadAll(Home.Path / "home/Documents/QVES/Temporary/Error Log.txt"); }
+
+  void WriteSettings(const std::string& name, const std::string& content) {
+    std::filesystem::create_directories(OwnSettings().parent_path());
+    std::ofstream(OwnSettings().parent_path() / name, std::ios::binary) << content;
+  }
+
+  TemporaryFolder Home;
+};
+
+TEST_F(ScriptMode, OneObjectForEachCommandLine) {
+  const Outcome outcome = Run("\n# a comment\n  \nkeys 7 + 5\r\nkey =");
+  ASSERT_EQ(outcome.Lines.size(), 2u);
+  EXPECT_EQ(outcome.Status, 0);
+  EXPECT_EQ(outcome.Lines[1].dump(),
+            R"json({"line":5,"command":"key =","form":"frmStandard","focus":"cmdDigit(5)","display":"12","memory":"",)json"
+            R"json("tape":["7 + 5 = 12"],"spoken":[{"how":"now","text":"= 12"}],"sounds":[],"files":[]})json");
+}
+
+TEST_F(ScriptMode, BadLinesAreReportedAndTheRunGoesOn) {
+  const std::string megabyte(1 << 20, 'x');
+  const Outcome outcome = Run("bla\n" + megabyte + "\nkey \xFF\xFE\nkey 7\n");
+  ASSERT_EQ(outcome.Lines.size(), 4u);
+  EXPECT_EQ(outcome.Status, 1);
+  for (std::size_t i = 0; i < 3; ++i) EXPECT_TRUE(outcome.Lines[i].contains("error")) << i;
+  EXPECT_EQ(outcome.Lines[2]["command"], "key \xEF\xBF\xBD\xEF\xBF\xBD");
+  EXPECT_EQ(outcome.Lines[3]["display"], "7");
+}
+
+TEST_F(ScriptMode, QuitSavesTheViewAndNothingFollows) {
+  const Outcome outcome = Run("quit\nkey 7\n");
+  EXPECT_EQ(outcome.Lines[0]["form"], nullptr);
+  EXPECT_EQ(outcome.Lines[0]["files"], Json({OwnSettings().string()}));
+  EXPECT_EQ(outcome.Lines[1]["form"], nullptr);
+  EXPECT_TRUE(outcome.Lines[1]["spoken"].empty());
+  EXPECT_EQ(ReadAll(OwnSettings()), "\"Calc Settings\"\n\"CalcView\",2\n");
+}
+
+TEST_F(ScriptMode, StateTellsEngineAndControls) {
+  const Json state = Run("keys 7+5\nstate\n").Lines.at(1);
+  EXPECT_EQ(state["engine"]["EntryText"], "5");
+  EXPECT_EQ(state["engine"]["Accumulator"], 7);
+  EXPECT_EQ(state["engine"]["LastAction"], "num");
+  EXPECT_EQ(state["controls"][0], Json({{"name", "txtDisplay"}, {"text", "5"}, {"enabled", true}}));
+}
+
+TEST_F(ScriptMode, AnEntryOrASumBeyondADoubleIsSaidAsAnError) {
+  const Json error = {{"how", "queued"}, {"text", "Error"}};
+  const std::string digits(308, '9');
+  Outcome outcome = Run("keys " + digits + "\nkey 9\nkey 5\n");
+  EXPECT_EQ(outcome.Lines[0]["display"], digits);
+  EXPECT_EQ(outcome.Lines[1]["spoken"], Json({{{"how", "now"}, {"text", "9"}}, error}));
+  EXPECT_EQ(outcome.Lines[1]["display"], "E");
+  EXPECT_EQ(outcome.Lines[2]["display"], "5");
+  // The sum fails before the key has said its name: the focus says the name, the key only the error.
+  outcome = Run("keys 1" + std::string(308, '0') + "\nkey Ctrl+m\nkey Ctrl+p\nkey Escape\nkey Ctrl+r\n");
+  EXPECT_EQ(outcome.Lines[1]["display"], "1" + std::string(308, '0'));
+  EXPECT_EQ(outcome.Lines[2]["spoken"][1], Json({{"how", "now"}, {"text", "Error"}}));
+  EXPECT_EQ(outcome.Lines[2]["display"], "E");
+  EXPECT_EQ(outcome.Lines[4]["display"], "1" + std::string(308, '0'));
+}
+
+TEST_F(ScriptMode, AViewThatIsNoneShowsNothing) {
+  WriteSettings("Calc.ost", "\"Calc Settings\"\n\"CalcView\",7\n");
+  const Outcome outcome = Run("key 7\n");
+  EXPECT_EQ(outcome.Lines[0]["form"], nullptr);
+  EXPECT_EQ(Run("key 7\n", "--view standard").Lines[0]["form"], "frmStandard");
+}
+
+TEST_F(ScriptMode, WrongOptionsAreRefused) {
+  for (const char* options : {"--view other", "--today 2026-02-30", "--seed x", "--speech loud", "--nonsense", "--view"})
+    EXPECT_EQ(Run("", options).Status, 2) << options;
+}
+
+TEST_F(ScriptMode, NothingOutsideTheHomeIsTouched) {
+  const auto outside = Home.Path / "outside";
+  std::filesystem::create_directories(outside);
+  std::filesystem::create_directories(Home.Path / "home/.config/QVES");
+  std::ofstream(Home.Path / "home/.config/QVES/registry.ini")
+      << "[Software\\QVES\\Quorvane 1000]\nDocuments=" << outside.string() << "\n";
+  WriteSettings("Quorvane 1000.ost", "\"Settings\"\n\"SystemSpeed\",\"fast\"\n");
+  Run("quit\n");
+  EXPECT_TRUE(std::filesystem::is_empty(outside));
+  EXPECT_NE(ErrorLog().find("SystemSpeed"), std::string::npos);
+}
+
+TEST_F(ScriptMode, AFolderThatCannotBeWrittenIsSaidAndTheRunEnds) {
+  std::filesystem::create_directories(Home.Path / "home/.config");
+  std::ofstream(Home.Path / "home/.config/QVES") << "a file where a folder should be";
+  EXPECT_EQ(Run("keys 7+5\nkey =\nquit\n").Status, 0);
+  EXPECT_NE(ErrorLog().find("Calc.ost: cannot be written"), std::string::npos);
+}
+
+TEST_F(ScriptMode, ASignalEndsItInOrder) {
+  int input[2];
+  ASSERT_EQ(::pipe(input), 0);
+  const pid_t child = ::fork();
+  if (child == 0) {
+    ::dup2(input[0], STDIN_FILENO);
+    ::close(input[1]);
+    std::freopen("/dev/null", "w", stdout);
+    const std::string home = HomeFolder();
+    ::execl(CLI, CLI, "--script", "--home", home.c_str(), nullptr);
+    ::_exit(127);
+  }
+  ::usleep(300000);
+  ::kill(child, SIGTERM);
+  int status = 0;
+  ::waitpid(child, &status, 0);
+  ::close(input[0]);
+  ::close(input[1]);
+  EXPECT_EQ(WEXITSTATUS(status), 128 + SIGTERM);
+  EXPECT_TRUE(std::filesystem::exists(OwnSettings()));
+}
+
+}  // namespace
+}  // namespace qves
