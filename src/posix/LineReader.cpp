@@ -11,7 +11,9 @@ namespace {
 
 volatile sig_atomic_t Arrived = 0;
 
-void Note(int number) { Arrived = number; }
+void Note(int number) {
+  Arrived = number;
+}
 
 constexpr int EndingSignals[] = {SIGTERM, SIGINT, SIGHUP};
 
@@ -65,6 +67,8 @@ bool LineReader::Fill() {
   return false;
 }
 
-int LineReader::EndingSignal() const { return Arrived; }
+int LineReader::EndingSignal() const {
+  return Arrived;
+}
 
 }  // namespace qves

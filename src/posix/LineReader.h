@@ -7,7 +7,8 @@ namespace qves {
 
 class LineReader {
  public:
-  /// Reads from the descriptor. From now on SIGTERM, SIGINT and SIGHUP end the reading instead of the program.
+  /// Reads from the descriptor. From now on SIGTERM, SIGINT and SIGHUP end the reading instead of the
+  /// program.
   explicit LineReader(int descriptor);
 
   /// The next line without its line end; false at the end.

@@ -8,10 +8,13 @@ namespace {
 using Json = nlohmann::ordered_json;
 
 bool IsPlain(std::string_view text) {
-  return std::all_of(text.begin(), text.end(), [](char c) { return c >= ' ' && c < 127 && c != '"' && c != '\\'; });
+  return std::all_of(text.begin(), text.end(),
+                     [](char c) { return c >= ' ' && c < 127 && c != '"' && c != '\\'; });
 }
 
-std::string Dump(const Json& value) { return value.dump(-1, ' ', false, Json::error_handler_t::replace); }
+std::string Dump(const Json& value) {
+  return value.dump(-1, ' ', false, Json::error_handler_t::replace);
+}
 
 }  // namespace
 
@@ -24,7 +27,9 @@ void JsonLine::Begin(char bracket) {
   Line += bracket;
 }
 
-void JsonLine::End(char bracket) { Line += bracket; }
+void JsonLine::End(char bracket) {
+  Line += bracket;
+}
 
 void JsonLine::Name(std::string_view name) {
   Separate();

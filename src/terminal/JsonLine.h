@@ -1,5 +1,5 @@
-// Writes one JSON object on one line. Plain texts are appended as they are, which keeps script mode quick; everything
-// that needs more care is left to the JSON library.
+// Writes one JSON object on one line. Plain texts are appended as they are, which keeps script mode quick;
+// everything that needs more care is left to the JSON library.
 #pragma once
 
 #include <nlohmann/json.hpp>

@@ -50,7 +50,8 @@ void ReportForm(JsonLine& report, const Form* form, const std::string& tapeAdded
   focused ? report.Value(std::string_view(NameOf(*focused))) : report.Value(Json(nullptr));
   const TextBox* display = FindBox(*form, "txtDisplay");
   report.Field("display", display ? std::string_view(display->Text) : std::string_view());
-  if (const TextBox* memory = FindBox(*form, "txtMemory")) report.Field("memory", std::string_view(memory->Text));
+  if (const TextBox* memory = FindBox(*form, "txtMemory"))
+    report.Field("memory", std::string_view(memory->Text));
   if (FindBox(*form, "txtResult")) ReportTape(report, tapeAdded);
 }
 

@@ -24,8 +24,8 @@ class ScriptSession : private AppObserver, private FormObserver {
   explicit ScriptSession(const Options& options);
   ~ScriptSession() override;
 
-  /// Runs one command. The JSON object tells what it did; it has "error" when the line is no command. It is good
-  /// until the next call.
+  /// Runs one command. The JSON object tells what it did; it has "error" when the line is no command. It is
+  /// good until the next call.
   const std::string& Run(int lineNumber, std::string_view line);
   bool HadErrors() const { return Errors; }
 

@@ -4,7 +4,8 @@
 //   display, memory, focus   when they differ from before
 //   error    when the line is no command
 // "== title" starts a new calculator; lines "host KEY,VALUE" right below it are its host settings file.
-// QVES_UPDATE_SCRIPTS=1 rewrites the scripts from what the calculator does: read the difference before you keep it.
+// QVES_UPDATE_SCRIPTS=1 rewrites the scripts from what the calculator does: read the difference before you
+// keep it.
 #include <gtest/gtest.h>
 
 #include <cstdlib>
@@ -63,7 +64,8 @@ class ScriptRunner {
   void Start() {
     const fs::path folder = Home->Path / ".config/QVES/Settings";
     fs::create_directories(folder);
-    if (!HostSettings.empty()) std::ofstream(folder / "Quorvane 1000.ost") << "\"Settings\"\n" << HostSettings;
+    if (!HostSettings.empty())
+      std::ofstream(folder / "Quorvane 1000.ost") << "\"Settings\"\n" << HostSettings;
     Options options;
     options.Home = Home->Path;
     Session = std::make_unique<ScriptSession>(options);
@@ -75,7 +77,8 @@ class ScriptRunner {
     std::string out;
     if (report.contains("error")) out += "  error " + report["error"].get<std::string>() + "\n";
     if (!report["spoken"].empty()) out += "  said" + Said(report["spoken"]) + "\n";
-    for (const Json& tape : report.value("tape", Json::array())) out += "  tape " + tape.get<std::string>() + "\n";
+    for (const Json& tape : report.value("tape", Json::array()))
+      out += "  tape " + tape.get<std::string>() + "\n";
     for (auto& [name, before] : Before) {
       const Json now = report.value(name, Json());
       if (now == before) continue;

@@ -37,8 +37,9 @@ class ScriptMode : public testing::Test {
     const auto in = Home.Path / "in.txt";
     const auto out = Home.Path / "out.txt";
     std::ofstream(in, std::ios::binary) << input;
-    const std::string command = std::string(CLI) + " --script --home '" + HomeFolder() + "' " + options + " < " +
-                                in.string() + " > " + out.string() + " 2> " + (Home.Path / "err.txt").string();
+    const std::string command = std::string(CLI) + " --script --home '" + HomeFolder() + "' " + options +
+                                " < " + in.string() + " > " + out.string() + " 2> " +
+                                (Home.Path / "err.txt").string();
     Outcome outcome;
     outcome.Status = WEXITSTATUS(std::system(command.c_str()));
     std::istringstream lines(ReadAll(out));
@@ -62,9 +63,10 @@ TEST_F(ScriptMode, OneObjectForEachCommandLine) {
   const Outcome outcome = Run("\n# a comment\n  \nkeys 7 + 5\r\nkey =");
   ASSERT_EQ(outcome.Lines.size(), 2u);
   EXPECT_EQ(outcome.Status, 0);
-  EXPECT_EQ(outcome.Lines[1].dump(),
-            R"json({"line":5,"command":"key =","form":"frmStandard","focus":"cmdDigit(5)","display":"12","memory":"",)json"
-            R"json("tape":["7 + 5 = 12"],"spoken":[{"how":"now","text":"= 12"}],"sounds":[],"files":[]})json");
+  EXPECT_EQ(
+      outcome.Lines[1].dump(),
+      R"json({"line":5,"command":"key =","form":"frmStandard","focus":"cmdDigit(5)","display":"12","memory":"",)json"
+      R"json("tape":["7 + 5 = 12"],"spoken":[{"how":"now","text":"= 12"}],"sounds":[],"files":[]})json");
 }
 
 TEST_F(ScriptMode, BadLinesAreReportedAndTheRunGoesOn) {
@@ -118,7 +120,8 @@ TEST_F(ScriptMode, AViewThatIsNoneShowsNothing) {
 }
 
 TEST_F(ScriptMode, WrongOptionsAreRefused) {
-  for (const char* options : {"--view other", "--today 2026-02-30", "--seed x", "--speech loud", "--nonsense", "--view"})
+  for (const char* options :
+       {"--view other", "--today 2026-02-30", "--seed x", "--speech loud", "--nonsense", "--view"})
     EXPECT_EQ(Run("", options).Status, 2) << options;
 }
 

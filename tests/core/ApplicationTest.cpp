@@ -1,0 +1,157 @@
+#include <gtest/gtest.h>
+
+#include "FakePlatform.h"
+#include "app/CalculatorApp.h"
+#include "services/ServiceSet.h"
+#include "services/WindowActivation.h"
+
+namespace qves {
+namespace {
+
+using Texts = std::vector<std::string>;
+
+struct ApplicationTest : testing::Test, AppObserver {
+  FakePlatform Outside;
+  std::optional<ServiceSet> Set;
+  std::optional<CalculatorApp> App;
+  Texts Events;
+
+  void FormShown(Form& form) override { Events.push_back("shown " + form.Name()); }
+  void FormClosed(Form& form) override { Events.push_back("closed " + form.Name()); }
+  void Ended() override { Events.push_back("ended"); }
+
+  bool Start() {
+    Set.emplace(Outside.All);
+    App.emplace(Set->All, *this);
+    return App->Main();
+  }
+  Texts TakeSaid() { return std::exchange(Outside.Speech.Said, {}); }
+};
+
+TEST_F(ApplicationTest, AFirstCopyWelcomesAndASecondOnlyRaisesIt) {
+  EXPECT_TRUE(Start());
+  EXPECT_EQ(TakeSaid(), (Texts{"now Welcome.", "queued Standard View"}));
+  EXPECT_EQ(Events, Texts{"shown frmStandard"});
+  Outside.Windows.SecondCopy = true;
+  Outside.Windows.Deeds.clear();
+  EXPECT_FALSE(Start());
+  EXPECT_EQ(Outside.Windows.Deeds,
+            (Texts{"title ...duplicate instance", "raise QVES Calculator Application"}));
+  EXPECT_EQ(TakeSaid(), Texts{});
+}
+
+TEST_F(ApplicationTest, LeavingSavesStopsAndGivesTheHostItsFocusBack) {
+  Outside.Windows.Windows = {{5, "Editor", true}, {6, "My quorvane 1000 x", true}};
+  Start();
+  Outside.Windows.Deeds.clear();
+  TakeSaid();
+  EXPECT_TRUE(App->ActiveForm()->ChooseMenu(303));
+  EXPECT_EQ(Outside.Windows.Deeds, Texts{"activate 6"});
+  EXPECT_EQ(TakeSaid(), Texts{"stop"});
+  EXPECT_EQ(Events, (Texts{"shown frmStandard", "closed frmStandard", "ended"}));
+  EXPECT_EQ(Outside.Files.Content[Outside.OwnFile], "\"Calc Settings\"\n\"CalcView\",2\n");
+  EXPECT_EQ(App->ActiveForm(), nullptr);
+  EXPECT_EQ(Outside.Keys.GetListener(), nullptr);
+  EXPECT_FALSE(App->KeyDown({'7', NoShift, U'7'}));
+}
+
+TEST_F(ApplicationTest, TheEndOfTheSessionLeavesInOrder) {
+  Start();
+  Outside.WindowMessages.GetListener()->QueryUnload(0);
+  EXPECT_NE(App->ActiveForm(), nullptr);
+  Outside.WindowMessages.GetListener()->QueryUnload(SessionEnding);
+  EXPECT_EQ(Events.back(), "ended");
+  EXPECT_TRUE(Outside.Files.IsFile(Outside.OwnFile));
+}
+
+TEST_F(ApplicationTest, AViewThatIsNoneLeavesNoWindow) {
+  Outside.Files.Content[Outside.OwnFile] = "\"Calc Settings\"\n\"CalcView\",7\n";
+  EXPECT_TRUE(Start());
+  EXPECT_EQ(Events, Texts{});
+  EXPECT_EQ(App->ActiveForm(), nullptr);
+}
+
+TEST_F(ApplicationTest, AnOverflowingShutdownStillEnds) {
+  Start();
+  Outside.TheClock.Ticks = std::numeric_limits<std::int32_t>::max();
+  App->Leave();
+  EXPECT_EQ(Events.back(), "ended");
+  EXPECT_NE(Outside.ErrorLog().find("\t6\t"), std::string::npos);
+}
+
+TEST_F(ApplicationTest, MenuItemsAreReadWithTheirKeysAndDots) {
+  const struct {
+    const char* Item;
+    bool SubMenu;
+    const char* Spoken;
+  } rows[] = {
+      {"Exit", false, "now Exit"},
+      {"View", true, "now View. Has a sub-menu."},
+      {"Paste Ctrl+V", false, "now Paste Control plus V"},
+      {"Undo Ctrl+Shift+Z", false, "now Undo Control plus Shift plus Z"},
+      {"Open...", false, "now Open. Opens a dialog."},
+      {"More... items", true, "now More items. Opens a dialog.. Has a sub-menu."},
+      {"a...b...", false, "now ab. Opens a dialog."},
+  };
+  Start();
+  for (const auto& row : rows) {
+    TakeSaid();
+    Outside.Hints.GetListener()->MenuItemHighlighted(row.Item, "", row.SubMenu);
+    EXPECT_EQ(TakeSaid(), Texts{row.Spoken});
+  }
+}
+
+TEST_F(ApplicationTest, WhileAMenuIsOpenOnlyF1IsHeardByTheCalculator) {
+  Start();
+  HintListener& hints = *Outside.Hints.GetListener();
+  hints.MenuItemHighlighted("Tools", "&", true);
+  TakeSaid();
+  EXPECT_FALSE(App->KeyDown({'7', NoShift, U'7'}));
+  EXPECT_EQ(TakeSaid(), Texts{});
+  EXPECT_TRUE(App->KeyDown({KeyF1, NoShift, 0}));
+  EXPECT_EQ(TakeSaid(), Texts{"now Tools. The mnemonic for this menu item is ampersand. More."});
+  hints.MenuItemHighlighted("Exit", "", false);
+  TakeSaid();
+  App->KeyDown({KeyF1, NoShift, 0});
+  EXPECT_EQ(TakeSaid(), Texts{"now Exit. "});
+  hints.MenusClosed();
+  EXPECT_TRUE(App->KeyDown({'7', NoShift, U'7'}));
+}
+
+TEST_F(ApplicationTest, OnlyCtrlAloneStopsSpeech) {
+  Start();
+  TakeSaid();
+  App->KeyDown({KeyControl, ControlBit, 0});
+  App->KeyDown({'C', ControlBit, 0});
+  App->KeyUp('C');
+  App->KeyUp(KeyControl);
+  EXPECT_EQ(TakeSaid(), Texts{"now "}) << "the copy's message, none in this message file";
+  App->KeyDown({KeyControl, ControlBit, 0});
+  App->KeyUp(KeyControl);
+  EXPECT_EQ(TakeSaid(), Texts{"stop"});
+}
+
+TEST(WindowActivation, TheFirstWindowWithTheFragment) {
+  const struct {
+    const char* Fragment;
+    bool Found;
+    Texts Deeds;
+  } rows[] = {
+      {"calc", true, {"activate 3"}},
+      {"nothing", false, {}},
+      {"APPOINTMENT calendar", true, {"key 114 to 4", "activate 4"}},
+      {"hidden appointment calendar", true, {"activate 5"}},
+  };
+  for (const auto& row : rows) {
+    FakeWindows windows;
+    windows.Windows = {{2, "", true},
+                       {3, "A CALCulator", true},
+                       {4, "Appointment Calendar", true},
+                       {5, "Hidden Appointment Calendar", false}};
+    EXPECT_EQ(ActivateWindowByTitle(windows, row.Fragment), row.Found);
+    EXPECT_EQ(windows.Deeds, row.Deeds) << row.Fragment;
+  }
+}
+
+}  // namespace
+}  // namespace qves

@@ -1,0 +1,16 @@
+# Fails when PROGRAM is linked to anything but the C++ standard library and what that stands on (with the sanitizers'
+# run-time libraries where they are built in).
+execute_process(COMMAND readelf -d ${PROGRAM} OUTPUT_VARIABLE dynamic RESULT_VARIABLE status)
+if(NOT status EQUAL 0)
+  message(FATAL_ERROR "readelf cannot read ${PROGRAM}")
+endif()
+string(REGEX MATCHALL "NEEDED[^\n]*" lines "${dynamic}")
+if(NOT lines MATCHES "libstdc\\+\\+")
+  message(FATAL_ERROR "no NEEDED entry for the standard library: ${dynamic}")
+endif()
+foreach(line IN LISTS lines)
+  message(STATUS "${line}")
+  if(NOT line MATCHES "\\[(libstdc\\+\\+|libm|libc|libgcc_s|ld-linux-x86-64|libasan|libubsan)\\.so")
+    message(FATAL_ERROR "the core needs more than the standard library: ${line}")
+  endif()
+endforeach()
