@@ -6,6 +6,7 @@
 #include "services/Text.h"
 #include "terminal/Chord.h"
 #include "terminal/Report.h"
+#include "terminal/SpeechModule.h"
 
 namespace qves {
 namespace {
@@ -65,7 +66,7 @@ ScriptSession::ScriptSession(const Options& options)
       Files(MakeFiles(options, Directories)),
       RegistryStore(Files, Directories.ConfigFolder() + "/QVES/registry.ini"),
       TheClock(options.Today),
-      RealSpeech(options.Speech ? MakeSpeech(*options.Speech, Events) : nullptr),
+      RealSpeech(options.Speech ? LoadSpeech(*options.Speech, Events) : nullptr),
       Speech(Spoken, RealSpeech.get()),
       Outside{Speech, Hook,        Hints,         WindowMessages, Windows,
               Files,  Directories, RegistryStore, TheClock,       Events},
