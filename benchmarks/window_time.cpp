@@ -1,5 +1,5 @@
-// window_time PROGRAM [ARGS]: starts the program, waits until its window is mapped, ends it with SIGTERM, and prints the
-// milliseconds from the start to the window and from SIGTERM to the end.
+// window_time PROGRAM [ARGS]: starts the program, waits until its window is mapped, ends it with SIGTERM, and
+// prints the milliseconds from the start to the window and from SIGTERM to the end.
 #include <signal.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -21,7 +21,8 @@ double Milliseconds(Clock::time_point from) {
 /// Waits for a window that is more than a helper of the toolkit.
 void WaitForWindow(xcb_connection_t* connection) {
   for (;;) {
-    const std::unique_ptr<xcb_generic_event_t, decltype(&std::free)> event(xcb_wait_for_event(connection), std::free);
+    const std::unique_ptr<xcb_generic_event_t, decltype(&std::free)> event(xcb_wait_for_event(connection),
+                                                                           std::free);
     if (!event) std::exit(1);
     if ((event->response_type & 0x7f) != XCB_MAP_NOTIFY) continue;
     const auto window = reinterpret_cast<const xcb_map_notify_event_t*>(event.get())->window;

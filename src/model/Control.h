@@ -27,7 +27,7 @@ enum ControlTrait : unsigned {
   DefaultButton = 1,  ///< Enter presses it when no button was gone to
   CancelButton = 2,   ///< Escape moves the focus to it
   MultiLine = 4,      ///< a text box of several lines
-  Indicator = 8,      ///< shown, but never focused
+  Indicator = 8,      ///< a narrow text box for a mark
 };
 
 inline constexpr int NoIndex = -1;   ///< the index of a control that is no member of an array
@@ -68,7 +68,6 @@ class Control {
   std::string_view Name() const { return Spec.Name; }
   int Index() const { return Spec.Index; }
   bool Has(ControlTrait trait) const { return (Spec.Traits & trait) != 0; }
-  bool CanFocus() const { return Enabled && !Has(Indicator); }
 
   const ControlSpec& Spec;
   const std::string Caption;

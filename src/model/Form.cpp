@@ -29,21 +29,21 @@ void Form::Click(Control& control) {
 }
 
 void Form::MouseClick(Control& control) {
-  if (!control.CanFocus()) return;
+  if (!control.Enabled) return;
   FocusByUser(control);
   Click(control);
 }
 
 void Form::FocusByUser(Control& control) {
-  if (!control.CanFocus()) return;
+  if (!control.Enabled) return;
   EnterPressesFocused = true;
   SetFocus(control);
 }
 
 void Form::SetFocus(Control& control) {
-  if (Focused == &control || !control.CanFocus()) return;
+  if (Focused == &control || !control.Enabled) return;
   PlaceFocus(control);
-  if (!control.Speaking.Quiescent) OnGotFocus(control);
+  OnGotFocus(control);
 }
 
 void Form::PlaceFocus(Control& control) {
@@ -92,7 +92,7 @@ void Form::MoveFocus(int step) {
   const int start = at == ControlList.end() ? -1 : static_cast<int>(at - ControlList.begin());
   for (int moved = 1; moved <= count; ++moved) {
     Control& next = *ControlList[static_cast<std::size_t>(((start + step * moved) % count + count) % count)];
-    if (next.CanFocus()) return FocusByUser(next);
+    if (next.Enabled) return FocusByUser(next);
   }
 }
 

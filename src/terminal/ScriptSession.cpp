@@ -128,7 +128,7 @@ std::string ScriptSession::WithControl(std::string_view argument, void (Form::*a
   Form* form = App.ActiveForm();
   if (!form) return "";
   Control* control = form->Find(name, *index);
-  if (!control || control->Has(Indicator))
+  if (!control)
     return "no control " + Quoted(name) + (argument.empty() ? "" : " with index " + std::string(argument));
   (form->*action)(*control);
   return "";

@@ -125,7 +125,7 @@ void View::Form_KeyUp(int keyCode) {
 }
 
 void View::OnClick(Control& control) {
-  if (&control == Display || &control == Tape) return SayOf(control, false);
+  if (dynamic_cast<TextBox*>(&control)) return SayOf(control, false);
   const ClickRow* row = FindClickRow(control.Name());
   if (!row) return;
   if (row->TakesFocus) SetFocus(control);
@@ -137,10 +137,13 @@ void View::OnGotFocus(Control& control) {
   SayOf(control, &control == Display);
 }
 
-/// What a control says of itself: the display its value, the tape all of it, any other its name.
+/// What a control says of itself: the display its value, the tape all of it, the memory indicator its name and its
+/// mark, any other its name.
 void View::SayOf(const Control& control, bool queued) {
   std::string text = control.SpokenName;
-  if (&control == Tape) {
+  if (&control == MemoryBox && !MemoryBox->Text.empty()) {
+    text += " " + MemoryBox->Text;
+  } else if (&control == Tape) {
     text = Services_.Speech.SpeechFormatNumber(Tape->Text);
   } else if (&control == Display) {
     SelectAll(*Display);  // so that a copy takes all of it
@@ -148,6 +151,7 @@ void View::SayOf(const Control& control, bool queued) {
                              : FillPlaceholders(Message(CurrentValueMessage),
                                                 {Services_.Speech.SpeechFormatNumber(Engine->DisplayText())});
   }
+  if (control.Speaking.Quiescent) return;
   if (queued)
     Services_.Speech.SpeakTextQueued(text);
   else

@@ -12,7 +12,6 @@ namespace {
 
 constexpr ControlSpec Specs[] = {
     {"cmdFirst", NoIndex, ControlKind::Button, "first"},
-    {"txtShown", NoIndex, ControlKind::TextBox, "", 0, 0, 0, {}, Indicator},
     {"cmdFault", 3, ControlKind::Button, "fault"},
     {"cmdCancel", NoIndex, ControlKind::Button, "cancel", 0, 0, 0, {}, CancelButton | DefaultButton},
 };

@@ -1,0 +1,76 @@
+#include "desktop/Appearance.h"
+
+#include <QApplication>
+#include <QPainter>
+#include <array>
+
+namespace qves {
+namespace {
+
+constexpr std::array<QRgb, 16> SixteenColors = {
+    0xff000000, 0xff000080, 0xff008000, 0xff008080, 0xff800000, 0xff800080, 0xff808000, 0xffc0c0c0,
+    0xff808080, 0xff0000ff, 0xff00ff00, 0xff00ffff, 0xffff0000, 0xffff00ff, 0xffffff00, 0xffffffff,
+};
+
+constexpr qreal DisplayScale = 2.0;  // of the desktop's font
+constexpr int LargestFont = 400;     // points; a larger size in a settings file is a slip
+
+/// The desktop's font, or its multiple.
+QFont DesktopFont(TextRole role) {
+  QFont font = QApplication::font();
+  if (role == TextRole::Tape) return font;
+  if (font.pointSizeF() > 0)
+    font.setPointSizeF(font.pointSizeF() * DisplayScale);
+  else
+    font.setPixelSize(static_cast<int>(font.pixelSize() * DisplayScale));
+  return font;
+}
+
+QFont HostFont(const AppSettings& settings) {
+  QFont font = QApplication::font();
+  if (!settings.FontName.empty()) font.setFamilies({QString::fromStdString(settings.FontName)});
+  if (settings.FontSize > 0 && settings.FontSize <= LargestFont) font.setPointSize(settings.FontSize);
+  font.setBold(settings.BoldFont);
+  font.setItalic(settings.ItalicFont);
+  return font;
+}
+
+QPalette HostPalette(QPalette palette, const AppSettings& settings) {
+  const std::pair<QPalette::ColorRole, int> colors[] = {
+      {QPalette::Text, settings.TextColor},
+      {QPalette::Base, settings.BackColor},
+      {QPalette::HighlightedText, settings.HighColor},
+      {QPalette::Highlight, settings.HiBkColor},
+  };
+  for (const auto& [role, number] : colors)
+    if (const auto color = PaletteColor(number)) palette.setColor(role, *color);
+  return palette;
+}
+
+}  // namespace
+
+std::optional<QColor> PaletteColor(int number) {
+  if (number < 0 || number >= static_cast<int>(SixteenColors.size())) return std::nullopt;
+  return QColor::fromRgb(SixteenColors[static_cast<std::size_t>(number)]);
+}
+
+void ApplyAppearance(QWidget& box, TextRole role, const AppSettings& settings) {
+  const bool fromHost = settings.HostFileFound && role != TextRole::Indicator;
+  box.setFont(fromHost ? HostFont(settings) : DesktopFont(role));
+  if (fromHost) box.setPalette(HostPalette(QApplication::palette(), settings));
+}
+
+void PaintOutline(QWidget& control) {
+  const QPalette::ColorRole role = control.hasFocus() ? QPalette::Highlight : QPalette::WindowText;
+  const int width = control.hasFocus() ? OutlineWidth : 1;
+  // The desktop's own palette: a text box may have colours of the host product.
+  const QColor color =
+      QApplication::palette().color(control.isEnabled() ? QPalette::Active : QPalette::Disabled, role);
+  QPainter painter(&control);
+  for (int inset = 0; inset < width; ++inset) {
+    painter.setPen(color);
+    painter.drawRect(control.rect().adjusted(inset, inset, -inset - 1, -inset - 1));
+  }
+}
+
+}  // namespace qves

@@ -1,0 +1,27 @@
+// How the display and the tape look: the desktop's font and colours, or those of the host product's settings.
+#pragma once
+
+#include <QColor>
+#include <QWidget>
+#include <optional>
+
+#include "services/AppSettings.h"
+
+namespace qves {
+
+/// Where a text box takes its looks from.
+enum class TextRole { Display, Tape, Indicator };
+
+/// The colour of that number (0 to 15) of the sixteen-colour palette; none for any other number.
+std::optional<QColor> PaletteColor(int number);
+
+/// Gives the text box its font and colours.
+void ApplyAppearance(QWidget& box, TextRole role, const AppSettings& settings);
+
+/// Draws the border of a control: visible in every contrast, thick while the control has the focus.
+void PaintOutline(QWidget& control);
+
+/// The room that PaintOutline needs at each side, in pixels.
+inline constexpr int OutlineWidth = 3;
+
+}  // namespace qves

@@ -1,0 +1,221 @@
+#include "desktop/ControlWidgets.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScrollBar>
+#include <algorithm>
+
+namespace qves {
+namespace {
+
+constexpr int TextMargin = OutlineWidth + 2;  // pixels between the border and the text
+constexpr int IndicatorColumns = 2;
+constexpr int SmallestDisplayColumns = 10;
+constexpr int SmallestTapeColumns = 12;
+constexpr int SmallestTapeLines = 3;
+constexpr int TapeColumns = 24;
+constexpr int TapeLines = 8;
+
+QString FromUtf8(std::string_view text) {
+  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+/// The number of characters, as the toolkit counts them, in a text of line ends "\r\n"; a line end counts as
+/// one.
+int CountCharacters(std::string_view text) {
+  const QString shown = FromUtf8(text);
+  return static_cast<int>(shown.size() - shown.count(QLatin1String("\r\n")));
+}
+
+struct Selection {
+  int Start;
+  int Length;
+};
+
+Selection SelectionOf(const TextBox& box) {
+  const std::string_view text = box.Text;
+  const std::size_t start = std::min(box.SelStart, text.size());
+  return {CountCharacters(text.substr(0, start)), CountCharacters(text.substr(start, box.SelLength))};
+}
+
+QString EscapeMnemonics(QString caption) {
+  return caption.replace('&', QLatin1String("&&"));
+}
+
+void NameForScreenReader(QWidget& widget, const Control& control) {
+  widget.setAccessibleName(QString::fromStdString(control.SpokenName));
+  widget.setAccessibleDescription(QString::fromStdString(control.HelpText));
+}
+
+bool IsPrimaryClick(const QMouseEvent& event, const QWidget& widget) {
+  return event.button() == Qt::LeftButton && widget.rect().contains(event.position().toPoint());
+}
+
+}  // namespace
+
+ButtonView::ButtonView(Button& button, ControlHost& host, QWidget* parent)
+    : QPushButton(parent), Model(button), Host(host) {
+  setText(EscapeMnemonics(QString::fromStdString(button.Caption)));
+  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+  setFocusPolicy(Qt::StrongFocus);
+  NameForScreenReader(*this, button);
+  connect(this, &QPushButton::clicked, this, [this] { Host.ControlPressed(Model); });
+}
+
+QSize ButtonView::sizeHint() const {
+  const QSize hint = QPushButton::sizeHint();
+  return {hint.width(), std::max(hint.height(), 2 * fontMetrics().height())};
+}
+
+void ButtonView::focusInEvent(QFocusEvent* event) {
+  QPushButton::focusInEvent(event);
+  Host.ControlFocused(Model);
+}
+
+void ButtonView::keyPressEvent(QKeyEvent* event) {
+  // Space, Enter and the arrows act through the form; here they would act a second time.
+  event->ignore();
+}
+
+void ButtonView::paintEvent(QPaintEvent* event) {
+  QPushButton::paintEvent(event);
+  PaintOutline(*this);
+}
+
+LineView::LineView(TextBox& box, ControlHost& host, const AppSettings& settings, QWidget* parent)
+    : QLineEdit(parent), Model(box), IsIndicator(box.Has(Indicator)), Host(host), Settings(settings) {
+  setReadOnly(true);
+  setFrame(false);
+  setTextMargins(TextMargin, TextMargin, TextMargin, TextMargin);
+  setAlignment(IsIndicator ? Qt::AlignCenter : Qt::AlignRight | Qt::AlignVCenter);
+  setFocusPolicy(Qt::StrongFocus);
+  setSizePolicy(IsIndicator ? QSizePolicy::Preferred : QSizePolicy::Expanding, QSizePolicy::Preferred);
+  NameForScreenReader(*this, box);
+  Restyle();
+}
+
+void LineView::Refresh() {
+  setEnabled(Model.Enabled);
+  if (const QString shown = QString::fromStdString(Model.Text); text() != shown) setText(shown);
+  if (Model.SelLength == 0) return deselect();
+  const Selection selection = SelectionOf(Model);
+  setSelection(selection.Start, selection.Length);
+}
+
+void LineView::Restyle() {
+  ApplyAppearance(*this, IsIndicator ? TextRole::Indicator : TextRole::Display, Settings);
+}
+
+QSize LineView::minimumSizeHint() const {
+  const int columns = IsIndicator ? IndicatorColumns : SmallestDisplayColumns;
+  const QFontMetrics metrics = fontMetrics();
+  return {metrics.horizontalAdvance('0') * columns + 2 * TextMargin + 4,
+          metrics.height() + 2 * TextMargin + 2};
+}
+
+QSize LineView::sizeHint() const {
+  return IsIndicator ? minimumSizeHint() : QLineEdit::sizeHint();
+}
+
+void LineView::focusInEvent(QFocusEvent* event) {
+  QLineEdit::focusInEvent(event);
+  Host.ControlFocused(Model);
+}
+
+void LineView::mouseReleaseEvent(QMouseEvent* event) {
+  QLineEdit::mouseReleaseEvent(event);
+  if (IsPrimaryClick(*event, *this)) Host.ControlPressed(Model);
+}
+
+void LineView::paintEvent(QPaintEvent* event) {
+  QLineEdit::paintEvent(event);
+  PaintOutline(*this);
+}
+
+LinesView::LinesView(TextBox& box, ControlHost& host, const AppSettings& settings, QWidget* parent)
+    : QPlainTextEdit(parent), Model(box), Host(host), Settings(settings) {
+  setReadOnly(true);
+  setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+  setUndoRedoEnabled(false);
+  setFrameStyle(QFrame::Box | QFrame::Plain);
+  setLineWidth(OutlineWidth);
+  NameForScreenReader(*this, box);
+  Restyle();
+}
+
+void LinesView::Refresh() {
+  setEnabled(Model.Enabled);
+  if (Model.SelLength > 0) return ShowSelection();
+  setPlainText(QString::fromStdString(Model.Text));
+  verticalScrollBar()->setValue(verticalScrollBar()->maximum());
+}
+
+void LinesView::Append(std::size_t from) {
+  QTextCursor end(document());
+  end.movePosition(QTextCursor::End);
+  end.insertText(FromUtf8(std::string_view(Model.Text).substr(from)));
+  verticalScrollBar()->setValue(verticalScrollBar()->maximum());
+}
+
+void LinesView::ShowSelection() {
+  const Selection selection = SelectionOf(Model);
+  QTextCursor cursor(document());
+  cursor.setPosition(selection.Start);
+  cursor.setPosition(selection.Start + selection.Length, QTextCursor::KeepAnchor);
+  setTextCursor(cursor);
+}
+
+void LinesView::Restyle() {
+  ApplyAppearance(*this, TextRole::Tape, Settings);
+}
+
+QSize LinesView::SizeOf(int columns, int lines) const {
+  const QFontMetrics metrics = fontMetrics();
+  const int around = 2 * (frameWidth() + static_cast<int>(document()->documentMargin()));
+  return {metrics.horizontalAdvance('0') * columns + around + verticalScrollBar()->sizeHint().width(),
+          metrics.lineSpacing() * lines + around};
+}
+
+QSize LinesView::minimumSizeHint() const {
+  return SizeOf(SmallestTapeColumns, SmallestTapeLines);
+}
+
+QSize LinesView::sizeHint() const {
+  return SizeOf(TapeColumns, TapeLines);
+}
+
+bool LinesView::event(QEvent* event) {
+  if (event->type() == QEvent::Paint) {
+    QPainter(this).fillRect(rect(), palette().base());
+    PaintOutline(*this);
+    return true;
+  }
+  if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut) update();
+  return QPlainTextEdit::event(event);
+}
+
+void LinesView::focusInEvent(QFocusEvent* event) {
+  QPlainTextEdit::focusInEvent(event);
+  Host.ControlFocused(Model);
+}
+
+void LinesView::mouseReleaseEvent(QMouseEvent* event) {
+  QPlainTextEdit::mouseReleaseEvent(event);
+  if (IsPrimaryClick(*event, *viewport())) Host.ControlPressed(Model);
+}
+
+ControlView* MakeControlView(Control& control, ControlHost& host, const AppSettings& settings,
+                             QWidget* parent) {
+  ControlView* view = nullptr;
+  if (auto* button = dynamic_cast<Button*>(&control))
+    view = new ButtonView(*button, host, parent);
+  else if (auto* box = dynamic_cast<TextBox*>(&control); box && box->Has(MultiLine))
+    view = new LinesView(*box, host, settings, parent);
+  else if (box)
+    view = new LineView(*box, host, settings, parent);
+  if (view) view->Refresh();
+  return view;
+}
+
+}  // namespace qves

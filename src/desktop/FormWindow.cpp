@@ -1,0 +1,112 @@
+#include "desktop/FormWindow.h"
+
+#include <QCloseEvent>
+
+#include "desktop/PanelGrid.h"
+
+namespace qves {
+FormWindow::FormWindow(const AppSettings& settings, HintNotify& hints, QWidget* parent)
+    : QMainWindow(parent), Settings(settings), Hints(hints) {}
+
+FormWindow::~FormWindow() {
+  DropForm();
+}
+
+void FormWindow::ShowForm(Form& form) {
+  DropForm();
+  Shown = &form;
+  form.AddObserver(*this);
+  setWindowTitle(QString::fromStdString(form.Title()));
+  BuildMenus();
+  BuildControls();
+  FocusChanged(form);
+  show();
+}
+
+void FormWindow::DropForm() {
+  if (!Shown) return;
+  Shown->RemoveObserver(*this);
+  Shown = nullptr;
+  Views.clear();
+}
+
+void FormWindow::BuildMenus() {
+  // The menu bar itself goes with the old form; the old one is deleted when its event has ended.
+  MenuBar = nullptr;
+  if (Shown->Menus().empty()) return setMenuBar(nullptr);
+  MenuBar = new FormMenuBar(Shown->Menus(), Hints, [this](int id) { ChooseMenu(id); });
+  setMenuBar(MenuBar);
+}
+
+void FormWindow::BuildControls() {
+  auto* central = new QWidget;
+  PanelGrid grid(*Shown, *central);
+  QWidget* previous = nullptr;
+  for (const auto& control : Shown->Controls()) {
+    ControlView* view = MakeControlView(*control, *this, Settings, grid.PanelOf(*control));
+    if (!view) continue;
+    Views[control.get()] = view;
+    grid.Place(*control, view->Widget());
+    if (previous) setTabOrder(previous, &view->Widget());
+    previous = &view->Widget();
+  }
+  grid.Balance();
+  // Deletes what was there, when the event that led here has ended.
+  setCentralWidget(central);
+}
+
+ControlView* FormWindow::ViewOf(const Control& control) const {
+  const auto found = Views.find(&control);
+  return found == Views.end() ? nullptr : found->second;
+}
+
+QWidget* FormWindow::WidgetOf(const Control& control) const {
+  ControlView* view = ViewOf(control);
+  return view ? &view->Widget() : nullptr;
+}
+
+void FormWindow::ControlChanged(Form&, Control& control) {
+  MovingFocus = true;  // a control that is disabled loses the focus; where it goes is the form's business
+  if (ControlView* view = ViewOf(control)) view->Refresh();
+  MovingFocus = false;
+}
+
+void FormWindow::TextAppended(Form&, TextBox& box, std::size_t from) {
+  if (ControlView* view = ViewOf(box)) view->Append(from);
+}
+
+void FormWindow::FocusChanged(Form& form) {
+  QWidget* widget = form.FocusedControl() ? WidgetOf(*form.FocusedControl()) : nullptr;
+  if (!widget) return;
+  MovingFocus = true;
+  widget->setFocus(Qt::OtherFocusReason);
+  MovingFocus = false;
+}
+
+void FormWindow::ControlPressed(Control& control) {
+  if (Shown && ViewOf(control)) Shown->MouseClick(control);
+}
+
+void FormWindow::ControlFocused(Control& control) {
+  // The focus comes back to the same control when the window is activated or a menu closes: that is no news.
+  if (!Shown || MovingFocus || !ViewOf(control)) return;
+  if (Shown->FocusedControl() != &control) Shown->FocusByUser(control);
+}
+
+void FormWindow::ChooseMenu(int id) {
+  if (Shown) Shown->ChooseMenu(id);
+}
+
+void FormWindow::closeEvent(QCloseEvent* event) {
+  event->ignore();
+  OnClose();
+}
+
+void FormWindow::changeEvent(QEvent* event) {
+  QMainWindow::changeEvent(event);
+  if (event->type() != QEvent::ApplicationFontChange && event->type() != QEvent::ApplicationPaletteChange)
+    return;
+  for (const auto& [control, view] : Views) view->Restyle();
+}
+
+}  // namespace qves

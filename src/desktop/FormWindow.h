@@ -1,0 +1,59 @@
+// The window of a form, made from the form's controls, panels and menus alone.
+#pragma once
+
+#include <QMainWindow>
+#include <unordered_map>
+
+#include "desktop/ControlWidgets.h"
+#include "desktop/FormMenuBar.h"
+#include "model/Form.h"
+#include "services/AppSettings.h"
+
+namespace qves {
+
+class FormWindow : public QMainWindow, private FormObserver, private ControlHost {
+ public:
+  FormWindow(const AppSettings& settings, HintNotify& hints, QWidget* parent = nullptr);
+  ~FormWindow() override;
+
+  /// Shows the form in place of what was shown before, and the window if it is hidden.
+  void ShowForm(Form& form);
+  /// Forgets the form, which is about to be destroyed. Its controls stay in sight until the next form or the
+  /// end.
+  void DropForm();
+  Form* ShownForm() const { return Shown; }
+  /// The menu bar, null when the form has no menus.
+  FormMenuBar* Menus() const { return MenuBar; }
+  /// The widget of the control, null when it is not of the form shown.
+  QWidget* WidgetOf(const Control& control) const;
+
+  /// Called when the user closes the window.
+  std::function<void()> OnClose = [] {};
+
+ protected:
+  void closeEvent(QCloseEvent* event) override;
+  void changeEvent(QEvent* event) override;
+
+ private:
+  // FormObserver
+  void ControlChanged(Form& form, Control& control) override;
+  void TextAppended(Form& form, TextBox& box, std::size_t from) override;
+  void FocusChanged(Form& form) override;
+  // ControlHost
+  void ControlPressed(Control& control) override;
+  void ControlFocused(Control& control) override;
+
+  ControlView* ViewOf(const Control& control) const;
+  void BuildMenus();
+  void BuildControls();
+  void ChooseMenu(int id);
+
+  const AppSettings& Settings;
+  HintNotify& Hints;
+  Form* Shown = nullptr;
+  FormMenuBar* MenuBar = nullptr;
+  std::unordered_map<const Control*, ControlView*> Views;
+  bool MovingFocus = false;  ///< the focus follows the form: its echo is no news for it
+};
+
+}  // namespace qves

@@ -1,0 +1,65 @@
+#include "desktop/KeyFilter.h"
+
+#include <QCoreApplication>
+
+#include "desktop/KeyTranslation.h"
+
+namespace qves {
+
+namespace {
+
+constexpr int KeyF10 = KeyF9 + 1;
+
+bool IsMnemonic(const QKeyEvent& event) {
+  return event.modifiers() == Qt::AltModifier && event.key() != Qt::Key_Alt;
+}
+
+/// A key that speaks or silences when it is let go. Held, it is one press: repetitions must not hide that
+/// another key came between.
+bool ActsOnRelease(int code) {
+  return code == KeyControl || code == KeyCapsLock || code == KeyNumLock || code == KeyScrollLock;
+}
+
+}  // namespace
+
+KeyFilter::KeyFilter(Receivers receivers) : To(std::move(receivers)) {
+  QCoreApplication::instance()->installEventFilter(this);
+}
+
+KeyFilter::~KeyFilter() {
+  QCoreApplication::instance()->removeEventFilter(this);
+}
+
+bool KeyFilter::eventFilter(QObject* watched, QEvent* event) {
+  if (event->type() == QEvent::ShortcutOverride && IsMnemonic(*static_cast<QKeyEvent*>(event))) {
+    // Comes as a key press then, which the calculator sees before the menus do.
+    event->accept();
+    return true;
+  }
+  // The window gets each key once, before its widgets get theirs.
+  if (!watched->isWindowType()) return false;
+  if (event->type() == QEvent::KeyPress) return Press(*static_cast<QKeyEvent*>(event));
+  if (event->type() == QEvent::KeyRelease) Release(*static_cast<QKeyEvent*>(event));
+  return false;
+}
+
+bool KeyFilter::Press(const QKeyEvent& event) {
+  if (To.IsForeignPopup()) return false;
+  const KeyEvent key = TranslateKey(CaptureKey(event));
+  if (event.isAutoRepeat() && ActsOnRelease(key.Code)) return true;
+  return To.KeyDown(key) || OpensMenu(key);
+}
+
+bool KeyFilter::OpensMenu(const KeyEvent& key) {
+  const bool isLetter = key.Code >= 'A' && key.Code <= 'Z';
+  if (isLetter && key.Shift == AltBit) return To.OpenMenu(key.Code);
+  if (key.Code != KeyF10 || key.Shift != NoShift) return false;
+  To.OpenFirstMenu();
+  return true;
+}
+
+void KeyFilter::Release(const QKeyEvent& event) {
+  if (!event.isAutoRepeat()) To.KeyUp(TranslateKey(CaptureKey(event)).Code);
+}
+
+}  // namespace qves

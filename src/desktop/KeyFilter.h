@@ -1,0 +1,39 @@
+// Sees every key before any widget of the program and hands it to the calculator.
+#pragma once
+
+#include <QKeyEvent>
+#include <QObject>
+#include <functional>
+
+#include "model/KeyEvent.h"
+
+namespace qves {
+
+class KeyFilter : public QObject {
+ public:
+  struct Receivers {
+    std::function<bool(const KeyEvent&)> KeyDown;  ///< true: the key is used, no widget is to see it
+    std::function<void(int keyCode)> KeyUp;
+    /// True while a pop-up that is not the calculator's concern has the keyboard (a context menu).
+    std::function<bool()> IsForeignPopup = [] { return false; };
+    /// A press of F10 that the calculator did not use.
+    std::function<void()> OpenFirstMenu = [] {};
+    /// A press of Alt and a letter that the calculator did not use; true when a menu opens.
+    std::function<bool(int letter)> OpenMenu = [](int) { return false; };
+  };
+
+  /// Filters the keys of all windows of the application.
+  explicit KeyFilter(Receivers receivers);
+  ~KeyFilter() override;
+
+  bool eventFilter(QObject* watched, QEvent* event) override;
+
+ private:
+  bool Press(const QKeyEvent& event);
+  bool OpensMenu(const KeyEvent& key);
+  void Release(const QKeyEvent& event);
+
+  Receivers To;
+};
+
+}  // namespace qves

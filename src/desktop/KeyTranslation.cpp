@@ -1,0 +1,237 @@
+#include "desktop/KeyTranslation.h"
+
+#include <algorithm>
+#include <array>
+#include <optional>
+#include <span>
+
+namespace qves {
+namespace {
+
+constexpr std::uint32_t EvdevOffset = 8;
+
+struct CodeOf {
+  int From;
+  int Code;
+};
+
+/// A run of keys whose codes follow each other.
+struct CodeRange {
+  std::uint32_t First;
+  std::uint32_t Last;
+  int Code;
+};
+
+/// The character on a US keyboard: its key and whether Shift types it.
+struct UsKey {
+  char32_t Character;
+  int Code;
+  bool Shifted;
+};
+
+/// Keysyms of the keypad with NumLock on. Separator is the comma of some layouts: it types the point here.
+constexpr std::array KeypadKeySyms = {
+    CodeRange{0xffb0, 0xffb9, KeyPad0},       CodeRange{0xffaa, 0xffab, KeyPadMultiply},
+    CodeRange{0xffac, 0xffac, KeyPadDecimal}, CodeRange{0xffad, 0xffad, KeyPadSubtract},
+    CodeRange{0xffae, 0xffaf, KeyPadDecimal}, CodeRange{0xff8d, 0xff8d, KeyEnter},
+};
+
+/// Keypad keys of an event without keysym, by the toolkit's key.
+constexpr std::array KeypadKeys = {
+    CodeOf{Qt::Key_Asterisk, KeyPadMultiply}, CodeOf{Qt::Key_Plus, KeyPadAdd},
+    CodeOf{Qt::Key_Minus, KeyPadSubtract},    CodeOf{Qt::Key_Period, KeyPadDecimal},
+    CodeOf{Qt::Key_Comma, KeyPadDecimal},     CodeOf{Qt::Key_Slash, KeyPadDivide},
+};
+
+/// Keys that type no character, wherever they are; the keypad's navigation keys (NumLock off) are among them.
+constexpr std::array NamedKeys = {
+    CodeOf{Qt::Key_Backspace, KeyBackspace},
+    CodeOf{Qt::Key_Tab, KeyTab},
+    CodeOf{Qt::Key_Backtab, KeyTab},
+    CodeOf{Qt::Key_Clear, 12},
+    CodeOf{Qt::Key_Return, KeyEnter},
+    CodeOf{Qt::Key_Enter, KeyEnter},
+    CodeOf{Qt::Key_Shift, KeyShift},
+    CodeOf{Qt::Key_Control, KeyControl},
+    CodeOf{Qt::Key_Alt, KeyAlt},
+    CodeOf{Qt::Key_AltGr, KeyAlt},
+    CodeOf{Qt::Key_Pause, 19},
+    CodeOf{Qt::Key_CapsLock, KeyCapsLock},
+    CodeOf{Qt::Key_Escape, KeyEscape},
+    CodeOf{Qt::Key_Space, KeySpace},
+    CodeOf{Qt::Key_PageUp, KeyPageUp},
+    CodeOf{Qt::Key_PageDown, KeyPageDown},
+    CodeOf{Qt::Key_End, KeyEnd},
+    CodeOf{Qt::Key_Home, KeyHome},
+    CodeOf{Qt::Key_Left, KeyLeft},
+    CodeOf{Qt::Key_Up, KeyUp},
+    CodeOf{Qt::Key_Right, KeyRight},
+    CodeOf{Qt::Key_Down, KeyDown},
+    CodeOf{Qt::Key_Print, 44},
+    CodeOf{Qt::Key_Insert, 45},
+    CodeOf{Qt::Key_Delete, KeyDelete},
+    CodeOf{Qt::Key_Menu, 93},
+    CodeOf{Qt::Key_NumLock, KeyNumLock},
+    CodeOf{Qt::Key_ScrollLock, KeyScrollLock},
+};
+
+/// Positions on the keyboard, by the kernel's code, that count whatever the layout types there.
+constexpr std::array Positions = {
+    CodeRange{2, 10, '1'},
+    CodeRange{11, 11, '0'},
+    CodeRange{12, 12, KeyMinus},
+    CodeRange{13, 13, KeyEqual},
+    CodeRange{26, 26, KeyLeftBracket},
+    CodeRange{27, 27, KeyRightBracket},
+    CodeRange{39, 39, KeySemicolon},
+    CodeRange{40, 40, KeyApostrophe},
+    CodeRange{41, 41, KeyGrave},
+    CodeRange{43, 43, KeyBackslash},
+    CodeRange{51, 51, KeyComma},
+    CodeRange{52, 52, KeyPeriod},
+    CodeRange{53, 53, KeySlash},
+    CodeRange{86, 86, 226},  // the key beside the left Shift of a European keyboard
+};
+
+/// A row of letter positions by the kernel's code, with the letters that a US keyboard has there.
+struct LetterRow {
+  std::uint32_t First;
+  std::string_view Letters;
+};
+constexpr std::array LetterRows = {LetterRow{16, "QWERTYUIOP"}, LetterRow{30, "ASDFGHJKL"},
+                                   LetterRow{44, "ZXCVBNM"}};
+
+constexpr std::array UsKeys = {
+    UsKey{';', KeySemicolon, false},
+    UsKey{':', KeySemicolon, true},
+    UsKey{'=', KeyEqual, false},
+    UsKey{'+', KeyEqual, true},
+    UsKey{',', KeyComma, false},
+    UsKey{'<', KeyComma, true},
+    UsKey{'-', KeyMinus, false},
+    UsKey{'_', KeyMinus, true},
+    UsKey{'.', KeyPeriod, false},
+    UsKey{'>', KeyPeriod, true},
+    UsKey{'/', KeySlash, false},
+    UsKey{'?', KeySlash, true},
+    UsKey{'`', KeyGrave, false},
+    UsKey{'~', KeyGrave, true},
+    UsKey{'[', KeyLeftBracket, false},
+    UsKey{'{', KeyLeftBracket, true},
+    UsKey{'\\', KeyBackslash, false},
+    UsKey{'|', KeyBackslash, true},
+    UsKey{']', KeyRightBracket, false},
+    UsKey{'}', KeyRightBracket, true},
+    UsKey{'\'', KeyApostrophe, false},
+    UsKey{'"', KeyApostrophe, true},
+    UsKey{'!', '1', true},
+    UsKey{'@', '2', true},
+    UsKey{'#', '3', true},
+    UsKey{'$', '4', true},
+    UsKey{'%', '5', true},
+    UsKey{'^', '6', true},
+    UsKey{'&', '7', true},
+    UsKey{'*', '8', true},
+    UsKey{'(', '9', true},
+    UsKey{')', '0', true},
+};
+
+std::optional<int> FindCode(std::span<const CodeOf> table, int from) {
+  const auto found = std::ranges::find(table, from, &CodeOf::From);
+  return found == table.end() ? std::nullopt : std::optional(found->Code);
+}
+
+std::optional<int> FindCode(std::span<const CodeRange> table, std::uint32_t value) {
+  for (const CodeRange& range : table)
+    if (value >= range.First && value <= range.Last)
+      return range.Code + static_cast<int>(value - range.First);
+  return std::nullopt;
+}
+
+const UsKey* FindUsKey(int key) {
+  const auto found = std::ranges::find(UsKeys, static_cast<char32_t>(key), &UsKey::Character);
+  return found == UsKeys.end() ? nullptr : &*found;
+}
+
+bool IsLetter(int key) {
+  return key >= Qt::Key_A && key <= Qt::Key_Z;
+}
+bool IsDigit(int key) {
+  return key >= Qt::Key_0 && key <= Qt::Key_9;
+}
+
+std::optional<int> KeypadCode(const NativeKey& key) {
+  if (key.KeySym != 0) return FindCode(KeypadKeySyms, key.KeySym);
+  if (!key.Modifiers.testFlag(Qt::KeypadModifier)) return std::nullopt;
+  if (IsDigit(key.Key)) return KeyPad0 + key.Key - Qt::Key_0;
+  return FindCode(KeypadKeys, key.Key);
+}
+
+std::optional<int> NamedCode(int key) {
+  if (key >= Qt::Key_F1 && key <= Qt::Key_F24) return KeyF1 + key - Qt::Key_F1;
+  return FindCode(NamedKeys, key);
+}
+
+std::optional<int> UsLetterAt(std::uint32_t evdev) {
+  for (const LetterRow& row : LetterRows)
+    if (evdev >= row.First && evdev < row.First + row.Letters.size()) return row.Letters[evdev - row.First];
+  return std::nullopt;
+}
+
+/// A Latin layout may have punctuation where a US keyboard has a letter (the comma of a French one, the point
+/// of a Dvorak one): then the punctuation counts. What it types there with AltGr from the row of digits does
+/// not.
+std::optional<int> PunctuationCode(int key) {
+  const UsKey* us = FindUsKey(key);
+  return us && !IsDigit(us->Code) ? std::optional(us->Code) : std::nullopt;
+}
+
+int PositionCode(std::uint32_t evdev, int key) {
+  const std::optional<int> letter = UsLetterAt(evdev);
+  if (letter) return PunctuationCode(key).value_or(*letter);
+  return FindCode(Positions, evdev).value_or(0);
+}
+
+int ShiftOf(Qt::KeyboardModifiers modifiers) {
+  return (modifiers.testFlag(Qt::ShiftModifier) ? ShiftBit : NoShift) |
+         (modifiers.testFlag(Qt::ControlModifier) ? ControlBit : NoShift) |
+         (modifiers.testFlag(Qt::AltModifier) ? AltBit : NoShift);
+}
+
+char32_t TypedCharacter(const QString& text) {
+  const auto characters = text.toUcs4();
+  if (characters.size() != 1) return 0;
+  const char32_t typed = characters.front();
+  const bool isControl = typed < 0x20 || (typed >= 0x7f && typed < 0xa0);
+  return isControl ? 0 : typed;
+}
+
+/// A synthesised key tells what is typed and not with which keys: they are those of a US keyboard.
+KeyEvent SynthesisedKey(const NativeKey& key, int shift, char32_t character) {
+  if (IsDigit(key.Key)) return {key.Key, shift, character};
+  const UsKey* us = FindUsKey(key.Key);
+  if (!us) return {0, shift, character};
+  return {us->Code, us->Shifted ? shift | ShiftBit : shift, character};
+}
+
+}  // namespace
+
+NativeKey CaptureKey(const QKeyEvent& event) {
+  return {event.nativeScanCode(), event.nativeVirtualKey(), event.key(), event.modifiers(), event.text()};
+}
+
+KeyEvent TranslateKey(const NativeKey& key) {
+  if (key.Modifiers.testFlag(Qt::MetaModifier)) return {};
+  int shift = ShiftOf(key.Modifiers);
+  if (const auto code = KeypadCode(key)) return {*code, shift, 0};
+
+  const char32_t typed = TypedCharacter(key.Text);
+  if (typed != 0 && key.Modifiers.testFlag(Qt::GroupSwitchModifier)) shift &= ShiftBit;
+  const char32_t character = (shift & (ControlBit | AltBit)) == 0 ? typed : 0;
+  if (const auto code = NamedCode(key.Key)) return {*code, shift, character};
+  if (IsLetter(key.Key)) return {key.Key, shift, character};
+  if (key.ScanCode <= EvdevOffset) return SynthesisedKey(key, shift, character);
+  return {PositionCode(key.ScanCode - EvdevOffset, key.Key), shift, character};
+}
+
+}  // namespace qves

@@ -1,0 +1,26 @@
+// The command line of the desktop program.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "speech/SpeechBackEnds.h"
+
+namespace qves {
+
+struct Options {
+  std::optional<int> View;  ///< a CalcView
+  SpeechChoice Speech = SpeechChoice::Auto;
+  std::string Home;  ///< "" for the user's own
+  bool Help = false;
+  bool Version = false;
+  std::vector<std::string> ToolkitArguments;  ///< what is left for the toolkit (-style, -display, ...)
+};
+
+/// The options, or nothing with the reason in `error`.
+std::optional<Options> ParseOptions(const std::vector<std::string>& arguments, std::string& error);
+
+std::string_view HelpText();
+
+}  // namespace qves

@@ -1,0 +1,37 @@
+// The ways in which a program is ended from outside.
+#pragma once
+
+#include <QSocketNotifier>
+#include <functional>
+#include <memory>
+
+namespace qves {
+
+/// Tells of SIGTERM, SIGHUP and SIGINT as an event of the event loop. One object at a time.
+class EndSignals {
+ public:
+  explicit EndSignals(std::function<void()> ended);
+  ~EndSignals();
+  EndSignals(const EndSignals&) = delete;
+  EndSignals& operator=(const EndSignals&) = delete;
+
+ private:
+  int Handles[2] = {-1, -1};
+  std::unique_ptr<QSocketNotifier> Incoming;
+};
+
+/// Calls `lost` when the process exits while the object lives. The toolkit calls exit() in the middle of its
+/// event loop when the display goes away; `lost` must not use the toolkit.
+class LostDisplayGuard {
+ public:
+  explicit LostDisplayGuard(std::function<void()> lost);
+  ~LostDisplayGuard();
+  LostDisplayGuard(const LostDisplayGuard&) = delete;
+  LostDisplayGuard& operator=(const LostDisplayGuard&) = delete;
+
+ private:
+  struct State;
+  State* Shared;
+};
+
+}  // namespace qves

@@ -1,0 +1,113 @@
+// The calculator in a window.
+#include <QApplication>
+#include <QSessionManager>
+#include <cerrno>
+#include <csignal>
+#include <iostream>
+
+#include "app/CalculatorApp.h"
+#include "desktop/DesktopShell.h"
+#include "desktop/Options.h"
+#include "desktop/SessionEnd.h"
+#include "posix/BaseDirectories.h"
+#include "posix/IniRegistry.h"
+#include "posix/PosixFileStore.h"
+#include "posix/SystemClock.h"
+#include "services/ServiceSet.h"
+
+namespace qves {
+namespace {
+
+constexpr int BadUsage = 2;
+
+void PrepareEnvironment() {
+  // Before the toolkit starts: it does not notice a screen reader that is switched on later, and an input
+  // method would keep dead keys from the calculator.
+  qputenv("QT_LINUX_ACCESSIBILITY_ALWAYS_ON", "1");
+  qputenv("QT_IM_MODULE", "none");
+  // A speech server that goes away must not take the calculator with it.
+  std::signal(SIGPIPE, SIG_IGN);
+}
+
+int Complain(const std::string& reason) {
+  std::cerr << "qvescalc: " << reason << " (try --help)\n";
+  return BadUsage;
+}
+
+bool IsDisplayNamed(const Options& options) {
+  return qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY") ||
+         qEnvironmentVariableIsSet("QT_QPA_PLATFORM") || !options.ToolkitArguments.empty();
+}
+
+PosixFileStore MakeFileStore(BaseDirectories& directories, const std::string& home) {
+  return home.empty() ? PosixFileStore() : PosixFileStore(directories.Home(), directories.ProgramFolder());
+}
+
+/// Runs the calculator in the toolkit's event loop; the exit status.
+int RunCalculator(const Options& options) {
+  BaseDirectories directories(options.Home);
+  PosixFileStore files = MakeFileStore(directories, options.Home);
+  IniRegistry registry(files, directories.ConfigFolder() + "/QVES/registry.ini");
+  SystemClock clock;
+  QtEventPump events;
+  KeyCapture keys;
+  HintNotify hints;
+  AppWMSpy windowMessages;
+  DesktopWindows windows(options.Home.empty() ? RuntimeFolder() : directories.Home(),
+                         QGuiApplication::platformName() == "xcb");
+  const std::unique_ptr<TTS> speech = MakeSpeech(options.Speech, events);
+  Platform platform{*speech, keys,        hints,    windowMessages, windows,
+                    files,   directories, registry, clock,          events};
+  ServiceSet services(platform);
+
+  DesktopShell shell({services.All.Settings, hints, windowMessages, windows, events});
+  CalculatorApp app(services.All, shell);
+  shell.Attach(app);
+  if (!app.Main({options.View})) return 0;
+
+  windows.ListenForCopies([&shell](const std::string& token) { shell.Raise(token); });
+  const EndSignals endSignals([&shell] { shell.EndSession(); });
+  QObject::connect(
+      qApp, &QGuiApplication::commitDataRequest, qApp, [&shell] { shell.EndSession(); },
+      Qt::DirectConnection);
+  const LostDisplayGuard guard([&] {
+    shell.Detach();
+    events.Detach();
+    app.Leave();
+  });
+  const int status = QCoreApplication::exec();
+  app.Leave();
+  return status;
+}
+
+int Main(int argc, char** argv) {
+  std::string error;
+  const auto options = ParseOptions({argv + 1, argv + argc}, error);
+  if (!options) return Complain(error);
+  if (options->Help || options->Version) {
+    std::cout << (options->Help ? HelpText() : "qvescalc " QVES_VERSION "\n");
+    return 0;
+  }
+  if (!IsDisplayNamed(*options))
+    return Complain("there is no display (neither DISPLAY nor WAYLAND_DISPLAY is set)");
+
+  PrepareEnvironment();
+  std::vector<std::string> words = options->ToolkitArguments;
+  std::vector<char*> toolkitArguments{argv[0]};
+  for (std::string& word : words) toolkitArguments.push_back(word.data());
+  int toolkitCount = static_cast<int>(toolkitArguments.size());
+  toolkitArguments.push_back(nullptr);
+  QApplication application(toolkitCount, toolkitArguments.data());
+  if (toolkitCount > 1) return Complain(std::string("unknown option ") + toolkitArguments[1]);
+  // A view that does not exist has no window, and the program goes on all the same.
+  QGuiApplication::setQuitOnLastWindowClosed(false);
+  QGuiApplication::setDesktopFileName("qvescalc");
+  return RunCalculator(*options);
+}
+
+}  // namespace
+}  // namespace qves
+
+int main(int argc, char** argv) {
+  return qves::Main(argc, argv);
+}

@@ -1,0 +1,45 @@
+// From the library's word and sentence events to the marks of a text.
+#pragma once
+
+#include <espeak-ng/speak_lib.h>
+
+#include <cstdint>
+#include <deque>
+#include <vector>
+
+#include "speech/Utterance.h"
+
+namespace qves {
+
+/// The library loses marks in markup that lie between two sentences, so the marks are found by the positions
+/// of the words. They are reported in order and none is lost: at the latest, when the text is over.
+class MarkTracker {
+ public:
+  explicit MarkTracker(const Utterance& text);
+  /// The word or sentence that begins at a character (from 1) has its first sample at `sample`.
+  void Meet(int characterPosition, std::int64_t sample);
+  /// All samples up to this one have been heard.
+  void Heard(std::int64_t sample);
+  /// All has been heard.
+  void HeardAll();
+  /// The sample of the next mark that waits to be heard; -1 when there is none.
+  std::int64_t Next() const { return met.empty() ? -1 : met.front().Sample; }
+
+ private:
+  struct MetMark {
+    std::int64_t Sample;
+    std::int32_t Number;
+  };
+
+  const Utterance& text;
+  std::vector<std::size_t> positions;  // of the text's marks, in characters
+  std::size_t unmet = 0;               // the first mark that is not in `met` yet
+  std::deque<MetMark> met;
+};
+
+/// True for the events that tell where a word or sentence begins.
+inline bool TellsPosition(const espeak_EVENT& event) {
+  return (event.type == espeakEVENT_WORD || event.type == espeakEVENT_SENTENCE) && event.text_position > 0;
+}
+
+}  // namespace qves

@@ -1,0 +1,124 @@
+#include "speech/espeak/StreamPlayback.h"
+
+#include <algorithm>
+#include <chrono>
+#include <vector>
+
+namespace qves {
+namespace {
+
+using std::chrono::microseconds;
+using std::chrono::milliseconds;
+
+constexpr int AudibleLevel = 8;  // of 32767
+constexpr int LongestLeadMilliseconds = 60;
+constexpr auto LongestStall = milliseconds(1500);  // of a server that takes or plays nothing
+constexpr auto LongestPause = milliseconds(50);
+
+bool IsAudible(std::int16_t sample) {
+  return sample > AudibleLevel || sample < -AudibleLevel;
+}
+
+}  // namespace
+
+StreamPlayback::StreamPlayback(PulseStream& target, int samplesPerSecond, const Utterance& utterance,
+                               PlayControl& playControl)
+    : stream(target),
+      rate(samplesPerSecond),
+      text(utterance),
+      control(playControl),
+      marks(utterance),
+      leadLeft(std::int64_t(samplesPerSecond) * LongestLeadMilliseconds / 1000) {}
+
+bool StreamPlayback::Run(milliseconds pauseBefore) {
+  stream.Restart();
+  const std::vector<std::int16_t> pause(std::size_t(rate * pauseBefore.count() / 1000));
+  lead = -std::int64_t(pause.size());
+  WriteAll(pause);
+  espeak_Synth(text.Text.c_str(), text.Text.size() + 1, 0, POS_CHARACTER, 0, espeakCHARS_UTF8, nullptr, this);
+  const bool heard = WaitUntilHeard();
+  if (control.Interrupted() || !heard) stream.Flush();
+  if (!control.Interrupted()) marks.HeardAll();
+  return heard;
+}
+
+int StreamPlayback::Receive(short* samples, int count, espeak_EVENT* events) {
+  auto* self = static_cast<StreamPlayback*>(events->user_data);
+  if (!self) return 1;
+  const std::size_t length = samples && count > 0 ? std::size_t(count) : 0;
+  return self->Take({samples, length}, events) ? 0 : 1;
+}
+
+bool StreamPlayback::Take(std::span<const std::int16_t> samples, const espeak_EVENT* events) {
+  NoteEvents(events);
+  return WriteAll(WithoutLead(samples)) && !control.Interrupted();
+}
+
+void StreamPlayback::NoteEvents(const espeak_EVENT* events) {
+  for (; events->type != espeakEVENT_LIST_TERMINATED; ++events) {
+    if (TellsPosition(*events)) marks.Meet(events->text_position, events->sample);
+  }
+}
+
+// The silence before the first sound would only delay it.
+std::span<const std::int16_t> StreamPlayback::WithoutLead(std::span<const std::int16_t> samples) {
+  if (audible) return samples;
+  const auto first = std::find_if(samples.begin(), samples.end(), IsAudible);
+  const std::int64_t silent = std::min<std::int64_t>(first - samples.begin(), leadLeft);
+  leadLeft -= silent;
+  lead += silent;
+  audible = silent < std::int64_t(samples.size());
+  return samples.subspan(std::size_t(silent));
+}
+
+bool StreamPlayback::WriteAll(std::span<const std::int16_t> samples) {
+  while (!samples.empty()) {
+    const std::uint64_t seen = control.Wake.Count();
+    if (control.Interrupted()) return false;
+    const std::size_t now = std::min(samples.size(), stream.Room());
+    if (now == 0) {
+      if (!stream.Alive() || Stalled()) return false;
+      Pause(seen);
+      continue;
+    }
+    stream.Write(samples.first(now));
+    written += std::int64_t(now);
+    samples = samples.subspan(now);
+  }
+  return true;
+}
+
+bool StreamPlayback::WaitUntilHeard() {
+  while (!control.Interrupted()) {
+    const std::uint64_t seen = control.Wake.Count();
+    if (Played() >= written) return true;
+    if (!stream.Alive() || Stalled()) return false;
+    Pause(seen);
+  }
+  return true;
+}
+
+// Until something happens, or the next mark or the end is due.
+void StreamPlayback::Pause(std::uint64_t seen) {
+  const std::int64_t played = Played();
+  marks.Heard(played + lead);
+  const std::int64_t due = marks.Next() >= 0 ? std::min(written, marks.Next() - lead) : written;
+  const auto wait =
+      microseconds(std::max<std::int64_t>(due - played, 0) * 1'000'000 / rate) + milliseconds(1);
+  control.Wake.WaitFor(seen, std::min<SteadyClock::duration>(wait, LongestPause));
+}
+
+std::int64_t StreamPlayback::Played() {
+  const auto unheard = stream.Unheard();
+  return unheard ? std::max<std::int64_t>(written - *unheard, 0) : 0;
+}
+
+bool StreamPlayback::Stalled() {
+  const std::int64_t played = Played();
+  const auto now = SteadyClock::now();
+  if (played > lastPlayed) lastProgress = now;
+  lastPlayed = std::max(played, lastPlayed);
+  return now - lastProgress > LongestStall;
+}
+
+}  // namespace qves

@@ -1,0 +1,49 @@
+// One text on its way from the synthesis into the sound stream.
+#pragma once
+
+#include <espeak-ng/speak_lib.h>
+
+#include <chrono>
+#include <cstdint>
+#include <span>
+
+#include "speech/SpeechWorker.h"
+#include "speech/espeak/MarkTracker.h"
+#include "speech/espeak/PulseStream.h"
+
+namespace qves {
+
+/// Speaks within its one call; the library's callback leads here by the text's user data.
+class StreamPlayback {
+ public:
+  StreamPlayback(PulseStream& stream, int samplesPerSecond, const Utterance& text, PlayControl& control);
+  /// Returns when the text has been heard, after a pause before it, or is interrupted, or the stream has
+  /// failed: then false.
+  bool Run(std::chrono::milliseconds pauseBefore);
+  /// For espeak_SetSynthCallback.
+  static int Receive(short* samples, int count, espeak_EVENT* events);
+
+ private:
+  bool Take(std::span<const std::int16_t> samples, const espeak_EVENT* events);
+  bool WriteAll(std::span<const std::int16_t> samples);
+  std::span<const std::int16_t> WithoutLead(std::span<const std::int16_t> samples);
+  void NoteEvents(const espeak_EVENT* events);
+  bool WaitUntilHeard();
+  void Pause(std::uint64_t seen);
+  std::int64_t Played();
+  bool Stalled();
+
+  PulseStream& stream;
+  int rate;
+  const Utterance& text;
+  PlayControl& control;
+  MarkTracker marks;
+  std::int64_t written = 0;  // samples
+  std::int64_t lead = 0;     // samples of silence that were left out, less those put before
+  std::int64_t leadLeft;     // how many more may be left out
+  bool audible = false;
+  std::int64_t lastPlayed = -1;
+  SteadyClock::time_point lastProgress = SteadyClock::now();
+};
+
+}  // namespace qves

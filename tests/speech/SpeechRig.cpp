@@ -1,0 +1,218 @@
+#include "SpeechRig.h"
+
+#include <signal.h>
+#include <stdlib.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+#include <thread>
+
+// For sanitizer builds: both speech libraries lose some memory of their own when they fail or change their
+// output.
+extern "C" const char* __asan_default_options() {
+  return "fast_unwind_on_malloc=0";
+}
+extern "C" const char* __lsan_default_suppressions() {
+  return "leak:libespeak-ng.so\nleak:libspeechd.so\n";
+}
+
+namespace qves {
+namespace {
+
+using std::chrono::milliseconds;
+using Ticks = std::chrono::steady_clock;
+
+constexpr int RecordedRate = 16000;
+
+std::string Contents(const std::string& path) {
+  std::ifstream file(path, std::ios::binary);
+  std::ostringstream out;
+  out << file.rdbuf();
+  return out.str();
+}
+
+bool Run(const std::string& command) {
+  return std::system((command + " >/dev/null 2>&1").c_str()) == 0;
+}
+
+// The number in a file; 0 when there is none.
+int PidIn(const std::string& path) {
+  return std::atoi(Contents(path).c_str());
+}
+
+void SendSignal(const std::string& pidFile, int signal) {
+  if (const int pid = PidIn(pidFile); pid > 1) kill(pid, signal);
+}
+
+}  // namespace
+
+void TestPump::Post(std::function<void()> event) {
+  const std::lock_guard lock(mutex);
+  events.push_back(std::move(event));
+}
+
+void TestPump::ProcessEvents(int waitMilliseconds) {
+  std::deque<std::function<void()>> pending;
+  {
+    const std::lock_guard lock(mutex);
+    pending.swap(events);
+  }
+  for (const auto& event : pending) event();
+  if (pending.empty()) std::this_thread::sleep_for(milliseconds(waitMilliseconds));
+}
+
+bool ReachedWithin(TestPump& pump, milliseconds longest, const std::function<bool()>& reached) {
+  const auto deadline = Ticks::now() + longest;
+  while (!reached()) {
+    if (Ticks::now() > deadline) return false;
+    pump.ProcessEvents(5);
+  }
+  return true;
+}
+
+void TestListener::BookMarkReached(std::int32_t number, TtsSpeaker& speaker) {
+  Reports.push_back("mark " + std::to_string(number) + " of " + NumberOf(speaker));
+}
+
+void TestListener::SpeechStopped(TtsSpeaker& speaker) {
+  Reports.push_back("stopped " + NumberOf(speaker));
+}
+
+std::string TestListener::NumberOf(const TtsSpeaker& speaker) const {
+  for (const int number : {1, 2}) {
+    if (engine && engine->Speaker(number) == &speaker) return std::to_string(number);
+  }
+  return "?";
+}
+
+milliseconds TimeOf(const std::function<void()>& call) {
+  const auto start = Ticks::now();
+  call();
+  return std::chrono::duration_cast<milliseconds>(Ticks::now() - start);
+}
+
+int FindEngine(const TTS& list, const std::string& manufacturer, const std::string& voice) {
+  const int count = list.Count();
+  for (int i = 1; i <= count; ++i) {
+    const TtsEngineInfo item = list.Item(i);
+    if (item.Manufacturer == manufacturer && (voice.empty() || item.VoiceName == voice)) return i;
+  }
+  return 0;
+}
+
+TestEnvironment::~TestEnvironment() {
+  for (const auto& [name, value] : before) {
+    if (value)
+      setenv(name.c_str(), value->c_str(), 1);
+    else
+      unsetenv(name.c_str());
+  }
+}
+
+void TestEnvironment::Set(const std::string& name, const std::string& value) {
+  const char* old = std::getenv(name.c_str());
+  before.emplace(name, old ? std::optional<std::string>(old) : std::nullopt);
+  setenv(name.c_str(), value.c_str(), 1);
+}
+
+PrivateDesktop::PrivateDesktop() {
+  std::string pattern = (std::filesystem::temp_directory_path() / "speechXXXXXX").string();
+  folder = mkdtemp(pattern.data());
+  for (const char* name : {"XDG_RUNTIME_DIR", "HOME"}) environment.Set(name, folder);
+  environment.Set("XDG_CONFIG_HOME", folder + "/.config");
+  environment.Set("XDG_CACHE_HOME", folder + "/.cache");
+  environment.Set("PULSE_SERVER", "unix:" + folder + "/pulse/native");
+  environment.Set("SPEECHD_ADDRESS", "unix_socket:" + folder + "/speech-dispatcher/speechd.sock");
+  environment.Set("LC_ALL", "C");
+}
+
+PrivateDesktop::~PrivateDesktop() {
+  // Servers that are ending may still write into it.
+  TestPump pump;
+  ReachedWithin(pump, milliseconds(2000), [this] {
+    std::error_code ignored;
+    std::filesystem::remove_all(folder, ignored);
+    std::this_thread::sleep_for(milliseconds(20));
+    return !std::filesystem::exists(folder);
+  });
+}
+
+PrivateSound::PrivateSound(const PrivateDesktop& desktop)
+    : folder(desktop.Folder()), recording(folder + "/recording.raw") {
+  ready =
+      Run("pulseaudio -n --daemonize=yes --exit-idle-time=60 --log-target=null -L module-native-protocol-unix"
+          " -L 'module-null-sink sink_name=null rate=48000 channels=2 norewinds=1'") &&
+      Run("command -v parec");
+  if (!ready) return;
+  const std::string record =
+      "timeout 90 parec --device=null.monitor --format=s16le --channels=1 --latency-msec=20 --rate=" +
+      std::to_string(RecordedRate) + " > " + recording + " & echo $! > " + folder;
+  static_cast<void>(std::system((record + "/recorder.pid").c_str()));
+  TestPump pump;
+  ready = ReachedWithin(pump, std::chrono::seconds(10), [this] { return !Contents(recording).empty(); });
+}
+
+PrivateSound::~PrivateSound() {
+  SendSignal(folder + "/recorder.pid", SIGTERM);
+  Signal(SIGCONT);
+  Signal(SIGTERM);
+}
+
+void PrivateSound::Signal(int signal) const {
+  SendSignal(folder + "/pulse/pid", signal);
+}
+
+int PrivateSound::LoudestOfLast(milliseconds span) const {
+  const std::string bytes = Contents(recording);
+  const std::size_t count = bytes.size() / 2;
+  const std::size_t wanted = std::size_t(span.count()) * RecordedRate / 1000;
+  int loudest = 0;
+  for (std::size_t i = count - std::min(count, wanted); i < count; ++i) {
+    const auto low = static_cast<unsigned char>(bytes[2 * i]);
+    const auto high = static_cast<signed char>(bytes[2 * i + 1]);
+    loudest = std::max(loudest, std::abs(high * 256 + low));
+  }
+  return loudest;
+}
+
+PrivateSpeechServer::PrivateSpeechServer(const PrivateDesktop& desktop) : folder(desktop.Folder()) {
+  const std::string settings = folder + "/.config/speech-dispatcher";
+  std::filesystem::create_directories(settings + "/modules");
+  std::ofstream(settings + "/speechd.conf") << "LogLevel 1\nTimeout 2\n"
+                                               "AddModule \"capture\" \"sd_generic\" \"capture.conf\"\n"
+                                               "DefaultModule capture\n";
+  // The time that a text takes lets a test interrupt it.
+  std::ofstream(settings + "/modules/capture.conf")
+      << "GenericExecuteSynth \"echo \\'$DATA\\' >> " << folder << "/spoken; sleep 0.4\"\n"
+      << "GenericLanguage \"en\" \"en\" \"utf-8\"\n"
+      << "AddVoice \"en\" \"MALE1\" \"first\"\nAddVoice \"de\" \"MALE1\" \"second\"\n";
+}
+
+PrivateSpeechServer::~PrivateSpeechServer() {
+  Signal(SIGCONT);
+  Signal(SIGTERM);
+}
+
+bool PrivateSpeechServer::Installed() {
+  return Run("command -v speech-dispatcher");
+}
+
+std::string PrivateSpeechServer::Spoken() const {
+  std::string spoken = Contents(folder + "/spoken");
+  std::replace(spoken.begin(), spoken.end(), '\n', '|');
+  return spoken;
+}
+
+bool PrivateSpeechServer::Running() const {
+  return PidIn(folder + "/speech-dispatcher/pid/speech-dispatcher.pid") > 1;
+}
+
+void PrivateSpeechServer::Signal(int signal) const {
+  SendSignal(folder + "/speech-dispatcher/pid/speech-dispatcher.pid", signal);
+}
+
+}  // namespace qves

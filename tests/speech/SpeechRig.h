@@ -1,0 +1,117 @@
+// What the speech tests share: an event queue, a listener that remembers, private sound and speech servers.
+#pragma once
+
+#include <chrono>
+#include <deque>
+#include <functional>
+#include <map>
+#include <memory>
+#include <mutex>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "platform/Outside.h"
+#include "platform/TTS.h"
+
+namespace qves {
+
+class TestPump : public EventPump {
+ public:
+  void Post(std::function<void()> event) override;
+  void ProcessEvents(int waitMilliseconds) override;
+
+ private:
+  std::mutex mutex;
+  std::deque<std::function<void()>> events;
+};
+
+/// Handles events until `reached` holds; false when that takes longer.
+bool ReachedWithin(TestPump& pump, std::chrono::milliseconds longest, const std::function<bool()>& reached);
+
+/// Remembers reports as texts: "mark 3 of 2", "stopped 2", "list".
+class TestListener : public TtsListener {
+ public:
+  explicit TestListener(TtsEngine* speaking = nullptr) : engine(speaking) {}
+  void BookMarkReached(std::int32_t number, TtsSpeaker& speaker) override;
+  void SpeechStopped(TtsSpeaker& speaker) override;
+  void EngineListChanged() override { Reports.push_back("list"); }
+  std::vector<std::string> Reports;
+
+ private:
+  std::string NumberOf(const TtsSpeaker& speaker) const;
+  TtsEngine* engine;
+};
+
+/// How long a call takes.
+std::chrono::milliseconds TimeOf(const std::function<void()>& call);
+
+/// The number of the first engine with this manufacturer and voice ("": any); 0 when there is none.
+int FindEngine(const TTS& list, const std::string& manufacturer, const std::string& voice);
+
+/// Environment variables for the time of a test.
+class TestEnvironment {
+ public:
+  TestEnvironment() = default;
+  ~TestEnvironment();
+  TestEnvironment(const TestEnvironment&) = delete;
+  TestEnvironment& operator=(const TestEnvironment&) = delete;
+  void Set(const std::string& name, const std::string& value);
+
+ private:
+  std::map<std::string, std::optional<std::string>> before;
+};
+
+/// A runtime and home folder of the test's own, removed at the end. No sound server answers in it.
+class PrivateDesktop {
+ public:
+  PrivateDesktop();
+  ~PrivateDesktop();
+  PrivateDesktop(const PrivateDesktop&) = delete;
+  PrivateDesktop& operator=(const PrivateDesktop&) = delete;
+  const std::string& Folder() const { return folder; }
+  TestEnvironment& Environment() { return environment; }
+
+ private:
+  std::string folder;
+  TestEnvironment environment;
+};
+
+/// With a sound server that plays into nothing, and a recording of what it plays.
+class PrivateSound {
+ public:
+  explicit PrivateSound(const PrivateDesktop& desktop);
+  ~PrivateSound();
+  PrivateSound(const PrivateSound&) = delete;
+  PrivateSound& operator=(const PrivateSound&) = delete;
+  bool Ready() const { return ready; }
+  /// The loudest sample that was recorded in the last `span`, of 32767.
+  int LoudestOfLast(std::chrono::milliseconds span) const;
+  void Signal(int signal) const;
+
+ private:
+  std::string folder;
+  std::string recording;
+  bool ready = false;
+};
+
+/// The settings of a speech server whose module writes the texts to a file, each followed by "|", instead of
+/// speaking.
+class PrivateSpeechServer {
+ public:
+  explicit PrivateSpeechServer(const PrivateDesktop& desktop);
+  ~PrivateSpeechServer();
+  PrivateSpeechServer(const PrivateSpeechServer&) = delete;
+  PrivateSpeechServer& operator=(const PrivateSpeechServer&) = delete;
+  /// False where speech-dispatcher is not installed.
+  static bool Installed();
+  /// What has been spoken.
+  std::string Spoken() const;
+  bool Running() const;
+  void Signal(int signal) const;
+
+ private:
+  std::string folder;
+};
+
+}  // namespace qves
