@@ -52,7 +52,7 @@ int main(int argc, char** argv) {
   }
   WaitForWindow(connection);
   const double shown = Milliseconds(start);
-  ::usleep(500000);  // idle
+  ::usleep(100000);  // idle
   const auto asked = Clock::now();
   ::kill(child, SIGTERM);
   ::waitpid(child, nullptr, 0);

@@ -51,8 +51,8 @@ bool CalculatorApp::HasView(int calcView) const {
 
 void CalculatorApp::ShowView(int calcView) {
   View = ViewMakers[calcView](Services_, *this);
-  View->Form_Load();
   Observer.FormShown(*View);
+  View->Form_Load();
 }
 
 void CalculatorApp::SwitchView(int calcView) {

@@ -17,7 +17,7 @@ namespace qves {
 class AppObserver {
  public:
   virtual ~AppObserver() = default;
-  /// The form is loaded and to be shown. It has spoken already.
+  /// The form is made and to be shown. It is loaded right after, and then it speaks.
   virtual void FormShown(Form&) {}
   /// The form is about to be destroyed.
   virtual void FormClosed(Form&) {}

@@ -1,12 +1,16 @@
 // The calculator in a window.
+#include <fontconfig/fontconfig.h>
+
 #include <QApplication>
 #include <QSessionManager>
 #include <cerrno>
 #include <csignal>
+#include <future>
 #include <iostream>
 
 #include "app/CalculatorApp.h"
 #include "desktop/DesktopShell.h"
+#include "desktop/LateTts.h"
 #include "desktop/Options.h"
 #include "desktop/SessionEnd.h"
 #include "posix/BaseDirectories.h"
@@ -14,6 +18,7 @@
 #include "posix/PosixFileStore.h"
 #include "posix/SystemClock.h"
 #include "services/ServiceSet.h"
+#include "speech/SpeechModule.h"
 
 namespace qves {
 namespace {
@@ -44,20 +49,18 @@ PosixFileStore MakeFileStore(BaseDirectories& directories, const std::string& ho
 }
 
 /// Runs the calculator in the toolkit's event loop; the exit status.
-int RunCalculator(const Options& options) {
+int RunCalculator(const Options& options, QtEventPump& events, LateTts& speech) {
   BaseDirectories directories(options.Home);
   PosixFileStore files = MakeFileStore(directories, options.Home);
   IniRegistry registry(files, directories.ConfigFolder() + "/QVES/registry.ini");
   SystemClock clock;
-  QtEventPump events;
   KeyCapture keys;
   HintNotify hints;
   AppWMSpy windowMessages;
   DesktopWindows windows(options.Home.empty() ? RuntimeFolder() : directories.Home(),
                          QGuiApplication::platformName() == "xcb");
-  const std::unique_ptr<TTS> speech = MakeSpeech(options.Speech, events);
-  Platform platform{*speech, keys,        hints,    windowMessages, windows,
-                    files,   directories, registry, clock,          events};
+  Platform platform{speech, keys,        hints,    windowMessages, windows,
+                    files,  directories, registry, clock,          events};
   ServiceSet services(platform);
 
   DesktopShell shell({services.All.Settings, hints, windowMessages, windows, events});
@@ -92,6 +95,9 @@ int Main(int argc, char** argv) {
     return Complain("there is no display (neither DISPLAY nor WAYLAND_DISPLAY is set)");
 
   PrepareEnvironment();
+  QtEventPump events;
+  // The toolkit finds the list of fonts ready when it needs it.
+  const auto fonts = std::async(std::launch::async, FcInit);
   std::vector<std::string> words = options->ToolkitArguments;
   std::vector<char*> toolkitArguments{argv[0]};
   for (std::string& word : words) toolkitArguments.push_back(word.data());
@@ -102,7 +108,8 @@ int Main(int argc, char** argv) {
   // A view that does not exist has no window, and the program goes on all the same.
   QGuiApplication::setQuitOnLastWindowClosed(false);
   QGuiApplication::setDesktopFileName("qvescalc");
-  return RunCalculator(*options);
+  LateTts speech([&] { return LoadSpeech(options->Speech, events); });
+  return RunCalculator(*options, events, speech);
 }
 
 }  // namespace

@@ -4,9 +4,9 @@
 #include <optional>
 
 #include "services/Text.h"
+#include "speech/SpeechModule.h"
 #include "terminal/Chord.h"
 #include "terminal/Report.h"
-#include "terminal/SpeechModule.h"
 
 namespace qves {
 namespace {

@@ -1,0 +1,32 @@
+// Speech whose libraries are loaded when it is asked for first, which is after the window is there: the
+// window comes no later for them.
+#pragma once
+
+#include <functional>
+#include <memory>
+
+#include "platform/TTS.h"
+
+namespace qves {
+
+class LateTts : public TTS {
+ public:
+  /// `load` never gives null.
+  explicit LateTts(std::function<std::unique_ptr<TTS>()> load) : Load(std::move(load)) {}
+
+  int Count() const override { return Speech().Count(); }
+  TtsEngineInfo Item(int index) const override { return Speech().Item(index); }
+  std::unique_ptr<TtsEngine> Open(int index) override { return Speech().Open(index); }
+  void SetListener(TtsListener* listener) override { Speech().SetListener(listener); }
+
+ private:
+  TTS& Speech() const {
+    if (!Loaded) Loaded = Load();
+    return *Loaded;
+  }
+
+  std::function<std::unique_ptr<TTS>()> Load;
+  mutable std::unique_ptr<TTS> Loaded;
+};
+
+}  // namespace qves
