@@ -5,16 +5,13 @@
 #include <string>
 #include <vector>
 
+#include "posix/CommandLine.h"
 #include "speech/SpeechBackEnds.h"
 
 namespace qves {
 
-struct Options {
-  std::optional<int> View;  ///< a CalcView
+struct Options : CommonOptions {
   SpeechChoice Speech = SpeechChoice::Auto;
-  std::string Home;  ///< "" for the user's own
-  bool Help = false;
-  bool Version = false;
   std::vector<std::string> ToolkitArguments;  ///< what is left for the toolkit (-style, -display, ...)
 };
 

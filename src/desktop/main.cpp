@@ -44,14 +44,10 @@ bool IsDisplayNamed(const Options& options) {
          qEnvironmentVariableIsSet("QT_QPA_PLATFORM") || !options.ToolkitArguments.empty();
 }
 
-PosixFileStore MakeFileStore(BaseDirectories& directories, const std::string& home) {
-  return home.empty() ? PosixFileStore() : PosixFileStore(directories.Home(), directories.ProgramFolder());
-}
-
 /// Runs the calculator in the toolkit's event loop; the exit status.
 int RunCalculator(const Options& options, QtEventPump& events, LateTts& speech) {
   BaseDirectories directories(options.Home);
-  PosixFileStore files = MakeFileStore(directories, options.Home);
+  PosixFileStore files(directories.ConfinedTo(), directories.ProgramFolder());
   IniRegistry registry(files, directories.ConfigFolder() + "/QVES/registry.ini");
   SystemClock clock;
   KeyCapture keys;

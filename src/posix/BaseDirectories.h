@@ -18,6 +18,8 @@ class BaseDirectories : public DirectoryManager {
   std::string ConfigFolder() override;
   std::string DocumentsFolder() override;
   const std::string& Home() const { return HomeFolder; }
+  /// The home below which everything lies; "" without one.
+  std::string ConfinedTo() const { return Confined ? HomeFolder : std::string(); }
 
  private:
   std::string FromUserDirs(const std::string& name);

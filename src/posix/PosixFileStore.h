@@ -10,10 +10,8 @@ namespace qves {
 
 class PosixFileStore : public FileStore {
  public:
-  /// No limits.
-  PosixFileStore() = default;
-  /// Writes below `root` only, reads below `root` and `programFolder` only; anything else is not there.
-  /// Relative paths are not there either.
+  /// With a root: writes below `root` only, reads below `root` and `programFolder` only; anything else is not
+  /// there, relative paths neither. Without one ("") there are no limits.
   PosixFileStore(std::string root, std::string programFolder);
 
   std::optional<std::string> Read(const std::string& path, std::string& error) override;

@@ -1,39 +1,12 @@
 #include "terminal/Options.h"
 
-#include <array>
 #include <charconv>
 #include <chrono>
-#include <cstdio>
-#include <filesystem>
 
-#include "services/AppSettings.h"
+#include "speech/SpeechNames.h"
 
 namespace qves {
 namespace {
-
-struct Named {
-  std::string_view Name;
-  int Value;
-};
-
-constexpr Named ViewNames[] = {{"standard", StandardView},
-                               {"scientific", ScientificView},
-                               {"business", BusinessView},
-                               {"statistics", StatisticsView}};
-
-constexpr int TranscriptOnly = -1;
-constexpr Named SpeechNames[] = {{"transcript", TranscriptOnly},
-                                 {"auto", static_cast<int>(SpeechChoice::Auto)},
-                                 {"speech-dispatcher", static_cast<int>(SpeechChoice::SpeechDispatcher)},
-                                 {"espeak-ng", static_cast<int>(SpeechChoice::EspeakNg)},
-                                 {"off", static_cast<int>(SpeechChoice::Off)}};
-
-template <std::size_t Count>
-std::optional<int> FindNamed(const Named (&table)[Count], std::string_view name) {
-  for (const Named& row : table)
-    if (row.Name == name) return row.Value;
-  return std::nullopt;
-}
 
 std::optional<Date> ParseDate(std::string_view text) {
   Date date;
@@ -51,73 +24,41 @@ std::optional<Date> ParseDate(std::string_view text) {
   return date;
 }
 
-/// One option that takes a value; false when the value is wrong.
-struct ValueOption {
-  std::string_view Name;
-  std::string_view Wants;
-  bool (*Set)(Options&, const std::string& value);
-};
-
-constexpr ValueOption ValueOptions[] = {
-    {"--view", "standard, scientific, business or statistics",
-     [](Options& options, const std::string& value) {
-       options.View = FindNamed(ViewNames, value);
-       return options.View.has_value();
-     }},
-    {"--today", "a date such as 2026-01-31",
-     [](Options& options, const std::string& value) {
-       options.Today = ParseDate(value);
-       return options.Today.has_value();
-     }},
-    {"--seed", "a whole number",
-     [](Options& options, const std::string& value) {
-       unsigned long seed = 0;
-       const auto [end, error] = std::from_chars(value.data(), value.data() + value.size(), seed);
-       options.Seed = seed;
-       return error == std::errc() && end == value.data() + value.size();
-     }},
-    {"--home", "a folder",
-     [](Options& options, const std::string& value) {
-       options.Home = value;
-       std::error_code ignored;
-       std::filesystem::create_directories(value, ignored);
-       return std::filesystem::is_directory(value, ignored);
-     }},
-    {"--speech", "transcript, auto, speech-dispatcher, espeak-ng or off",
-     [](Options& options, const std::string& value) {
-       const auto choice = FindNamed(SpeechNames, value);
-       if (choice && *choice != TranscriptOnly) options.Speech = static_cast<SpeechChoice>(*choice);
-       return choice.has_value();
-     }},
-};
-
-const ValueOption* FindOption(std::string_view name) {
-  for (const ValueOption& option : ValueOptions)
-    if (option.Name == name) return &option;
-  return nullptr;
+bool SetToday(Options& options, const std::string& value) {
+  options.Today = ParseDate(value);
+  return options.Today.has_value();
 }
+
+bool SetSeed(Options& options, const std::string& value) {
+  unsigned long seed = 0;
+  const auto [end, error] = std::from_chars(value.data(), value.data() + value.size(), seed);
+  options.Seed = seed;
+  return error == std::errc() && end == value.data() + value.size();
+}
+
+bool SetSpeech(Options& options, const std::string& value) {
+  options.Speech = FindSpeechChoice(value);
+  return options.Speech || value == "transcript";
+}
+
+constexpr ValueOption<Options> ValueOptions[] = {
+    {"--view", ViewWants, [](Options& options, const std::string& value) { return SetView(options, value); }},
+    {"--home", HomeWants, [](Options& options, const std::string& value) { return SetHome(options, value); }},
+    {"--today", "a date such as 2026-01-31", SetToday},
+    {"--seed", "a whole number", SetSeed},
+    {"--speech", "transcript, auto, speech-dispatcher, espeak-ng or off", SetSpeech},
+};
 
 }  // namespace
 
 std::optional<Options> ParseOptions(const std::vector<std::string>& arguments, std::string& error) {
   Options options;
-  for (std::size_t i = 0; i < arguments.size(); ++i) {
-    const std::string& argument = arguments[i];
-    const bool hasNext = i + 1 < arguments.size();
-    if (argument == "--help") {
-      options.Help = true;
-    } else if (argument == "--version") {
-      options.Version = true;
-    } else if (argument == "--script") {
+  for (std::size_t at = 0; at < arguments.size(); ++at) {
+    if (arguments[at] == "--script") {
       options.Script = true;
-      if (hasNext && !arguments[i + 1].starts_with("--")) options.ScriptFile = arguments[++i];
-    } else if (const ValueOption* option = FindOption(argument)) {
-      if (!hasNext || !option->Set(options, arguments[++i])) {
-        error = argument + " wants " + std::string(option->Wants);
-        return std::nullopt;
-      }
-    } else {
-      error = "unknown option " + argument;
+      if (at + 1 < arguments.size() && !arguments[at + 1].starts_with("--"))
+        options.ScriptFile = arguments[++at];
+    } else if (!TakeOption<Options>(options, ValueOptions, arguments, at, error)) {
       return std::nullopt;
     }
   }

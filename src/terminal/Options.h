@@ -6,19 +6,16 @@
 #include <vector>
 
 #include "platform/Outside.h"
+#include "posix/CommandLine.h"
 #include "speech/SpeechBackEnds.h"
 
 namespace qves {
 
-struct Options {
+struct Options : CommonOptions {
   bool Script = false;
-  bool Help = false;
-  bool Version = false;
   std::string ScriptFile;  ///< "" or "-": standard input
-  std::optional<int> View;
   std::optional<Date> Today;
   std::optional<unsigned long> Seed;
-  std::string Home;
   std::optional<SpeechChoice> Speech;  ///< none: the transcript alone
 };
 

@@ -41,11 +41,6 @@ std::string Quoted(std::string_view text) {
   return "\"" + std::string(text.substr(0, 60)) + "\"";
 }
 
-PosixFileStore MakeFiles(const Options& options, BaseDirectories& directories) {
-  return options.Home.empty() ? PosixFileStore()
-                              : PosixFileStore(directories.Home(), directories.ProgramFolder());
-}
-
 }  // namespace
 
 struct ScriptSession::Command {
@@ -63,7 +58,7 @@ const ScriptSession::Command ScriptSession::Commands[] = {
 
 ScriptSession::ScriptSession(const Options& options)
     : Directories(options.Home),
-      Files(MakeFiles(options, Directories)),
+      Files(Directories.ConfinedTo(), Directories.ProgramFolder()),
       RegistryStore(Files, Directories.ConfigFolder() + "/QVES/registry.ini"),
       TheClock(options.Today),
       RealSpeech(options.Speech ? LoadSpeech(*options.Speech, Events) : nullptr),

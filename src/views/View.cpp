@@ -137,8 +137,8 @@ void View::OnGotFocus(Control& control) {
   SayOf(control, &control == Display);
 }
 
-/// What a control says of itself: the display its value, the tape all of it, the memory indicator its name and its
-/// mark, any other its name.
+/// What a control says of itself: the display its value, the tape all of it, the memory indicator its name
+/// and its mark, any other its name.
 void View::SayOf(const Control& control, bool queued) {
   std::string text = control.SpokenName;
   if (&control == MemoryBox && !MemoryBox->Text.empty()) {

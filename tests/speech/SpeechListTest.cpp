@@ -37,117 +37,117 @@ class FakeDriver : public SpeechDriver {
 class SpeechListTest : public testing::Test {
  protected:
   SpeechListTest() {
-    for (const auto& driver : {&first, &second}) {
-      list->Add(
+    for (const auto& driver : {&First, &Second}) {
+      List->Add(
           [driver](DriverLinks links) {
             *driver = std::make_shared<FakeDriver>(std::move(links));
             return *driver;
           },
-          driver == &first);
+          driver == &First);
     }
-    engine = list->Open(1);
-    listener = std::make_unique<TestListener>(engine.get());
-    list->SetListener(listener.get());
+    Engine = List->Open(1);
+    Listener = std::make_unique<TestListener>(Engine.get());
+    List->SetListener(Listener.get());
   }
   const std::vector<std::string>& Reports() {
-    pump.ProcessEvents(0);
-    return listener->Reports;
+    Pump.ProcessEvents(0);
+    return Listener->Reports;
   }
   using Texts = std::vector<std::string>;
 
-  TestPump pump;
-  std::unique_ptr<SpeechList> list = std::make_unique<SpeechList>(pump);
-  std::shared_ptr<FakeDriver> first;
-  std::shared_ptr<FakeDriver> second;
-  std::unique_ptr<TtsEngine> engine;
-  std::unique_ptr<TestListener> listener;
+  TestPump Pump;
+  std::unique_ptr<SpeechList> List = std::make_unique<SpeechList>(Pump);
+  std::shared_ptr<FakeDriver> First;
+  std::shared_ptr<FakeDriver> Second;
+  std::unique_ptr<TtsEngine> Engine;
+  std::unique_ptr<TestListener> Listener;
 };
 
 TEST_F(SpeechListTest, ABackEndThatStandsInIsNotListed) {
-  EXPECT_EQ(list->Count(), 1);
-  EXPECT_EQ(list->Item(1).VoiceName, "Voice 0");
-  for (const int wrong : {0, 2, -1}) EXPECT_EQ(list->Open(wrong), nullptr);
-  for (const int wrong : {0, 3}) EXPECT_EQ(engine->Speaker(wrong), nullptr);
+  EXPECT_EQ(List->Count(), 1);
+  EXPECT_EQ(List->Item(1).VoiceName, "Voice 0");
+  for (const int wrong : {0, 2, -1}) EXPECT_EQ(List->Open(wrong), nullptr);
+  for (const int wrong : {0, 3}) EXPECT_EQ(Engine->Speaker(wrong), nullptr);
 }
 
 TEST_F(SpeechListTest, ASpeakerSilencesItsOwnTextsOnly) {
-  engine->Speaker(1)->SpeakQueued("other");
-  engine->Speaker(2)->SpeakNow("one");
-  engine->Speaker(2)->SpeakQueued("two\xff");
-  EXPECT_EQ(first->All(), "other|one|two |");
-  engine->Speaker(2)->SpeakNow("three");
-  EXPECT_EQ(first->All(), "other|three|");
-  engine->Speaker(2)->SpeakNow("");
-  EXPECT_EQ(first->All(), "other|");
-  EXPECT_FALSE(engine->Speaker(2)->Busy());
-  EXPECT_TRUE(engine->Busy());
+  Engine->Speaker(1)->SpeakQueued("other");
+  Engine->Speaker(2)->SpeakNow("one");
+  Engine->Speaker(2)->SpeakQueued("two\xff");
+  EXPECT_EQ(First->All(), "other|one|two |");
+  Engine->Speaker(2)->SpeakNow("three");
+  EXPECT_EQ(First->All(), "other|three|");
+  Engine->Speaker(2)->SpeakNow("");
+  EXPECT_EQ(First->All(), "other|");
+  EXPECT_FALSE(Engine->Speaker(2)->Busy());
+  EXPECT_TRUE(Engine->Busy());
 }
 
 TEST_F(SpeechListTest, StoppedIsReportedOnceTheSpeakerIsIdle) {
-  TtsSpeaker* speaker = engine->Speaker(2);
+  TtsSpeaker* speaker = Engine->Speaker(2);
   speaker->Stop();
   EXPECT_EQ(Reports(), Texts{});
   speaker->SpeakNow("one");
   speaker->SpeakNow("two");
   speaker->SpeakQueued("three");
   EXPECT_EQ(Reports(), Texts{});
-  first->Texts.clear();
+  First->Texts.clear();
   EXPECT_EQ(Reports(), Texts{"stopped 2"});
   speaker->SpeakNow("four");
-  first->Texts.clear();
+  First->Texts.clear();
   speaker->SpeakNow("five");  // before the report about "four" was delivered
   EXPECT_EQ(Reports(), Texts{"stopped 2"});
 }
 
 TEST_F(SpeechListTest, MarksOfOutdatedTextsAreNotReported) {
   const BookMark marks[] = {{1, 7}};
-  engine->Speaker(1)->SpeakNow("one", marks);
-  first->Texts[0].Ticket.ReachMark(7);
+  Engine->Speaker(1)->SpeakNow("one", marks);
+  First->Texts[0].Ticket.ReachMark(7);
   EXPECT_EQ(Reports(), Texts{"mark 7 of 1"});
-  first->Texts[0].Ticket.ReachMark(8);
-  engine->Speaker(1)->SpeakNow("two");
+  First->Texts[0].Ticket.ReachMark(8);
+  Engine->Speaker(1)->SpeakNow("two");
   EXPECT_EQ(Reports(), Texts{"mark 7 of 1"});
 }
 
 TEST_F(SpeechListTest, NothingReachesWhatIsGone) {
-  engine->Speaker(2)->SpeakNow("one");
-  first->Texts[0].Ticket.ReachMark(1);
-  engine.reset();
-  EXPECT_EQ(first->All(), "");
+  Engine->Speaker(2)->SpeakNow("one");
+  First->Texts[0].Ticket.ReachMark(1);
+  Engine.reset();
+  EXPECT_EQ(First->All(), "");
   EXPECT_EQ(Reports(), Texts{});
 
-  engine = list->Open(1);
-  engine->Speaker(2)->SpeakNow("two");
-  first->Texts[0].Ticket.ReachMark(1);
-  list->SetListener(nullptr);
-  list->SetListener(listener.get());
+  Engine = List->Open(1);
+  Engine->Speaker(2)->SpeakNow("two");
+  First->Texts[0].Ticket.ReachMark(1);
+  List->SetListener(nullptr);
+  List->SetListener(Listener.get());
   EXPECT_EQ(Reports(), Texts{});
 
-  first->Texts[0].Ticket.ReachMark(1);
-  first->Links.VoicesChanged();
-  list.reset();
+  First->Texts[0].Ticket.ReachMark(1);
+  First->Links.VoicesChanged();
+  List.reset();
   EXPECT_EQ(Reports(), Texts{});
-  engine->Speaker(2)->SpeakNow("the list is gone");
+  Engine->Speaker(2)->SpeakNow("the list is gone");
   EXPECT_EQ(Reports(), Texts{});
 }
 
 TEST_F(SpeechListTest, ABackEndThatFailsHandsItsTextsOn) {
-  TtsSpeaker* speaker = engine->Speaker(2);
+  TtsSpeaker* speaker = Engine->Speaker(2);
   speaker->SpeakQueued("one");
   speaker->SpeakQueued("two");
-  first->Links.HandBack(std::exchange(first->Texts, {}));
+  First->Links.HandBack(std::exchange(First->Texts, {}));
   speaker->SpeakQueued("three");
-  EXPECT_EQ(second->All(), "one|two|three|");
+  EXPECT_EQ(Second->All(), "one|two|three|");
   EXPECT_EQ(Reports(), Texts{});
-  first->Up = true;
+  First->Up = true;
   speaker->SpeakNow("back");
-  EXPECT_EQ(first->All() + second->All(), "back|");
+  EXPECT_EQ(First->All() + Second->All(), "back|");
 }
 
 TEST_F(SpeechListTest, WithNoBackEndLeftThereIsSilence) {
-  first->Up = second->Up = false;
-  engine->Speaker(2)->SpeakNow("one");
-  EXPECT_FALSE(engine->Busy());
+  First->Up = Second->Up = false;
+  Engine->Speaker(2)->SpeakNow("one");
+  EXPECT_FALSE(Engine->Busy());
   EXPECT_EQ(Reports(), Texts{"stopped 2"});
 }
 

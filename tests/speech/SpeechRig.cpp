@@ -51,15 +51,15 @@ void SendSignal(const std::string& pidFile, int signal) {
 }  // namespace
 
 void TestPump::Post(std::function<void()> event) {
-  const std::lock_guard lock(mutex);
-  events.push_back(std::move(event));
+  const std::lock_guard lock(Mutex);
+  Events.push_back(std::move(event));
 }
 
 void TestPump::ProcessEvents(int waitMilliseconds) {
   std::deque<std::function<void()>> pending;
   {
-    const std::lock_guard lock(mutex);
-    pending.swap(events);
+    const std::lock_guard lock(Mutex);
+    pending.swap(Events);
   }
   for (const auto& event : pending) event();
   if (pending.empty()) std::this_thread::sleep_for(milliseconds(waitMilliseconds));
@@ -84,7 +84,7 @@ void TestListener::SpeechStopped(TtsSpeaker& speaker) {
 
 std::string TestListener::NumberOf(const TtsSpeaker& speaker) const {
   for (const int number : {1, 2}) {
-    if (engine && engine->Speaker(number) == &speaker) return std::to_string(number);
+    if (Engine && Engine->Speaker(number) == &speaker) return std::to_string(number);
   }
   return "?";
 }
@@ -105,7 +105,7 @@ int FindEngine(const TTS& list, const std::string& manufacturer, const std::stri
 }
 
 TestEnvironment::~TestEnvironment() {
-  for (const auto& [name, value] : before) {
+  for (const auto& [name, value] : Before) {
     if (value)
       setenv(name.c_str(), value->c_str(), 1);
     else
@@ -115,19 +115,19 @@ TestEnvironment::~TestEnvironment() {
 
 void TestEnvironment::Set(const std::string& name, const std::string& value) {
   const char* old = std::getenv(name.c_str());
-  before.emplace(name, old ? std::optional<std::string>(old) : std::nullopt);
+  Before.emplace(name, old ? std::optional<std::string>(old) : std::nullopt);
   setenv(name.c_str(), value.c_str(), 1);
 }
 
 PrivateDesktop::PrivateDesktop() {
   std::string pattern = (std::filesystem::temp_directory_path() / "speechXXXXXX").string();
-  folder = mkdtemp(pattern.data());
-  for (const char* name : {"XDG_RUNTIME_DIR", "HOME"}) environment.Set(name, folder);
-  environment.Set("XDG_CONFIG_HOME", folder + "/.config");
-  environment.Set("XDG_CACHE_HOME", folder + "/.cache");
-  environment.Set("PULSE_SERVER", "unix:" + folder + "/pulse/native");
-  environment.Set("SPEECHD_ADDRESS", "unix_socket:" + folder + "/speech-dispatcher/speechd.sock");
-  environment.Set("LC_ALL", "C");
+  Path = mkdtemp(pattern.data());
+  for (const char* name : {"XDG_RUNTIME_DIR", "HOME"}) Variables.Set(name, Path);
+  Variables.Set("XDG_CONFIG_HOME", Path + "/.config");
+  Variables.Set("XDG_CACHE_HOME", Path + "/.cache");
+  Variables.Set("PULSE_SERVER", "unix:" + Path + "/pulse/native");
+  Variables.Set("SPEECHD_ADDRESS", "unix_socket:" + Path + "/speech-dispatcher/speechd.sock");
+  Variables.Set("LC_ALL", "C");
 }
 
 PrivateDesktop::~PrivateDesktop() {
@@ -135,39 +135,39 @@ PrivateDesktop::~PrivateDesktop() {
   TestPump pump;
   ReachedWithin(pump, milliseconds(2000), [this] {
     std::error_code ignored;
-    std::filesystem::remove_all(folder, ignored);
+    std::filesystem::remove_all(Path, ignored);
     std::this_thread::sleep_for(milliseconds(20));
-    return !std::filesystem::exists(folder);
+    return !std::filesystem::exists(Path);
   });
 }
 
 PrivateSound::PrivateSound(const PrivateDesktop& desktop)
-    : folder(desktop.Folder()), recording(folder + "/recording.raw") {
-  ready =
+    : Folder(desktop.Folder()), Recording(Folder + "/recording.raw") {
+  IsReady =
       Run("pulseaudio -n --daemonize=yes --exit-idle-time=60 --log-target=null -L module-native-protocol-unix"
           " -L 'module-null-sink sink_name=null rate=48000 channels=2 norewinds=1'") &&
       Run("command -v parec");
-  if (!ready) return;
+  if (!IsReady) return;
   const std::string record =
       "timeout 90 parec --device=null.monitor --format=s16le --channels=1 --latency-msec=20 --rate=" +
-      std::to_string(RecordedRate) + " > " + recording + " & echo $! > " + folder;
+      std::to_string(RecordedRate) + " > " + Recording + " & echo $! > " + Folder;
   static_cast<void>(std::system((record + "/recorder.pid").c_str()));
   TestPump pump;
-  ready = ReachedWithin(pump, std::chrono::seconds(10), [this] { return !Contents(recording).empty(); });
+  IsReady = ReachedWithin(pump, std::chrono::seconds(10), [this] { return !Contents(Recording).empty(); });
 }
 
 PrivateSound::~PrivateSound() {
-  SendSignal(folder + "/recorder.pid", SIGTERM);
+  SendSignal(Folder + "/recorder.pid", SIGTERM);
   Signal(SIGCONT);
   Signal(SIGTERM);
 }
 
 void PrivateSound::Signal(int signal) const {
-  SendSignal(folder + "/pulse/pid", signal);
+  SendSignal(Folder + "/pulse/pid", signal);
 }
 
 int PrivateSound::LoudestOfLast(milliseconds span) const {
-  const std::string bytes = Contents(recording);
+  const std::string bytes = Contents(Recording);
   const std::size_t count = bytes.size() / 2;
   const std::size_t wanted = std::size_t(span.count()) * RecordedRate / 1000;
   int loudest = 0;
@@ -179,15 +179,15 @@ int PrivateSound::LoudestOfLast(milliseconds span) const {
   return loudest;
 }
 
-PrivateSpeechServer::PrivateSpeechServer(const PrivateDesktop& desktop) : folder(desktop.Folder()) {
-  const std::string settings = folder + "/.config/speech-dispatcher";
+PrivateSpeechServer::PrivateSpeechServer(const PrivateDesktop& desktop) : Folder(desktop.Folder()) {
+  const std::string settings = Folder + "/.config/speech-dispatcher";
   std::filesystem::create_directories(settings + "/modules");
   std::ofstream(settings + "/speechd.conf") << "LogLevel 1\nTimeout 2\n"
                                                "AddModule \"capture\" \"sd_generic\" \"capture.conf\"\n"
                                                "DefaultModule capture\n";
   // The time that a text takes lets a test interrupt it.
   std::ofstream(settings + "/modules/capture.conf")
-      << "GenericExecuteSynth \"echo \\'$DATA\\' >> " << folder << "/spoken; sleep 0.4\"\n"
+      << "GenericExecuteSynth \"echo \\'$DATA\\' >> " << Folder << "/spoken; sleep 0.4\"\n"
       << "GenericLanguage \"en\" \"en\" \"utf-8\"\n"
       << "AddVoice \"en\" \"MALE1\" \"first\"\nAddVoice \"de\" \"MALE1\" \"second\"\n";
 }
@@ -202,17 +202,17 @@ bool PrivateSpeechServer::Installed() {
 }
 
 std::string PrivateSpeechServer::Spoken() const {
-  std::string spoken = Contents(folder + "/spoken");
+  std::string spoken = Contents(Folder + "/spoken");
   std::replace(spoken.begin(), spoken.end(), '\n', '|');
   return spoken;
 }
 
 bool PrivateSpeechServer::Running() const {
-  return PidIn(folder + "/speech-dispatcher/pid/speech-dispatcher.pid") > 1;
+  return PidIn(Folder + "/speech-dispatcher/pid/speech-dispatcher.pid") > 1;
 }
 
 void PrivateSpeechServer::Signal(int signal) const {
-  SendSignal(folder + "/speech-dispatcher/pid/speech-dispatcher.pid", signal);
+  SendSignal(Folder + "/speech-dispatcher/pid/speech-dispatcher.pid", signal);
 }
 
 }  // namespace qves

@@ -22,8 +22,8 @@ class TestPump : public EventPump {
   void ProcessEvents(int waitMilliseconds) override;
 
  private:
-  std::mutex mutex;
-  std::deque<std::function<void()>> events;
+  std::mutex Mutex;
+  std::deque<std::function<void()>> Events;
 };
 
 /// Handles events until `reached` holds; false when that takes longer.
@@ -32,7 +32,7 @@ bool ReachedWithin(TestPump& pump, std::chrono::milliseconds longest, const std:
 /// Remembers reports as texts: "mark 3 of 2", "stopped 2", "list".
 class TestListener : public TtsListener {
  public:
-  explicit TestListener(TtsEngine* speaking = nullptr) : engine(speaking) {}
+  explicit TestListener(TtsEngine* speaking = nullptr) : Engine(speaking) {}
   void BookMarkReached(std::int32_t number, TtsSpeaker& speaker) override;
   void SpeechStopped(TtsSpeaker& speaker) override;
   void EngineListChanged() override { Reports.push_back("list"); }
@@ -40,7 +40,7 @@ class TestListener : public TtsListener {
 
  private:
   std::string NumberOf(const TtsSpeaker& speaker) const;
-  TtsEngine* engine;
+  TtsEngine* Engine;
 };
 
 /// How long a call takes.
@@ -59,7 +59,7 @@ class TestEnvironment {
   void Set(const std::string& name, const std::string& value);
 
  private:
-  std::map<std::string, std::optional<std::string>> before;
+  std::map<std::string, std::optional<std::string>> Before;
 };
 
 /// A runtime and home folder of the test's own, removed at the end. No sound server answers in it.
@@ -69,12 +69,12 @@ class PrivateDesktop {
   ~PrivateDesktop();
   PrivateDesktop(const PrivateDesktop&) = delete;
   PrivateDesktop& operator=(const PrivateDesktop&) = delete;
-  const std::string& Folder() const { return folder; }
-  TestEnvironment& Environment() { return environment; }
+  const std::string& Folder() const { return Path; }
+  TestEnvironment& Environment() { return Variables; }
 
  private:
-  std::string folder;
-  TestEnvironment environment;
+  std::string Path;
+  TestEnvironment Variables;
 };
 
 /// With a sound server that plays into nothing, and a recording of what it plays.
@@ -84,15 +84,15 @@ class PrivateSound {
   ~PrivateSound();
   PrivateSound(const PrivateSound&) = delete;
   PrivateSound& operator=(const PrivateSound&) = delete;
-  bool Ready() const { return ready; }
+  bool Ready() const { return IsReady; }
   /// The loudest sample that was recorded in the last `span`, of 32767.
   int LoudestOfLast(std::chrono::milliseconds span) const;
   void Signal(int signal) const;
 
  private:
-  std::string folder;
-  std::string recording;
-  bool ready = false;
+  std::string Folder;
+  std::string Recording;
+  bool IsReady = false;
 };
 
 /// The settings of a speech server whose module writes the texts to a file, each followed by "|", instead of
@@ -111,7 +111,7 @@ class PrivateSpeechServer {
   void Signal(int signal) const;
 
  private:
-  std::string folder;
+  std::string Folder;
 };
 
 }  // namespace qves

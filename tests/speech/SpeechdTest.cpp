@@ -15,124 +15,124 @@ constexpr auto Prompt = 250ms;  // for calls that return at once, on a machine t
 class SpeechdTest : public testing::Test {
  protected:
   void SetUp() override {
-    if (!PrivateSpeechServer::Installed() || !sound.Ready())
+    if (!PrivateSpeechServer::Installed() || !Sound.Ready())
       GTEST_SKIP() << "speech-dispatcher and pulseaudio are needed";
-    list = MakeSpeech(SpeechChoice::SpeechDispatcher, pump);
+    List = MakeSpeech(SpeechChoice::SpeechDispatcher, Pump);
     Use(1);
   }
   void Use(int number) {
-    engine = list->Open(number);
-    ASSERT_NE(engine, nullptr);
-    listener = std::make_unique<TestListener>(engine.get());
-    list->SetListener(listener.get());
-    speaker = engine->Speaker(2);
+    Engine = List->Open(number);
+    ASSERT_NE(Engine, nullptr);
+    Listener = std::make_unique<TestListener>(Engine.get());
+    List->SetListener(Listener.get());
+    Speaker = Engine->Speaker(2);
   }
   bool Spoken(const std::string& part) {
-    return ReachedWithin(pump, 8s, [&] { return server.Spoken().find(part) != std::string::npos; });
+    return ReachedWithin(Pump, 8s, [&] { return Server.Spoken().find(part) != std::string::npos; });
   }
   bool Idle(std::chrono::milliseconds longest = 8s) {
-    return ReachedWithin(pump, longest, [&] { return !engine->Busy(); });
+    return ReachedWithin(Pump, longest, [&] { return !Engine->Busy(); });
   }
 
-  PrivateDesktop desktop;
-  PrivateSound sound{desktop};
-  PrivateSpeechServer server{desktop};
-  TestPump pump;
-  std::unique_ptr<TestListener> listener;
-  std::unique_ptr<TTS> list;
-  std::unique_ptr<TtsEngine> engine;
-  TtsSpeaker* speaker = nullptr;
+  PrivateDesktop Desktop;
+  PrivateSound Sound{Desktop};
+  PrivateSpeechServer Server{Desktop};
+  TestPump Pump;
+  std::unique_ptr<TestListener> Listener;
+  std::unique_ptr<TTS> List;
+  std::unique_ptr<TtsEngine> Engine;
+  TtsSpeaker* Speaker = nullptr;
 };
 
 TEST_F(SpeechdTest, SpeaksInOrderAndInterrupts) {
-  EXPECT_LT(TimeOf([&] { speaker->SpeakNow("one"); }), Prompt);
-  speaker->SpeakQueued("two & <b>");
+  EXPECT_LT(TimeOf([&] { Speaker->SpeakNow("one"); }), Prompt);
+  Speaker->SpeakQueued("two & <b>");
   EXPECT_TRUE(Idle());
-  EXPECT_EQ(server.Spoken(), "one|two & <b>|");
-  speaker->SpeakNow("three");
+  EXPECT_EQ(Server.Spoken(), "one|two & <b>|");
+  Speaker->SpeakNow("three");
   EXPECT_TRUE(Spoken("three"));
-  speaker->SpeakQueued("never");
-  speaker->SpeakNow("four");
+  Speaker->SpeakQueued("never");
+  Speaker->SpeakNow("four");
   EXPECT_TRUE(Idle());
-  EXPECT_EQ(server.Spoken(), "one|two & <b>|three|four|");
-  for (int i = 0; i < 200; ++i) speaker->SpeakNow("key " + std::to_string(i));
+  EXPECT_EQ(Server.Spoken(), "one|two & <b>|three|four|");
+  for (int i = 0; i < 200; ++i) Speaker->SpeakNow("key " + std::to_string(i));
   EXPECT_TRUE(Idle()) << "the interrupted texts were dropped";
-  EXPECT_TRUE(server.Spoken().ends_with("key 199|"));
+  EXPECT_TRUE(Server.Spoken().ends_with("key 199|"));
 }
 
 TEST_F(SpeechdTest, SentenceMarksComeAsTheSentencesBegin) {
   const BookMark marks[] = {{0, 1}, {5, 2}, {10, 3}};
-  speaker->SpeakNow("One. Two. Three.", marks);
-  EXPECT_TRUE(ReachedWithin(pump, 8s, [&] { return listener->Reports.size() == 4; }));
-  EXPECT_EQ(listener->Reports,
+  Speaker->SpeakNow("One. Two. Three.", marks);
+  EXPECT_TRUE(ReachedWithin(Pump, 8s, [&] { return Listener->Reports.size() == 4; }));
+  EXPECT_EQ(Listener->Reports,
             (std::vector<std::string>{"mark 1 of 2", "mark 2 of 2", "mark 3 of 2", "stopped 2"}));
 }
 
 TEST_F(SpeechdTest, TheListGrowsByTheModulesVoices) {
-  EXPECT_EQ(list->Count(), 1);
-  EXPECT_EQ(list->Item(1).Manufacturer, "Speech Dispatcher");
-  EXPECT_EQ(list->Item(1).Product, "speech-dispatcher");
-  EXPECT_EQ(list->Item(1).VoiceName, "default");
-  EXPECT_EQ(list->Item(1).LanguageId, 9);
-  ASSERT_TRUE(ReachedWithin(pump, 8s, [&] { return !listener->Reports.empty(); }));
-  EXPECT_EQ(listener->Reports.front(), "list");
-  const int second = FindEngine(*list, "capture", "second");
+  EXPECT_EQ(List->Count(), 1);
+  EXPECT_EQ(List->Item(1).Manufacturer, "Speech Dispatcher");
+  EXPECT_EQ(List->Item(1).Product, "speech-dispatcher");
+  EXPECT_EQ(List->Item(1).VoiceName, "default");
+  EXPECT_EQ(List->Item(1).LanguageId, 9);
+  ASSERT_TRUE(ReachedWithin(Pump, 8s, [&] { return !Listener->Reports.empty(); }));
+  EXPECT_EQ(Listener->Reports.front(), "list");
+  const int second = FindEngine(*List, "capture", "second");
   ASSERT_GT(second, 1);
-  EXPECT_EQ(list->Item(second).LanguageId, 7);
+  EXPECT_EQ(List->Item(second).LanguageId, 7);
   Use(second);
-  engine->SetSpeed(300);
-  engine->SetPitch(20);
-  speaker->SpeakNow("eins");
+  Engine->SetSpeed(300);
+  Engine->SetPitch(20);
+  Speaker->SpeakNow("eins");
   EXPECT_TRUE(Spoken("eins"));
 }
 
 TEST_F(SpeechdTest, AServerKilledInMidWordIsReplaced) {
-  speaker->SpeakNow("before");
+  Speaker->SpeakNow("before");
   ASSERT_TRUE(Spoken("before"));
-  server.Signal(SIGKILL);
-  EXPECT_LT(TimeOf([&] { speaker->SpeakQueued("after"); }), Prompt);
+  Server.Signal(SIGKILL);
+  EXPECT_LT(TimeOf([&] { Speaker->SpeakQueued("after"); }), Prompt);
   EXPECT_TRUE(Spoken("after"));
   EXPECT_TRUE(Idle());
-  server.Signal(SIGKILL);
-  speaker->SpeakNow("once more");
+  Server.Signal(SIGKILL);
+  Speaker->SpeakNow("once more");
   EXPECT_TRUE(Spoken("once more"));
 }
 
 TEST_F(SpeechdTest, AServerThatHangsHoldsNobodyUpAndMayComeBack) {
-  speaker->SpeakNow("before");
+  Speaker->SpeakNow("before");
   ASSERT_TRUE(Spoken("before"));
-  server.Signal(SIGSTOP);
-  for (int i = 0; i < 50; ++i) EXPECT_LT(TimeOf([&] { speaker->SpeakNow("hung"); }), Prompt);
-  EXPECT_LT(TimeOf([&] { speaker->Stop(); }), Prompt);
-  speaker->SpeakNow("elsewhere");
+  Server.Signal(SIGSTOP);
+  for (int i = 0; i < 50; ++i) EXPECT_LT(TimeOf([&] { Speaker->SpeakNow("hung"); }), Prompt);
+  EXPECT_LT(TimeOf([&] { Speaker->Stop(); }), Prompt);
+  Speaker->SpeakNow("elsewhere");
   EXPECT_TRUE(Idle(15s)) << "another back end takes over, or there is silence";
-  server.Signal(SIGCONT);
-  EXPECT_TRUE(ReachedWithin(pump, 8s, [&] {
-    speaker->SpeakNow("again");
+  Server.Signal(SIGCONT);
+  EXPECT_TRUE(ReachedWithin(Pump, 8s, [&] {
+    Speaker->SpeakNow("again");
     Idle(1s);
-    return server.Spoken().ends_with("again|");
+    return Server.Spoken().ends_with("again|");
   }));
 }
 
 TEST_F(SpeechdTest, IsLeftAtOnceAlsoWhenTheServerHangs) {
-  speaker->SpeakNow("before");
+  Speaker->SpeakNow("before");
   ASSERT_TRUE(Spoken("before"));
-  server.Signal(SIGSTOP);
-  speaker->SpeakNow("hung");
+  Server.Signal(SIGSTOP);
+  Speaker->SpeakNow("hung");
   EXPECT_LT(TimeOf([&] {
-              engine.reset();
-              list.reset();
+              Engine.reset();
+              List.reset();
             }),
             500ms);
 }
 
 TEST_F(SpeechdTest, WithoutAServerTheCallsReturnAndBusyEnds) {
-  desktop.Environment().Set("SPEECHD_ADDRESS", "unix_socket:/nonexistent/socket");
-  desktop.Environment().Set("PATH", "/nonexistent");
-  desktop.Environment().Set("SPEECHD_CMD", "/nonexistent/server");
-  list = MakeSpeech(SpeechChoice::SpeechDispatcher, pump);
+  Desktop.Environment().Set("SPEECHD_ADDRESS", "unix_socket:/nonexistent/socket");
+  Desktop.Environment().Set("PATH", "/nonexistent");
+  Desktop.Environment().Set("SPEECHD_CMD", "/nonexistent/server");
+  List = MakeSpeech(SpeechChoice::SpeechDispatcher, Pump);
   Use(1);
-  EXPECT_LT(TimeOf([&] { speaker->SpeakNow("nobody there"); }), Prompt);
+  EXPECT_LT(TimeOf([&] { Speaker->SpeakNow("nobody there"); }), Prompt);
   EXPECT_TRUE(Idle(15s));
 }
 
