@@ -13,7 +13,8 @@ constexpr std::array<QRgb, 16> SixteenColors = {
 };
 
 constexpr qreal DisplayScale = 2.0;  // of the desktop's font
-constexpr int LargestFont = 400;     // points; a larger size in a settings file is a slip
+constexpr int SmallestFont = 6;      // points; a size outside of these in a settings file is a slip
+constexpr int LargestFont = 400;
 
 /// The desktop's font, or its multiple.
 QFont DesktopFont(TextRole role) {
@@ -29,21 +30,26 @@ QFont DesktopFont(TextRole role) {
 QFont HostFont(const AppSettings& settings) {
   QFont font = QApplication::font();
   if (!settings.FontName.empty()) font.setFamilies({QString::fromStdString(settings.FontName)});
-  if (settings.FontSize > 0 && settings.FontSize <= LargestFont) font.setPointSize(settings.FontSize);
+  if (settings.FontSize >= SmallestFont && settings.FontSize <= LargestFont)
+    font.setPointSize(settings.FontSize);
   font.setBold(settings.BoldFont);
   font.setItalic(settings.ItalicFont);
   return font;
 }
 
 QPalette HostPalette(QPalette palette, const AppSettings& settings) {
-  const std::pair<QPalette::ColorRole, int> colors[] = {
-      {QPalette::Text, settings.TextColor},
-      {QPalette::Base, settings.BackColor},
-      {QPalette::HighlightedText, settings.HighColor},
-      {QPalette::Highlight, settings.HiBkColor},
+  struct Row {
+    QPalette::ColorRole Role;
+    std::int16_t AppSettings::*Number;
   };
-  for (const auto& [role, number] : colors)
-    if (const auto color = PaletteColor(number)) palette.setColor(role, *color);
+  constexpr Row rows[] = {{QPalette::Text, &AppSettings::TextColor},
+                          {QPalette::Base, &AppSettings::BackColor},
+                          {QPalette::HighlightedText, &AppSettings::HighColor},
+                          {QPalette::Highlight, &AppSettings::HiBkColor}};
+  // A number that is no colour counts as the usual one: half a pair could be unreadable.
+  const AppSettings usual;
+  for (const Row& row : rows)
+    palette.setColor(row.Role, PaletteColor(settings.*row.Number).value_or(*PaletteColor(usual.*row.Number)));
   return palette;
 }
 

@@ -90,8 +90,11 @@ LineView::LineView(TextBox& box, ControlHost& host, const AppSettings& settings,
   setTextMargins(TextMargin, TextMargin, TextMargin, TextMargin);
   setAlignment(IsIndicator ? Qt::AlignCenter : Qt::AlignRight | Qt::AlignVCenter);
   setFocusPolicy(Qt::StrongFocus);
+  setContextMenuPolicy(Qt::NoContextMenu);  // it would open without a word and take the keys
   setSizePolicy(IsIndicator ? QSizePolicy::Preferred : QSizePolicy::Expanding, QSizePolicy::Preferred);
   NameForScreenReader(*this, box);
+  // An accessibility client may write into any line edit; this one shows what the form says.
+  connect(this, &QLineEdit::textChanged, this, [this] { Refresh(); });
   Restyle();
 }
 
@@ -138,6 +141,7 @@ LinesView::LinesView(TextBox& box, ControlHost& host, const AppSettings& setting
   setReadOnly(true);
   setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   setUndoRedoEnabled(false);
+  setContextMenuPolicy(Qt::NoContextMenu);
   setFrameStyle(QFrame::Box | QFrame::Plain);
   setLineWidth(OutlineWidth);
   NameForScreenReader(*this, box);

@@ -24,6 +24,10 @@ void DesktopShell::Attach(CalculatorApp& app) {
             return App->KeyDown(event);
           },
       .KeyUp = [this](int keyCode) { App->KeyUp(keyCode); },
+      .SettleMenus =
+          [this] {
+            if (FormMenuBar* menus = TopMenus()) menus->Settle();
+          },
       .IsForeignPopup = [this] { return IsForeignPopup(); },
       .OpenFirstMenu =
           [this] {

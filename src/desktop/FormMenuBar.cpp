@@ -114,6 +114,14 @@ void FormMenuBar::LookWhetherClosed() {
   });
 }
 
+void FormMenuBar::Settle() {
+  if (IsMenuOpen()) return;
+  if (!activeAction())
+    TellClosed();
+  else if (!Active)
+    Tell(activeAction());
+}
+
 void FormMenuBar::TellClosed() {
   if (!Active) return;
   Active = false;

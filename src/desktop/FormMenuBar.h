@@ -21,6 +21,8 @@ class FormMenuBar : public QMenuBar {
   void OpenFirst();
   /// Opens the menu with that mnemonic, a letter's key code, at its first item; false when there is none.
   bool OpenMenu(int letter);
+  /// Tells now what is to be told of the menus, so that a key that follows finds them as they are.
+  void Settle();
   /// True from the first highlighted item until the menus are closed.
   bool IsActive() const { return Active; }
 

@@ -44,6 +44,7 @@ bool KeyFilter::eventFilter(QObject* watched, QEvent* event) {
 }
 
 bool KeyFilter::Press(const QKeyEvent& event) {
+  To.SettleMenus();
   if (To.IsForeignPopup()) return false;
   const KeyEvent key = TranslateKey(CaptureKey(event));
   if (event.isAutoRepeat() && ActsOnRelease(key.Code)) return true;

@@ -15,6 +15,7 @@ class KeyFilter : public QObject {
     std::function<bool(const KeyEvent&)> KeyDown;  ///< true: the key is used, no widget is to see it
     std::function<void(int keyCode)> KeyUp;
     /// True while a pop-up that is not the calculator's concern has the keyboard (a context menu).
+    std::function<void()> SettleMenus = [] {};
     std::function<bool()> IsForeignPopup = [] { return false; };
     /// A press of F10 that the calculator did not use.
     std::function<void()> OpenFirstMenu = [] {};

@@ -186,10 +186,16 @@ std::optional<int> PunctuationCode(int key) {
   return us && !IsDigit(us->Code) ? std::optional(us->Code) : std::nullopt;
 }
 
-int PositionCode(std::uint32_t evdev, int key) {
+/// A French keyboard has its colon and its slash where a US one has the point: they are no point.
+bool IsFrenchSlashKey(int key, int shift) {
+  return (key == Qt::Key_Colon && shift == NoShift) || key == Qt::Key_Slash;
+}
+
+int PositionCode(std::uint32_t evdev, int key, int shift) {
   const std::optional<int> letter = UsLetterAt(evdev);
   if (letter) return PunctuationCode(key).value_or(*letter);
-  return FindCode(Positions, evdev).value_or(0);
+  const int code = FindCode(Positions, evdev).value_or(0);
+  return code == KeyPeriod && IsFrenchSlashKey(key, shift) ? int{KeySlash} : code;
 }
 
 int ShiftOf(Qt::KeyboardModifiers modifiers) {
@@ -226,12 +232,14 @@ KeyEvent TranslateKey(const NativeKey& key) {
   if (const auto code = KeypadCode(key)) return {*code, shift, 0};
 
   const char32_t typed = TypedCharacter(key.Text);
-  if (typed != 0 && key.Modifiers.testFlag(Qt::GroupSwitchModifier)) shift &= ShiftBit;
-  const char32_t character = (shift & (ControlBit | AltBit)) == 0 ? typed : 0;
+  const bool isAltGr = typed != 0 && key.Modifiers.testFlag(Qt::GroupSwitchModifier);
+  const char32_t character = isAltGr || (shift & (ControlBit | AltBit)) == 0 ? typed : 0;
+  // What AltGr types counts; the key by itself is one with Control and Alt, so that no digit comes of it.
+  if (isAltGr) shift |= ControlBit | AltBit;
   if (const auto code = NamedCode(key.Key)) return {*code, shift, character};
   if (IsLetter(key.Key)) return {key.Key, shift, character};
   if (key.ScanCode <= EvdevOffset) return SynthesisedKey(key, shift, character);
-  return {PositionCode(key.ScanCode - EvdevOffset, key.Key), shift, character};
+  return {PositionCode(key.ScanCode - EvdevOffset, key.Key, shift), shift, character};
 }
 
 }  // namespace qves

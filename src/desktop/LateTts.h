@@ -17,16 +17,24 @@ class LateTts : public TTS {
   int Count() const override { return Speech().Count(); }
   TtsEngineInfo Item(int index) const override { return Speech().Item(index); }
   std::unique_ptr<TtsEngine> Open(int index) override { return Speech().Open(index); }
-  void SetListener(TtsListener* listener) override { Speech().SetListener(listener); }
+  /// By itself this loads nothing: a calculator that is not to speak never does.
+  void SetListener(TtsListener* listener) override {
+    Listener = listener;
+    if (Loaded) Loaded->SetListener(listener);
+  }
 
  private:
   TTS& Speech() const {
-    if (!Loaded) Loaded = Load();
+    if (!Loaded) {
+      Loaded = Load();
+      Loaded->SetListener(Listener);
+    }
     return *Loaded;
   }
 
   std::function<std::unique_ptr<TTS>()> Load;
   mutable std::unique_ptr<TTS> Loaded;
+  TtsListener* Listener = nullptr;
 };
 
 }  // namespace qves

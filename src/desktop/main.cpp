@@ -1,8 +1,10 @@
 // The calculator in a window.
 #include <fontconfig/fontconfig.h>
+#include <xcb/xcb.h>
 
 #include <QApplication>
 #include <QSessionManager>
+#include <algorithm>
 #include <cerrno>
 #include <csignal>
 #include <future>
@@ -39,9 +41,19 @@ int Complain(const std::string& reason) {
   return BadUsage;
 }
 
-bool IsDisplayNamed(const Options& options) {
-  return qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY") ||
-         qEnvironmentVariableIsSet("QT_QPA_PLATFORM") || !options.ToolkitArguments.empty();
+/// Whether the toolkit will find a display; without one it would abort with a page of its own.
+bool HasDisplay(const Options& options) {
+  const bool isChosen = std::ranges::any_of(options.ToolkitArguments, [](const std::string& argument) {
+    return argument == "-platform" || argument == "-display";
+  });
+  if (isChosen || !qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") ||
+      !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY"))
+    return true;
+  if (qEnvironmentVariableIsEmpty("DISPLAY")) return false;
+  xcb_connection_t* connection = xcb_connect(nullptr, nullptr);
+  const bool answers = xcb_connection_has_error(connection) == 0;
+  xcb_disconnect(connection);
+  return answers;
 }
 
 /// Runs the calculator in the toolkit's event loop; the exit status.
@@ -87,8 +99,7 @@ int Main(int argc, char** argv) {
     std::cout << (options->Help ? HelpText() : "qvescalc " QVES_VERSION "\n");
     return 0;
   }
-  if (!IsDisplayNamed(*options))
-    return Complain("there is no display (neither DISPLAY nor WAYLAND_DISPLAY is set)");
+  if (!HasDisplay(*options)) return Complain("there is no display (DISPLAY or WAYLAND_DISPLAY)");
 
   PrepareEnvironment();
   QtEventPump events;

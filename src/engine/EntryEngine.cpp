@@ -25,16 +25,14 @@ void EntryEngine::Digit(const PressedKey& key) {
     ClearAll();
     EntryText.clear();
   }
-  if (Shown == "(" || LastAction == Biop) {
+  if (LastAction == Biop) {
     BeginSecondOperand();
-    EntryText = key.Caption;
-  } else {
-    // The lone leading zero is replaced.
-    if (Shown == "0" && !DecimalEntered) EntryText.clear();
-    EntryText += key.Caption;
+    EntryText.clear();
+  } else if (EntryText == "0" && !DecimalEntered) {
+    EntryText.clear();  // the lone leading zero is replaced
   }
-  Show(EntryText);
-  CurrentValue = TextToNumber(EntryText);
+  ExtendEntry(key.Caption);
+  if (!IsBeyondADouble(EntryText)) CurrentValue = TextToNumber(EntryText);
   LastAction = Num;
 }
 
@@ -42,22 +40,21 @@ void EntryEngine::DecimalPoint(const PressedKey& key) {
   Says.Say(key.SpokenName);
   if (EntryHoldsPoint()) return;
   if (StartsAnew()) ClearAll();
-  const std::string& separator = Says.Message(SeparatorMessage);
-  if (Shown == "(" || LastAction == Biop) {
+  const std::string& separator = Separator();
+  if (LastAction == Biop) {
     BeginSecondOperand();
-    EntryText = "0" + separator;
+    EntryText = "0";
     CurrentValue = 0;
-  } else if (LastAction != Decimal) {
-    EntryText += separator;
+    Show();
   }
-  Show(EntryText);
+  if (LastAction != Decimal) ExtendEntry(separator);
   DecimalEntered = true;
   LastAction = Decimal;
 }
 
 void EntryEngine::Backspace(const PressedKey&) {
   const std::string last = EntryText.empty() ? "" : EntryText.substr(EntryText.size() - 1);
-  const bool isPoint = last == Says.Message(SeparatorMessage);
+  const bool isPoint = last == Separator();
   Says.Say(isPoint ? Says.Message(PointNameMessage) : last);
   // A sign change may be backspaced into; after any other result the key only speaks.
   if (!IsOneOf(LastAction, {Num, qves::LastAction::Backspace, Decimal}) &&
@@ -71,7 +68,7 @@ void EntryEngine::Backspace(const PressedKey&) {
     EntryText.pop_back();
   }
   ErrorState = false;
-  Show(EntryText);
+  Show();
   CurrentValue = TextToNumber(EntryText);
   LastAction = qves::LastAction::Backspace;
 }
@@ -83,7 +80,7 @@ void EntryEngine::ClearEntry(const PressedKey& key) {
   EntryText = "0";
   CurrentValue = 0;
   DecimalEntered = false;
-  Show(EntryText);
+  Show();
   LastAction = Ce;
 }
 
@@ -126,7 +123,7 @@ void EntryEngine::ClearAll() {
   DecimalEntered = false;
   ErrorState = false;
   SecondOperandBegun = false;
-  Show(EntryText);
+  Show();
   Accumulator = CurrentValue = 0;
   TapeLine.clear();
 }
@@ -151,7 +148,7 @@ void EntryEngine::Evaluate(double first, double& second, std::string_view op) {
     TapeLine = std::string(row->TapeLead) + secondText + std::string(row->TapeTail);
   if (row) second = row->Apply(first, second);
   EntryText = NumberToText(second);
-  Show(EntryText);
+  Show();
   WriteTapeLine();
 }
 
@@ -166,7 +163,7 @@ void EntryEngine::Fail() {
   ClearAll();
   ErrorState = true;
   EntryText = "E";
-  Show(EntryText);
+  Show();
 }
 
 void EntryEngine::FailAloud() {
@@ -192,17 +189,33 @@ void EntryEngine::BeginSecondOperand() {
 
 /// True when the number being typed has its point already.
 bool EntryEngine::EntryHoldsPoint() const {
-  if (StartsAnew() || Shown == "(" || LastAction == Biop) return false;
-  return EntryText.find(Says.Message(SeparatorMessage)) != std::string::npos;
+  if (StartsAnew() || LastAction == Biop) return false;
+  return EntryText.find(Separator()) != std::string::npos;
 }
 
 void EntryEngine::CompletePending() {
   if (SecondOperandBegun) Calculate(Accumulator, CurrentValue, PendingOp);
 }
 
-void EntryEngine::Show(std::string_view text) {
-  Shown = text;
-  Host.ShowDisplay(text);
+void EntryEngine::Show() {
+  Host.ShowDisplay(EntryText);
+}
+
+/// Adds to the entry. An empty one is shown anew.
+void EntryEngine::ExtendEntry(std::string_view text) {
+  const bool anew = EntryText.empty();
+  EntryText += text;
+  if (anew)
+    Show();
+  else
+    Host.ExtendDisplay(text);
+}
+
+/// The decimal separator; numbers are read with a point when the message file has none.
+const std::string& EntryEngine::Separator() const {
+  static const std::string point = ".";
+  const std::string& separator = Says.Message(SeparatorMessage);
+  return separator.empty() ? point : separator;
 }
 
 void EntryEngine::SayResult(std::string_view leadIn) {

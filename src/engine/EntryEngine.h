@@ -19,6 +19,8 @@ class EngineHost {
  public:
   virtual ~EngineHost() = default;
   virtual void ShowDisplay(std::string_view text) = 0;
+  /// The text shown grows at its end.
+  virtual void ExtendDisplay(std::string_view text) = 0;
   virtual void ShowMemory(std::string_view indicator) = 0;
   /// A line was added to the tape; it ends with "\r\n".
   virtual void AppendTape(std::string_view line) = 0;
@@ -61,7 +63,7 @@ class EntryEngine {
 
   bool InError() const { return ErrorState; }
   /// What the display shows.
-  const std::string& DisplayText() const { return Shown; }
+  const std::string& DisplayText() const { return EntryText; }
   const std::string& Tape() const { return TapeText; }
   StateFields Fields() const;
 
@@ -73,7 +75,9 @@ class EntryEngine {
   void CompletePending();
   void Evaluate(double first, double& second, std::string_view op);
   void WriteTapeLine();
-  void Show(std::string_view text);
+  void Show();
+  void ExtendEntry(std::string_view text);
+  const std::string& Separator() const;
   void SayResult(std::string_view leadIn);
 
   void ReturnMemory();
@@ -95,7 +99,6 @@ class EntryEngine {
   qves::LastAction LastAction = qves::LastAction::None;
   std::string TapeLine;
   std::string TapeText;
-  std::string Shown = "0";
   bool ErrorState = false;
   bool SecondOperandBegun =
       false;  ///< by a digit, a point, a clear entry or a recall after the pending operator

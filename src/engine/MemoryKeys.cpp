@@ -14,10 +14,10 @@ void EntryEngine::Memory(const PressedKey& key) {
     ReturnMemory();
   } else if (caption == "MS") {
     if (RefuseNoNumber()) return;
-    MemoryCell.Store(Shown);
+    MemoryCell.Store(EntryText);
   } else if (caption == "M+") {
     if (RefuseNoNumber()) return;
-    MemoryCell.Add(TextToNumber(Shown));
+    MemoryCell.Add(TextToNumber(EntryText));
   } else if (caption == "C") {
     ClearAllAndTape();
   }
@@ -33,7 +33,7 @@ void EntryEngine::ReturnMemory() {
   EntryText = MemoryCell.Text();
   CurrentValue = MemoryCell.Value();
   ErrorState = false;
-  Show(EntryText);
+  Show();
 }
 
 void EntryEngine::ClearAllAndTape() {
@@ -44,7 +44,7 @@ void EntryEngine::ClearAllAndTape() {
 
 /// A display that is no number cannot be stored: said, and nothing changes.
 bool EntryEngine::RefuseNoNumber() {
-  if (!ErrorState && ParseNumber(Shown)) return false;
+  if (!ErrorState && ParseNumber(EntryText)) return false;
   Says.SayError();
   return true;
 }

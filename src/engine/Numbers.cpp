@@ -100,6 +100,20 @@ std::optional<double> ParseNumber(std::string_view text) {
   return negative ? -value : value;
 }
 
+bool IsBeyondADouble(std::string_view entry) {
+  // The smallest double begins 324 places behind the point, and 767 digits from its first one decide every
+  // rounding.
+  constexpr std::size_t deciding = 1200;
+  constexpr std::size_t longestWhole = 100;
+  if (entry.size() <= deciding + 1) return false;
+  const std::string_view start = entry.substr(0, longestWhole);
+  if (start.find('.') == std::string_view::npos || start.find_first_of("Ee") != std::string_view::npos)
+    return false;
+  // A digit that is not 0 behind an exact half would still round it up: only the first such one counts.
+  const std::string_view before = entry.substr(deciding, entry.size() - deciding - 1);
+  return entry.back() == '0' || before.find_first_not_of('0') != std::string_view::npos;
+}
+
 double TextToNumber(std::string_view text) {
   const auto value = ParseNumber(text);
   if (!value) throw ArithmeticFault("the text is no number");

@@ -19,6 +19,10 @@ std::string NumberToText(double value);
 /// double; a value too small for one is 0.
 std::optional<double> ParseNumber(std::string_view text);
 
+/// True when one more digit at the end of a plain decimal entry can no longer change its value: it stands so
+/// far behind the point that a double does not see it. Keeps the typing of very long entries quick.
+bool IsBeyondADouble(std::string_view entry);
+
 /// As ParseNumber, but faults when the text is no number.
 double TextToNumber(std::string_view text);
 

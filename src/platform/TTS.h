@@ -56,6 +56,8 @@ struct TtsEngineInfo {
   std::string Manufacturer;
   std::string Product;
   std::string VoiceName;
+  bool operator==(const TtsEngineInfo&) const = default;
+
   int LanguageId = 0;  ///< the low ten bits are the primary language (9 English, 7 German, 12 French, ...)
 };
 

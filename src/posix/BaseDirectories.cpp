@@ -44,6 +44,8 @@ BaseDirectories::BaseDirectories(std::string home)
 }
 
 std::string BaseDirectories::UserName() {
+  // Below a given home that word stands for itself.
+  if (Confined) return "LocalService";
   const passwd* user = ::getpwuid(::getuid());
   return user && user->pw_name ? user->pw_name : "";
 }
@@ -54,7 +56,7 @@ std::string BaseDirectories::ConfigFolder() {
 }
 
 std::string BaseDirectories::DocumentsFolder() {
-  const std::string folder = FromUserDirs("XDG_DOCUMENTS_DIR");
+  const std::string folder = Confined ? "" : FromUserDirs("XDG_DOCUMENTS_DIR");
   return folder.empty() ? HomeFolder + "/Documents" : folder;
 }
 

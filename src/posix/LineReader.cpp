@@ -17,24 +17,35 @@ void Note(int number) {
 
 constexpr int EndingSignals[] = {SIGTERM, SIGINT, SIGHUP};
 
+/// The ending signals are blocked while it lives, but for the wait that takes `Before()` as its mask.
+class BlockedSignals {
+ public:
+  BlockedSignals() {
+    sigset_t blocked;
+    sigemptyset(&blocked);
+    for (const int number : EndingSignals) sigaddset(&blocked, number);
+    sigprocmask(SIG_BLOCK, &blocked, &Mask);
+  }
+  ~BlockedSignals() { sigprocmask(SIG_SETMASK, &Mask, nullptr); }
+  BlockedSignals(const BlockedSignals&) = delete;
+  BlockedSignals& operator=(const BlockedSignals&) = delete;
+  const sigset_t* Before() const { return &Mask; }
+
+ private:
+  sigset_t Mask;
+};
+
 }  // namespace
 
 LineReader::LineReader(int descriptor) : Descriptor(descriptor) {
   struct sigaction action {};
   action.sa_handler = Note;
-  sigset_t blocked;
-  sigemptyset(&blocked);
-  for (const int number : EndingSignals) {
-    sigaction(number, &action, nullptr);
-    sigaddset(&blocked, number);
-  }
-  // They arrive while the reader waits and at no other time.
-  sigprocmask(SIG_BLOCK, &blocked, nullptr);
+  for (const int number : EndingSignals) sigaction(number, &action, nullptr);
 }
 
 bool LineReader::Next(std::string& line) {
   std::size_t from = At;
-  for (;;) {
+  while (EndingSignal() == 0) {
     const std::size_t end = Buffer.find('\n', from);
     if (end != std::string::npos) {
       line.assign(Buffer, At, end - At);
@@ -52,12 +63,12 @@ bool LineReader::Next(std::string& line) {
 }
 
 bool LineReader::Fill() {
-  sigset_t none;
-  sigemptyset(&none);
+  // No signal between the look at the flag and the wait: it would be noticed only with the next input.
+  const BlockedSignals blocked;
   pollfd input{Descriptor, POLLIN, 0};
   char chunk[65536];
   while (EndingSignal() == 0) {
-    if (ppoll(&input, 1, nullptr, &none) < 0) continue;
+    if (ppoll(&input, 1, nullptr, blocked.Before()) < 0) continue;
     const ssize_t count = ::read(Descriptor, chunk, sizeof chunk);
     if (count < 0 && errno == EINTR) continue;
     if (count <= 0) return false;

@@ -56,7 +56,7 @@ PosixFileStore::PosixFileStore(std::string root, std::string programFolder)
     : Root(std::move(root)), ProgramFolder(std::move(programFolder)) {}
 
 bool PosixFileStore::MayRead(const std::string& path) const {
-  if (Root.empty()) return true;
+  if (Root.empty()) return RelativePaths || path.starts_with('/');
   return path.starts_with('/') && (IsBelow(path, Root) || IsBelow(path, ProgramFolder));
 }
 
@@ -71,11 +71,15 @@ std::optional<std::string> PosixFileStore::Read(const std::string& path, std::st
     error = "it lies outside of " + Root;
     return std::nullopt;
   }
-  const Descriptor file(path, O_RDONLY);
+  const Descriptor file(path, O_RDONLY | O_NONBLOCK);  // a pipe without a writer would be waited for
   std::string content;
   struct stat status {};
   const bool open = file.Number >= 0 && ::fstat(file.Number, &status) == 0;
-  if (open && S_ISREG(status.st_mode)) content.reserve(static_cast<std::size_t>(status.st_size));
+  if (open && !S_ISREG(status.st_mode)) {
+    error = S_ISDIR(status.st_mode) ? "it is a folder" : "it is no plain file";
+    return std::nullopt;
+  }
+  if (open) content.reserve(static_cast<std::size_t>(status.st_size));
   char buffer[65536];
   for (;;) {
     const ssize_t count = open ? ::read(file.Number, buffer, sizeof buffer) : -1;

@@ -14,6 +14,9 @@ class PosixFileStore : public FileStore {
   /// there, relative paths neither. Without one ("") there are no limits.
   PosixFileStore(std::string root, std::string programFolder);
 
+  /// From now on relative paths are not there.
+  void RefuseRelativePaths() { RelativePaths = false; }
+
   std::optional<std::string> Read(const std::string& path, std::string& error) override;
   bool Write(const std::string& path, std::string_view content, std::string& error) override;
   bool Append(const std::string& path, std::string_view text, std::string& error) override;
@@ -30,6 +33,7 @@ class PosixFileStore : public FileStore {
 
   std::string Root;
   std::string ProgramFolder;
+  bool RelativePaths = true;
   std::vector<std::string> Written;
 };
 

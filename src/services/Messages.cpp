@@ -53,7 +53,8 @@ void MessageStore::LoadMessageFile(const std::string& name) {
 void MessageStore::LoadLine(const std::string& path, int number, std::string_view line) {
   if (line.empty() || line.front() == '#') return;
   const std::size_t tab = line.find('\t');
-  const auto id = tab == std::string_view::npos ? std::nullopt : ParseId(line.substr(0, tab));
+  const bool oneTab = tab != std::string_view::npos && line.find('\t', tab + 1) == std::string_view::npos;
+  const auto id = oneTab ? ParseId(line.substr(0, tab)) : std::nullopt;
   auto text = id && IsUtf8(line) ? Unescape(line.substr(tab + 1)) : std::nullopt;
   if (text) {
     Texts[*id] = std::move(*text);

@@ -95,10 +95,22 @@ const std::array HostKeys = {
     HostKey{"SpellSuff", &AppSettings::SpellSuff},
 };
 
-constexpr int SettingsFolderMessage = 3;
-constexpr int TemporaryFolderMessage = 2;
-constexpr int OwnSettingsMessage = 6;
-constexpr int HostSettingsMessage = 7;
+/// A folder's or file's name: a message, and what it is when the message file is missing.
+struct PlaceName {
+  int Message;
+  std::string_view Usual;
+};
+
+constexpr PlaceName TemporaryName = {2, "Temporary"};
+constexpr PlaceName SettingsName = {3, "Settings"};
+constexpr PlaceName OwnFileName = {6, "Calc"};
+constexpr PlaceName HostFileName = {7, "Quorvane 1000"};
+
+std::string Named(const MessageStore& messages, const PlaceName& name) {
+  const std::string& text = messages.GetMessage(name.Message);
+  return text.empty() ? std::string(name.Usual) : text;
+}
+
 constexpr std::string_view SettingsExtension = ".ost";
 constexpr std::string_view DocumentsKeys[] = {R"(Software\QVES\Quorvane 1000)", R"(Software\QVES\Trelwick)"};
 
@@ -124,11 +136,9 @@ void SettingsFiles::FindDataFolder() {
   Folders& f = FolderLocations;
   f.UserName = Outside.Directories.UserName();
   const std::string config = ReplaceAll(Outside.Directories.ConfigFolder(), "LocalService", f.UserName);
-  f.DataFolder = config + "/QVES/" + Messages.GetMessage(SettingsFolderMessage);
-  f.HostSettingsFile =
-      f.DataFolder + "/" + Messages.GetMessage(HostSettingsMessage) + std::string(SettingsExtension);
-  f.OwnSettingsFile =
-      f.DataFolder + "/" + Messages.GetMessage(OwnSettingsMessage) + std::string(SettingsExtension);
+  f.DataFolder = config + "/QVES/" + Named(Messages, SettingsName);
+  f.HostSettingsFile = f.DataFolder + "/" + Named(Messages, HostFileName) + std::string(SettingsExtension);
+  f.OwnSettingsFile = f.DataFolder + "/" + Named(Messages, OwnFileName) + std::string(SettingsExtension);
 }
 
 void SettingsFiles::FindDocuments() {
@@ -140,7 +150,7 @@ void SettingsFiles::FindDocuments() {
     f.DocumentsFolder = *folder;
     break;
   }
-  f.TemporaryFolder = f.DocumentsFolder + "/" + Messages.GetMessage(TemporaryFolderMessage);
+  f.TemporaryFolder = f.DocumentsFolder + "/" + Named(Messages, TemporaryName);
   f.SoundsFolder = Outside.Directories.ProgramFolder() + "/Sounds";
   Log.SetFolder(f.TemporaryFolder);
 }
@@ -183,6 +193,7 @@ bool SettingsFiles::ReadPairs(const std::string& path, StorePair store) {
     return true;
   };
   fields.Next();  // the header
+  if (fields.CutOff()) return fail("the file ends inside its first field");
   while (const auto key = fields.Next()) {
     const auto value = fields.Next();
     if (!value || fields.CutOff()) return fail("the file ends inside \"" + key->substr(0, 40) + "\"");

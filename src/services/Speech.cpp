@@ -33,10 +33,15 @@ bool Wants(std::string_view setting, std::string_view item) {
 
 bool SpeechService::CreateSpeech(std::string_view voice, std::string_view manufacturer,
                                  std::string_view product, int language) {
+  return OpenEngine(ChooseEngine(voice, manufacturer, product, language));
+}
+
+/// The engine that matches all, else one of the language, else the first.
+int SpeechService::ChooseEngine(std::string_view voice, std::string_view manufacturer,
+                                std::string_view product, int language) const {
   int index = FindEngine(voice, manufacturer, product, language);
-  ExactVoice = index > 0;
   if (index < 0) index = FindEngine("", "", "", language);
-  return OpenEngine(index < 0 ? 1 : index);
+  return index < 0 ? 1 : index;
 }
 
 int SpeechService::FindEngine(std::string_view voice, std::string_view manufacturer, std::string_view product,
@@ -55,6 +60,7 @@ int SpeechService::FindEngine(std::string_view voice, std::string_view manufactu
 bool SpeechService::OpenEngine(int index) {
   ReleaseSpeech();
   if (index > Outside.Speech.Count()) return false;
+  Opened = Outside.Speech.Item(index);
   SpeechEngine = Outside.Speech.Open(index);
   if (!SpeechEngine || !SpeechEngine->Initialise()) return false;
   ApplyVoiceSettings();
@@ -166,12 +172,11 @@ void SpeechService::DetachSpeakingControls(Form& form) const {
 }
 
 void SpeechService::EngineListChanged() {
-  if (!SpeechEngine || ExactVoice) return;
-  const int index =
-      FindEngine(Settings.SystemVoice, Settings.SystemManuf, Settings.SystemProduct, Settings.SystemLanguage);
-  if (index < 0) return;
+  if (!SpeechEngine) return;
+  const int index = ChooseEngine(Settings.SystemVoice, Settings.SystemManuf, Settings.SystemProduct,
+                                 Settings.SystemLanguage);
+  if (index > Outside.Speech.Count() || Outside.Speech.Item(index) == Opened) return;
   const bool speaking = SpeechEngine->Busy();
-  ExactVoice = true;
   if (OpenEngine(index) && speaking) SpeakText(std::string(LastText));
 }
 

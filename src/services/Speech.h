@@ -50,10 +50,12 @@ class SpeechService {
   void AttachSpeakingControls(Form& form, const VerbosityTable& verbosity) const;
   void DetachSpeakingControls(Form& form) const;
 
-  /// More engines are known now: the one the settings ask for may be among them.
+  /// Other engines are known now: a better one for the settings may be among them.
   void EngineListChanged();
 
  private:
+  int ChooseEngine(std::string_view voice, std::string_view manufacturer, std::string_view product,
+                   int language) const;
   int FindEngine(std::string_view voice, std::string_view manufacturer, std::string_view product,
                  int language) const;
   bool OpenEngine(int index);
@@ -68,7 +70,7 @@ class SpeechService {
   TtsSpeaker* PrimarySpeaker = nullptr;
   TtsSpeaker* SecondSpeaker = nullptr;
   std::string LastText;
-  bool ExactVoice = false;  ///< the engine is the one that the settings ask for
+  TtsEngineInfo Opened;  ///< what the engine is
 };
 
 }  // namespace qves

@@ -56,8 +56,8 @@ std::optional<Options> ParseOptions(const std::vector<std::string>& arguments, s
   for (std::size_t at = 0; at < arguments.size(); ++at) {
     if (arguments[at] == "--script") {
       options.Script = true;
-      if (at + 1 < arguments.size() && !arguments[at + 1].starts_with("--"))
-        options.ScriptFile = arguments[++at];
+    } else if (options.Script && options.ScriptFile.empty() && !arguments[at].starts_with("--")) {
+      options.ScriptFile = arguments[at];
     } else if (!TakeOption<Options>(options, ValueOptions, arguments, at, error)) {
       return std::nullopt;
     }

@@ -1,6 +1,6 @@
 #include "terminal/ScriptMode.h"
 
-#include <ostream>
+#include <iostream>
 #include <string>
 
 #include "posix/LineReader.h"
@@ -13,10 +13,14 @@ int RunScript(const Options& options, int descriptor, std::ostream& out) {
   ScriptSession session(options);
   int number = 0;
   for (std::string line; out && lines.Next(line);) {
-    ++number;
+    if (++number == 1 && line.starts_with("\xEF\xBB\xBF")) line.erase(0, 3);
     if (line.ends_with('\r')) line.pop_back();
     if (line.find_first_not_of(" \t") == std::string::npos || line.starts_with('#')) continue;
     out << session.Run(number, line) << '\n' << std::flush;
+  }
+  if (!out) {
+    std::cerr << "qvescalc-cli: the output cannot be written; the run ends at line " << number << "\n";
+    return 2;
   }
   if (lines.EndingSignal() != 0) return 128 + lines.EndingSignal();
   return session.HadErrors() ? 1 : 0;

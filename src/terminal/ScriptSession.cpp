@@ -67,6 +67,7 @@ ScriptSession::ScriptSession(const Options& options)
               Files,  Directories, RegistryStore, TheClock,       Events},
       Services_(Outside),
       App(Services_.All, *this) {
+  Files.RefuseRelativePaths();  // the messages are those of the program's own folder
   App.Main({options.View});
   // The lines report what they do themselves; the start is over.
   Spoken.clear();
@@ -158,18 +159,20 @@ std::string ScriptSession::Heard(std::string_view argument) {
   return count && *count >= 0 ? "" : "heard wants a number of bookmarks, or nothing";
 }
 
-std::string ScriptSession::State(std::string_view) {
+std::string ScriptSession::State(std::string_view argument) {
+  if (!argument.empty()) return "state stands alone";
   WantsState = true;
   return "";
 }
 
-std::string ScriptSession::Quit(std::string_view) {
+std::string ScriptSession::Quit(std::string_view argument) {
+  if (!argument.empty()) return "quit stands alone";
   App.Leave();
   return "";
 }
 
 void ScriptSession::TextAppended(Form&, TextBox& box, std::size_t from) {
-  TapeAdded.append(box.Text, from);
+  if (box.Has(MultiLine)) TapeAdded.append(box.Text, from);
 }
 
 void ScriptSession::Report(int lineNumber, std::string_view line, const std::string& error) {

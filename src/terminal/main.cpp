@@ -54,5 +54,5 @@ int main(int argc, char** argv) {
     return Script(*options);
   else
     qves::PlayDemo(*options, std::cout);
-  return 0;
+  return std::cout.flush() ? 0 : BadUsage;
 }

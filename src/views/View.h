@@ -38,6 +38,7 @@ class View : public Form, private EngineHost {
  private:
   // EngineHost
   void ShowDisplay(std::string_view text) override { SetText(*Display, text); }
+  void ExtendDisplay(std::string_view text) override { AppendText(*Display, text); }
   void ShowMemory(std::string_view indicator) override;
   void AppendTape(std::string_view line) override;
   void ClearTape() override;

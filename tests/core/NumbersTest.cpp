@@ -66,5 +66,16 @@ TEST(Numbers, TooLargeIsAFault) {
     EXPECT_THROW(ParseNumber(text), ArithmeticFault) << text;
 }
 
+TEST(Numbers, WhenOneMoreDigitNoLongerCounts) {
+  const std::string half = "0.5" + std::string(1300, '0');
+  EXPECT_FALSE(IsBeyondADouble(half + "7")) << "the first digit behind an exact half may round it up";
+  EXPECT_TRUE(IsBeyondADouble(half + "0"));
+  EXPECT_TRUE(IsBeyondADouble(half + "77"));
+  EXPECT_TRUE(IsBeyondADouble("-0." + std::string(1300, '7')));
+  EXPECT_FALSE(IsBeyondADouble("0." + std::string(500, '7')));
+  EXPECT_FALSE(IsBeyondADouble(std::string(1400, '7'))) << "an overflow has to be seen";
+  EXPECT_FALSE(IsBeyondADouble("-1E+2." + std::string(1400, '7'))) << "and so has a text that is no number";
+}
+
 }  // namespace
 }  // namespace qves

@@ -93,7 +93,10 @@ TEST(KeyTranslation, FrenchLayoutKeepsThePositionsOfTheDigits) {
       {"a (US q)", {24, 'a', Qt::Key_A, Plain, "a"}, {'A', NoShift, 'a'}},
       {"comma on the US m is no M", {58, ',', Qt::Key_Comma, Plain, ","}, {KeyComma, NoShift, ','}},
       {"dead circumflex", {34, 0xfe52, Qt::Key_Dead_Circumflex, Plain, ""}, {KeyLeftBracket, NoShift, 0}},
-      {"AltGr+à types @", {19, '@', Qt::Key_At, Plain, "@"}, {'0', NoShift, '@'}},
+      {"AltGr+à types @ and no digit", {19, '@', Qt::Key_At, AltGr, "@"}, {'0', ControlBit | AltBit, '@'}},
+      {": (US point)", {60, ':', Qt::Key_Colon, Plain, ":"}, {KeySlash, NoShift, ':'}},
+      {"/ (Shift and the US point)", {60, '/', Qt::Key_Slash, Shift, "/"}, {KeySlash, ShiftBit, '/'}},
+      {". (Shift and the US comma)", {59, '.', Qt::Key_Period, Shift, "."}, {KeyComma, ShiftBit, '.'}},
   });
 }
 
@@ -107,7 +110,8 @@ TEST(KeyTranslation, GermanLayout) {
       {"AltGr+Q types @ and is no digit", {24, '@', Qt::Key_At, Plain, "@"}, {'Q', NoShift, '@'}},
       {"AltGr told as a group, with Ctrl and Alt",
        {24, '@', Qt::Key_At, AltGr | Ctrl | Alt, "@"},
-       {'Q', NoShift, '@'}},
+       {'Q', ControlBit | AltBit, '@'}},
+      {"Shift+. stays the point's key", {60, ':', Qt::Key_Colon, Shift, ":"}, {KeyPeriod, ShiftBit, ':'}},
       {"<", {94, '<', Qt::Key_Less, Plain, "<"}, {226, NoShift, '<'}},
   });
 }

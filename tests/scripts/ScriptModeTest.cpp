@@ -119,6 +119,43 @@ TEST_F(ScriptMode, AViewThatIsNoneShowsNothing) {
   EXPECT_EQ(Run("key 7\n", "--view standard").Lines[0]["form"], "frmStandard");
 }
 
+TEST_F(ScriptMode, AMegabyteOfDigitsBehindThePoint) {
+  const std::string digits(1 << 20, '7');
+  const Outcome outcome = Run("keys 0." + digits + "\nkey =\nkey r\n");
+  EXPECT_EQ(outcome.Lines[0]["display"], "0." + digits);
+  EXPECT_EQ(outcome.Lines[1]["display"], "0." + digits);
+  EXPECT_EQ(outcome.Lines[2]["display"], "1.28571428571429");
+}
+
+TEST_F(ScriptMode, OutputThatCannotBeWrittenIsSaid) {
+  const std::string command = std::string("echo key 7 | ") + CLI + " --script --home '" + HomeFolder() +
+                              "' > /dev/full 2> " + (Home.Path / "err.txt").string();
+  EXPECT_EQ(WEXITSTATUS(std::system(command.c_str())), 2);
+  EXPECT_NE(ReadAll(Home.Path / "err.txt").find("output"), std::string::npos);
+}
+
+TEST_F(ScriptMode, WithoutTheHostsMessagesThePlacesAreTheSame) {
+  const auto program = Home.Path / "program";
+  std::filesystem::create_directories(program);
+  std::filesystem::copy(CLI, program / "cli");
+  std::ofstream(program / "CalcMsg.txt") << "1202\tError\n";
+  WriteSettings("Quorvane 1000.ost", "\"Settings\"\n\"SystemSpeed\",\"fast\"\n");
+  const std::string command = "printf 'keys 1+.5\\nkey =\\nquit\\n' | " + (program / "cli").string() +
+                              " --script --home '" + HomeFolder() + "' > " + (Home.Path / "out.txt").string();
+  EXPECT_EQ(std::system(command.c_str()), 0);
+  EXPECT_NE(ReadAll(Home.Path / "out.txt").find("\"display\":\"1.5\""), std::string::npos);
+  EXPECT_NE(ErrorLog().find("SystemSpeed"), std::string::npos);
+  EXPECT_TRUE(std::filesystem::exists(OwnSettings()));
+}
+
+TEST_F(ScriptMode, APipeInPlaceOfASettingsFileIsNotWaitedFor) {
+  WriteSettings("Calc.ost", "");
+  std::filesystem::remove(OwnSettings());
+  ASSERT_EQ(::mkfifo(OwnSettings().c_str(), 0600), 0);
+  EXPECT_EQ(Run("key 7\n").Lines.at(0)["display"], "7");
+  EXPECT_NE(ErrorLog().find("it is no plain file"), std::string::npos);
+}
+
 TEST_F(ScriptMode, WrongOptionsAreRefused) {
   for (const char* options :
        {"--view other", "--today 2026-02-30", "--seed x", "--speech loud", "--nonsense", "--view"})
@@ -142,6 +179,13 @@ TEST_F(ScriptMode, AFolderThatCannotBeWrittenIsSaidAndTheRunEnds) {
   std::ofstream(Home.Path / "home/.config/QVES") << "a file where a folder should be";
   EXPECT_EQ(Run("keys 7+5\nkey =\nquit\n").Status, 0);
   EXPECT_NE(ErrorLog().find("Calc.ost: cannot be written"), std::string::npos);
+}
+
+TEST_F(ScriptMode, ASignalEndsABusyRunInOrder) {
+  const std::string command = std::string("yes 'key 7' 2> /dev/null | timeout --preserve-status -k 5 0.5 ") +
+                              CLI + " --script --home '" + HomeFolder() + "' > /dev/null";
+  EXPECT_EQ(WEXITSTATUS(std::system(command.c_str())), 128 + SIGTERM);
+  EXPECT_TRUE(std::filesystem::exists(OwnSettings()));
 }
 
 TEST_F(ScriptMode, ASignalEndsItInOrder) {
