@@ -169,6 +169,41 @@ class SessionTest(unittest.TestCase):
                 keys("Return")
                 calculator.expect_display("12")
 
+    def held(self, modifier, key):
+        """The key by its code while the modifier is down."""
+        xdotool("keydown", modifier, "key", key, "keyup", modifier)
+
+    def test_keys_that_stand_elsewhere(self):
+        calculator = self.started()
+        subprocess.run(["setxkbmap", "fr"], check=True)
+        keys("17")
+        self.held("Shift_L", "60")
+        keys("11", "Return")
+        calculator.expect_display("4")  # 8 / 2
+        keys("Escape", "17", "60", "11")
+        calculator.expect_display("82")  # the colon is no point
+        subprocess.run(["setxkbmap", "de"], check=True)
+        keys("Escape", "8")
+        self.held("ISO_Level3_Shift", "16")
+        keys("9")
+        calculator.expect_display("89")  # AltGr and 7 type no 7
+
+    def test_quick_keys_around_a_menu(self):
+        calculator = self.started()
+        for opening in (["alt+v", "Escape", "Escape"], ["Alt_L", "Escape"], ["F10", "Escape", "Escape"]):
+            with self.subTest(opening=opening):
+                keys("Escape")
+                calculator.expect_display("0")
+                xdotool("key", "--delay", "0", "7", *opening, "5")
+                calculator.expect_display("75")
+
+    def test_nobody_writes_into_the_display(self):
+        calculator = self.started()
+        keys("7")
+        calculator.expect_display("7")
+        calculator.nodes(pyatspi.ROLE_TEXT)[0].queryEditableText().setTextContents("999")
+        calculator.expect_display("7")
+
     def test_keypad_and_dead_keys(self):
         subprocess.run(["setxkbmap", "us", "intl"], check=True)
         calculator = self.started()
