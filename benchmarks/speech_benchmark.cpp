@@ -158,25 +158,25 @@ class SoundServer {
  public:
   SoundServer() {
     char pattern[] = "/tmp/speech_benchmarkXXXXXX";
-    folder = mkdtemp(pattern);
-    setenv("XDG_RUNTIME_DIR", folder.c_str(), 1);
-    setenv("PULSE_SERVER", ("unix:" + folder + "/pulse/native").c_str(), 1);
+    Folder = mkdtemp(pattern);
+    setenv("XDG_RUNTIME_DIR", Folder.c_str(), 1);
+    setenv("PULSE_SERVER", ("unix:" + Folder + "/pulse/native").c_str(), 1);
     Ready = system(
                 "pulseaudio -n --daemonize=yes --log-target=null -L module-native-protocol-unix"
                 " -L 'module-null-sink rate=48000 norewinds=1'") == 0;
   }
   ~SoundServer() {
     int pid = 0;
-    std::ifstream(folder + "/pulse/pid") >> pid;
+    std::ifstream(Folder + "/pulse/pid") >> pid;
     if (pid > 1) kill(pid, SIGTERM);
-    static_cast<void>(system(("rm -rf " + folder).c_str()));
+    static_cast<void>(system(("rm -rf " + Folder).c_str()));
   }
   SoundServer(const SoundServer&) = delete;
   SoundServer& operator=(const SoundServer&) = delete;
   bool Ready = false;
 
  private:
-  std::string folder;
+  std::string Folder;
 };
 
 }  // namespace

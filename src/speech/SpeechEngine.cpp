@@ -7,46 +7,46 @@
 
 namespace qves {
 
-SpeechSpeaker::SpeechSpeaker(SpeechEngine& owner, std::shared_ptr<SpeechReporter> reporter)
-    : engine(owner), state(std::make_shared<SpeakerState>(std::move(reporter), *this)) {}
+SpeechSpeaker::SpeechSpeaker(SpeechEngine& engine, std::shared_ptr<SpeechReporter> reporter)
+    : Engine(engine), State(std::make_shared<SpeakerState>(std::move(reporter), *this)) {}
 
 SpeechSpeaker::~SpeechSpeaker() {
-  state->Retire();
-  engine.route->Interrupt();
+  State->Retire();
+  Engine.Route->Interrupt();
 }
 
 void SpeechSpeaker::SpeakNow(std::string_view text, std::span<const BookMark> marks) {
   if (text.empty()) return Stop();
-  state->Interrupt();
-  engine.Speak(text, marks, SpeechTicket(state));
-  engine.route->Interrupt();
+  State->Interrupt();
+  Engine.Speak(text, marks, SpeechTicket(State));
+  Engine.Route->Interrupt();
 }
 
 void SpeechSpeaker::SpeakQueued(std::string_view text, std::span<const BookMark> marks) {
-  if (!text.empty()) engine.Speak(text, marks, SpeechTicket(state));
+  if (!text.empty()) Engine.Speak(text, marks, SpeechTicket(State));
 }
 
 void SpeechSpeaker::Stop() {
-  state->Interrupt();
-  engine.route->Interrupt();
+  State->Interrupt();
+  Engine.Route->Interrupt();
 }
 
-SpeechEngine::SpeechEngine(std::shared_ptr<const Voice> voiceToUse, std::shared_ptr<SpeechRoute> routeToUse,
+SpeechEngine::SpeechEngine(std::shared_ptr<const Voice> voice, std::shared_ptr<SpeechRoute> route,
                            const std::shared_ptr<SpeechReporter>& reporter)
-    : voice(std::move(voiceToUse)),
-      route(std::move(routeToUse)),
-      speakers{SpeechSpeaker(*this, reporter), SpeechSpeaker(*this, reporter)} {}
+    : Speaking(std::move(voice)),
+      Route(std::move(route)),
+      Speakers{SpeechSpeaker(*this, reporter), SpeechSpeaker(*this, reporter)} {}
 
 void SpeechEngine::SetSpeed(int wordsPerMinute) {
-  settings.WordsPerMinute = wordsPerMinute;
+  Settings.WordsPerMinute = wordsPerMinute;
 }
 
 void SpeechEngine::SetVolume(std::int32_t volume) {
-  settings.Volume = volume;
+  Settings.Volume = volume;
 }
 
 void SpeechEngine::SetPitch(int pitch) {
-  settings.Pitch = Fraction(pitch, MinimumPitch(), MaximumPitch());
+  Settings.Pitch = Fraction(pitch, MinimumPitch(), MaximumPitch());
 }
 
 int SpeechEngine::MinimumPitch() const {
@@ -58,15 +58,15 @@ int SpeechEngine::MaximumPitch() const {
 }
 
 TtsSpeaker* SpeechEngine::Speaker(int number) {
-  return number == 1 || number == 2 ? &speakers[std::size_t(number) - 1] : nullptr;
+  return number == 1 || number == 2 ? &Speakers[std::size_t(number) - 1] : nullptr;
 }
 
 bool SpeechEngine::Busy() const {
-  return speakers[0].Busy() || speakers[1].Busy();
+  return Speakers[0].Busy() || Speakers[1].Busy();
 }
 
 void SpeechEngine::Speak(std::string_view text, std::span<const BookMark> marks, SpeechTicket ticket) {
-  route->Speak({CleanText(text), OrderedMarks(marks, text.size()), voice, settings, std::move(ticket)});
+  Route->Speak({CleanText(text), OrderedMarks(marks, text.size()), Speaking, Settings, std::move(ticket)});
 }
 
 }  // namespace qves

@@ -21,11 +21,11 @@ class SpeechSpeaker : public TtsSpeaker {
   void SpeakNow(std::string_view text, std::span<const BookMark> marks) override;
   void SpeakQueued(std::string_view text, std::span<const BookMark> marks) override;
   void Stop() override;
-  bool Busy() const override { return state->Busy(); }
+  bool Busy() const override { return State->Busy(); }
 
  private:
-  SpeechEngine& engine;
-  std::shared_ptr<SpeakerState> state;
+  SpeechEngine& Engine;
+  std::shared_ptr<SpeakerState> State;
 };
 
 /// The two speakers share the voice: their texts are spoken one after another.
@@ -45,12 +45,12 @@ class SpeechEngine : public TtsEngine {
  private:
   friend class SpeechSpeaker;
   void Speak(std::string_view text, std::span<const BookMark> marks, SpeechTicket ticket);
-  const SpeechDriver& Driver() const { return *route->Driver(voice->BackEnd); }
+  const SpeechDriver& Driver() const { return *Route->Driver(Speaking->BackEnd); }
 
-  std::shared_ptr<const Voice> voice;
-  std::shared_ptr<SpeechRoute> route;
-  VoiceSettings settings;
-  std::array<SpeechSpeaker, 2> speakers;
+  std::shared_ptr<const Voice> Speaking;
+  std::shared_ptr<SpeechRoute> Route;
+  VoiceSettings Settings;
+  std::array<SpeechSpeaker, 2> Speakers;
 };
 
 }  // namespace qves

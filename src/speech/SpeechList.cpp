@@ -8,20 +8,20 @@
 namespace qves {
 
 void SpeechRoute::Add(std::shared_ptr<SpeechDriver> driver) {
-  drivers.push_back(std::move(driver));
+  Drivers.push_back(std::move(driver));
 }
 
 void SpeechRoute::Speak(Utterance text) {
-  const std::lock_guard lock(mutex);
+  const std::lock_guard lock(Mutex);
   Lead(std::move(text));
 }
 
 void SpeechRoute::Interrupt() {
-  for (const auto& driver : drivers) driver->Interrupt();
+  for (const auto& driver : Drivers) driver->Interrupt();
 }
 
 void SpeechRoute::TakeBack(int number, std::vector<Utterance> texts) {
-  const std::lock_guard lock(mutex);
+  const std::lock_guard lock(Mutex);
   Driver(number)->PutDown();
   for (Utterance& text : texts) {
     if (!text.Ticket.Outdated()) Lead(std::move(text));
@@ -30,43 +30,43 @@ void SpeechRoute::TakeBack(int number, std::vector<Utterance> texts) {
 
 void SpeechRoute::Lead(Utterance text) {
   const std::size_t own = std::size_t(text.Speaking->BackEnd);
-  for (std::size_t i = 0; i < drivers.size(); ++i) {
-    SpeechDriver& driver = *drivers[(own + i) % drivers.size()];
+  for (std::size_t i = 0; i < Drivers.size(); ++i) {
+    SpeechDriver& driver = *Drivers[(own + i) % Drivers.size()];
     if (driver.Usable()) return driver.Speak(std::move(text));
   }
 }
 
 SpeechList::SpeechList(EventPump& pump)
-    : reporter(std::make_shared<SpeechReporter>(pump)), route(std::make_shared<SpeechRoute>()) {}
+    : Reporter(std::make_shared<SpeechReporter>(pump)), Route(std::make_shared<SpeechRoute>()) {}
 
 SpeechList::~SpeechList() {
-  reporter->Close();
+  Reporter->Close();
 }
 
 void SpeechList::Add(const DriverMaker& maker, bool listed) {
-  const int number = route->DriverCount();
+  const int number = Route->DriverCount();
   DriverLinks links;
   links.Number = number;
-  links.VoicesChanged = [reporter = reporter] {
+  links.VoicesChanged = [reporter = Reporter] {
     reporter->Post([](TtsListener& listener) { listener.EngineListChanged(); });
   };
-  links.HandBack = [weak = std::weak_ptr(route), number](std::vector<Utterance> texts) {
+  links.HandBack = [weak = std::weak_ptr(Route), number](std::vector<Utterance> texts) {
     if (const auto lasting = weak.lock()) lasting->TakeBack(number, std::move(texts));
   };
-  route->Add(maker(std::move(links)));
+  Route->Add(maker(std::move(links)));
   if (!listed) return;
-  listedDrivers.push_back(number);
-  route->Driver(number)->Prepare();
+  ListedDrivers.push_back(number);
+  Route->Driver(number)->Prepare();
 }
 
 int SpeechList::Count() const {
   std::vector<Voice> all;
-  for (const int number : listedDrivers) {
-    std::vector<Voice> some = route->Driver(number)->Voices();
+  for (const int number : ListedDrivers) {
+    std::vector<Voice> some = Route->Driver(number)->Voices();
     std::move(some.begin(), some.end(), std::back_inserter(all));
   }
-  voices = std::move(all);
-  return int(voices.size());
+  Voices = std::move(all);
+  return int(Voices.size());
 }
 
 TtsEngineInfo SpeechList::Item(int index) const {
@@ -77,17 +77,17 @@ TtsEngineInfo SpeechList::Item(int index) const {
 std::unique_ptr<TtsEngine> SpeechList::Open(int index) {
   const Voice* voice = VoiceAt(index);
   if (!voice) return nullptr;
-  return std::make_unique<SpeechEngine>(std::make_shared<const Voice>(*voice), route, reporter);
+  return std::make_unique<SpeechEngine>(std::make_shared<const Voice>(*voice), Route, Reporter);
 }
 
 void SpeechList::SetListener(TtsListener* listener) {
-  reporter->SetListener(listener);
+  Reporter->SetListener(listener);
 }
 
 const Voice* SpeechList::VoiceAt(int index) const {
-  if (voices.empty()) Count();
-  if (index < 1 || std::size_t(index) > voices.size()) return nullptr;
-  return &voices[std::size_t(index) - 1];
+  if (Voices.empty()) Count();
+  if (index < 1 || std::size_t(index) > Voices.size()) return nullptr;
+  return &Voices[std::size_t(index) - 1];
 }
 
 }  // namespace qves

@@ -16,8 +16,8 @@ namespace qves {
 class SpeechRoute {
  public:
   void Add(std::shared_ptr<SpeechDriver> driver);
-  const std::shared_ptr<SpeechDriver>& Driver(int number) const { return drivers[std::size_t(number)]; }
-  int DriverCount() const { return int(drivers.size()); }
+  const std::shared_ptr<SpeechDriver>& Driver(int number) const { return Drivers[std::size_t(number)]; }
+  int DriverCount() const { return int(Drivers.size()); }
   void Speak(Utterance text);
   void Interrupt();
   /// A back end cannot speak these texts.
@@ -26,8 +26,8 @@ class SpeechRoute {
  private:
   void Lead(Utterance text);
 
-  std::mutex mutex;  // keeps the order of texts that come from two threads
-  std::vector<std::shared_ptr<SpeechDriver>> drivers;
+  std::mutex Mutex;  // keeps the order of texts that come from two threads
+  std::vector<std::shared_ptr<SpeechDriver>> Drivers;
 };
 
 class SpeechList : public TTS {
@@ -48,10 +48,10 @@ class SpeechList : public TTS {
  private:
   const Voice* VoiceAt(int index) const;
 
-  std::shared_ptr<SpeechReporter> reporter;
-  std::shared_ptr<SpeechRoute> route;
-  std::vector<int> listedDrivers;
-  mutable std::vector<Voice> voices;  // as they were counted last
+  std::shared_ptr<SpeechReporter> Reporter;
+  std::shared_ptr<SpeechRoute> Route;
+  std::vector<int> ListedDrivers;
+  mutable std::vector<Voice> Voices;  // as they were counted last
 };
 
 }  // namespace qves

@@ -27,9 +27,9 @@ class SpeechReporter {
     TtsListener* Listener;  // read and written on the calculator's thread only
   };
 
-  std::mutex mutex;  // of what follows
-  EventPump* pump;
-  std::shared_ptr<Ear> ear;
+  std::mutex Mutex;  // of what follows
+  EventPump* Pump;
+  std::shared_ptr<Ear> CurrentEar;
 };
 
 }  // namespace qves

@@ -22,24 +22,24 @@ std::vector<Utterance> TakeOutdated(std::deque<Utterance>& queue) {
 
 void Signal::Notify() {
   {
-    const std::lock_guard lock(mutex);
-    ++count;
+    const std::lock_guard lock(Mutex);
+    ++Happened;
   }
-  changed.notify_all();
+  Changed.notify_all();
 }
 
 std::uint64_t Signal::Count() const {
-  const std::lock_guard lock(mutex);
-  return count;
+  const std::lock_guard lock(Mutex);
+  return Happened;
 }
 
 void Signal::Wait(std::uint64_t seen, SteadyClock::time_point deadline) {
-  std::unique_lock lock(mutex);
-  const auto happened = [&] { return count != seen; };
+  std::unique_lock lock(Mutex);
+  const auto happened = [&] { return Happened != seen; };
   if (deadline == SteadyClock::time_point::max())
-    changed.wait(lock, happened);
+    Changed.wait(lock, happened);
   else
-    changed.wait_until(lock, deadline, happened);
+    Changed.wait_until(lock, deadline, happened);
 }
 
 struct SpeechWorker::State {
@@ -75,43 +75,43 @@ struct SpeechWorker::State {
 };
 
 SpeechWorker::SpeechWorker(std::unique_ptr<SpeechPlayer> player, HandBack handBack)
-    : state(std::make_shared<State>()) {
-  state->Player = std::move(player);
-  state->Back = std::move(handBack);
-  thread = std::thread([state = state] { Run(*state); });
+    : Shared(std::make_shared<State>()) {
+  Shared->Player = std::move(player);
+  Shared->Back = std::move(handBack);
+  Thread = std::thread([state = Shared] { Run(*state); });
 }
 
 SpeechWorker::~SpeechWorker() {
-  state->Quit = true;
-  state->Wake.Notify();
+  Shared->Quit = true;
+  Shared->Wake.Notify();
   bool finished = false;
-  if (std::this_thread::get_id() != thread.get_id()) {
-    std::unique_lock lock(state->Mutex);
-    finished = state->FinishedChanged.wait_for(lock, LongestFarewell, [&] { return state->Finished; });
+  if (std::this_thread::get_id() != Thread.get_id()) {
+    std::unique_lock lock(Shared->Mutex);
+    finished = Shared->FinishedChanged.wait_for(lock, LongestFarewell, [&] { return Shared->Finished; });
   }
   if (finished)
-    thread.join();
+    Thread.join();
   else
-    thread.detach();
+    Thread.detach();
 }
 
 void SpeechWorker::Speak(Utterance text) {
   std::vector<Utterance> outdated;
   {
-    const std::lock_guard lock(state->Mutex);
-    outdated = TakeOutdated(state->Queue);
-    state->Queue.push_back(std::move(text));
+    const std::lock_guard lock(Shared->Mutex);
+    outdated = TakeOutdated(Shared->Queue);
+    Shared->Queue.push_back(std::move(text));
   }
-  state->Wake.Notify();
+  Shared->Wake.Notify();
 }
 
 void SpeechWorker::Interrupt() {
   std::vector<Utterance> outdated;
   {
-    const std::lock_guard lock(state->Mutex);
-    outdated = TakeOutdated(state->Queue);
+    const std::lock_guard lock(Shared->Mutex);
+    outdated = TakeOutdated(Shared->Queue);
   }
-  state->Wake.Notify();
+  Shared->Wake.Notify();
 }
 
 void SpeechWorker::Run(State& state) {

@@ -29,23 +29,23 @@ class Signal {
   }
 
  private:
-  mutable std::mutex mutex;
-  std::condition_variable changed;
-  std::uint64_t count = 0;
+  mutable std::mutex Mutex;
+  std::condition_variable Changed;
+  std::uint64_t Happened = 0;
 };
 
 /// What a player looks at while it plays a text.
 class PlayControl {
  public:
-  PlayControl(Signal& signal, const SpeechTicket& ofText, const std::atomic<bool>& quitting)
-      : Wake(signal), ticket(ofText), quit(quitting) {}
+  PlayControl(Signal& wake, const SpeechTicket& ticket, const std::atomic<bool>& quit)
+      : Wake(wake), Ticket(ticket), Quit(quit) {}
   /// True when the text is to be silenced.
-  bool Interrupted() const { return quit || ticket.Outdated(); }
+  bool Interrupted() const { return Quit || Ticket.Outdated(); }
   Signal& Wake;  ///< notified whenever Interrupted() may have changed
 
  private:
-  const SpeechTicket& ticket;
-  const std::atomic<bool>& quit;
+  const SpeechTicket& Ticket;
+  const std::atomic<bool>& Quit;
 };
 
 /// How a back end plays. Everything is called on the worker's thread, the destructor included.
@@ -74,8 +74,8 @@ class SpeechWorker {
   struct State;
   static void Run(State& state);
 
-  std::shared_ptr<State> state;
-  std::thread thread;
+  std::shared_ptr<State> Shared;
+  std::thread Thread;
 };
 
 }  // namespace qves

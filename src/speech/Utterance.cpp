@@ -2,41 +2,42 @@
 
 namespace qves {
 
-SpeakerState::SpeakerState(std::shared_ptr<SpeechReporter> reporterToUse, TtsSpeaker& owner)
-    : reporter(std::move(reporterToUse)), speaker(&owner) {}
+SpeakerState::SpeakerState(std::shared_ptr<SpeechReporter> reporter, TtsSpeaker& speaker)
+    : Reporter(std::move(reporter)), Speaker(&speaker) {}
 
 void SpeakerState::Retire() {
   Interrupt();
-  speaker = nullptr;
+  Speaker = nullptr;
 }
 
 void SpeakerState::RemoveText() {
-  if (--texts > 0) return;
+  if (--Texts > 0) return;
   // A speaker that has been given another text by the time of delivery has not stopped: that text will report
   // it.
-  reporter->Post([self = shared_from_this()](TtsListener& listener) {
-    if (self->speaker && !self->Busy()) listener.SpeechStopped(*self->speaker);
+  Reporter->Post([self = shared_from_this()](TtsListener& listener) {
+    if (self->Speaker && !self->Busy()) listener.SpeechStopped(*self->Speaker);
   });
 }
 
 void SpeakerState::ReachMark(std::uint64_t ofGeneration, std::int32_t number) {
-  reporter->Post([self = shared_from_this(), ofGeneration, number](TtsListener& listener) {
-    if (self->speaker && self->generation == ofGeneration) listener.BookMarkReached(number, *self->speaker);
+  Reporter->Post([self = shared_from_this(), ofGeneration, number](TtsListener& listener) {
+    if (self->Speaker && self->CurrentGeneration == ofGeneration)
+      listener.BookMarkReached(number, *self->Speaker);
   });
 }
 
-SpeechTicket::SpeechTicket(std::shared_ptr<SpeakerState> speakerState)
-    : state(std::move(speakerState)), generation(state->Generation()) {
-  state->AddText();
+SpeechTicket::SpeechTicket(std::shared_ptr<SpeakerState> state)
+    : State(std::move(state)), Generation(State->Generation()) {
+  State->AddText();
 }
 
 SpeechTicket::~SpeechTicket() {
-  if (state) state->RemoveText();
+  if (State) State->RemoveText();
 }
 
 SpeechTicket& SpeechTicket::operator=(SpeechTicket&& other) noexcept {
-  std::swap(state, other.state);
-  std::swap(generation, other.generation);
+  std::swap(State, other.State);
+  std::swap(Generation, other.Generation);
   return *this;
 }
 

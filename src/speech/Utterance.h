@@ -20,20 +20,20 @@ class SpeakerState : public std::enable_shared_from_this<SpeakerState> {
   /// The speaker is destroyed: nothing of it is reported any more. On the calculator's thread.
   void Retire();
   /// All texts of before are outdated.
-  void Interrupt() { ++generation; }
-  std::uint64_t Generation() const { return generation; }
-  bool Busy() const { return texts > 0; }
-  void AddText() { ++texts; }
+  void Interrupt() { ++CurrentGeneration; }
+  std::uint64_t Generation() const { return CurrentGeneration; }
+  bool Busy() const { return Texts > 0; }
+  void AddText() { ++Texts; }
   /// A text has been spoken or dropped. With the last one the speaker has stopped.
   void RemoveText();
   /// A mark of a text of the given generation is heard.
   void ReachMark(std::uint64_t ofGeneration, std::int32_t number);
 
  private:
-  std::shared_ptr<SpeechReporter> reporter;
-  TtsSpeaker* speaker;  // used on the calculator's thread only
-  std::atomic<std::uint64_t> generation = 0;
-  std::atomic<int> texts = 0;
+  std::shared_ptr<SpeechReporter> Reporter;
+  TtsSpeaker* Speaker;  // used on the calculator's thread only
+  std::atomic<std::uint64_t> CurrentGeneration = 0;
+  std::atomic<int> Texts = 0;
 };
 
 /// A text's place among its speaker's: counts it as long as it lives.
@@ -46,12 +46,12 @@ class SpeechTicket {
   SpeechTicket(const SpeechTicket&) = delete;
   SpeechTicket& operator=(const SpeechTicket&) = delete;
   /// Its speaker has been silenced since.
-  bool Outdated() const { return state->Generation() != generation; }
-  void ReachMark(std::int32_t number) const { state->ReachMark(generation, number); }
+  bool Outdated() const { return State->Generation() != Generation; }
+  void ReachMark(std::int32_t number) const { State->ReachMark(Generation, number); }
 
  private:
-  std::shared_ptr<SpeakerState> state;
-  std::uint64_t generation;
+  std::shared_ptr<SpeakerState> State;
+  std::uint64_t Generation;
 };
 
 struct Voice {

@@ -3,9 +3,12 @@
 #include <signal.h>
 
 #include <algorithm>
+#include <filesystem>
+#include <fstream>
 
 #include "SpeechRig.h"
 #include "speech/SpeechBackEnds.h"
+#include "speech/espeak/SoundDevice.h"
 
 namespace qves {
 namespace {
@@ -13,7 +16,6 @@ namespace {
 using namespace std::chrono_literals;
 
 constexpr int Loud = 500;
-constexpr auto Prompt = 250ms;  // for calls that return at once, on a machine that may be busy
 
 const std::string LongText = [] {
   std::string text;
@@ -54,8 +56,17 @@ TEST_F(EspeakTest, ListsItsVoices) {
   EXPECT_EQ(List->Item(german).LanguageId, 7);
 }
 
-TEST_F(EspeakTest, WithoutADeviceNothingBlocksAndBusyEnds) {
-  ASSERT_NO_FATAL_FAILURE(Open());
+// On a machine with no sound server and no sound device.
+class EspeakUnheardTest : public EspeakTest {
+ protected:
+  void SetUp() override {
+    if (HasSoundDevice(OwnSoundPlaces())) GTEST_SKIP() << "there is a sound device";
+    Open();
+  }
+};
+
+TEST_F(EspeakUnheardTest, NothingBlocksBusyEndsAndNobodyComplains) {
+  testing::internal::CaptureStderr();
   Engine->SetSpeed(170);
   for (const std::string& text : {std::string("7"), std::string("\xff\xfe"), LongText}) {
     EXPECT_LT(TimeOf([&] { Speaker->SpeakNow(text); }), Prompt);
@@ -65,6 +76,22 @@ TEST_F(EspeakTest, WithoutADeviceNothingBlocksAndBusyEnds) {
   EXPECT_TRUE(Idle(5s));
   Pump.ProcessEvents(0);
   EXPECT_FALSE(Listener->Reports.empty());
+  EXPECT_EQ(testing::internal::GetCapturedStderr(), "") << "of a device that cannot be opened";
+}
+
+TEST_F(EspeakUnheardTest, ADeviceThatComesIsHeardWithTheNextText) {
+  Speaker->SpeakNow("before");
+  EXPECT_TRUE(Idle(5s));
+  const std::string played = Desktop.Folder() + "/played";
+  std::ofstream(Desktop.Folder() + "/.asoundrc")
+      << "pcm.!default { type file file \"" << played << "\" format raw slave.pcm null }\n";
+  const BookMark marks[] = {{6, 1}};
+  Speaker->SpeakNow("after that", marks);
+  EXPECT_TRUE(Idle(5s));
+  EXPECT_TRUE(ReachedWithin(Pump, 1s, [&] { return Listener->Reports.size() == 2; }));
+  EXPECT_EQ(Listener->Reports, (std::vector<std::string>{"mark 1 of 2", "stopped 2"}));
+  ASSERT_TRUE(std::filesystem::exists(played));
+  EXPECT_GT(std::filesystem::file_size(played), 10'000U);
 }
 
 TEST_F(EspeakTest, MayBeDestroyedAtAnyMoment) {

@@ -10,7 +10,7 @@ namespace {
 
 class FakeDriver : public SpeechDriver {
  public:
-  explicit FakeDriver(DriverLinks driverLinks) : Links(std::move(driverLinks)) {}
+  explicit FakeDriver(DriverLinks links) : Links(std::move(links)) {}
   void Prepare() override {}
   std::vector<Voice> Voices() override {
     return {{{"Maker", "Product", "Voice " + std::to_string(Links.Number), 9}, "key", Links.Number}};

@@ -16,6 +16,12 @@
 
 namespace qves {
 
+/// How much longer anything may take than in a plain build; with sanitizers, more than once as long.
+inline constexpr int Slowness = QVES_SLOWNESS;
+
+/// For calls that return at once, on a machine that may be busy.
+inline constexpr std::chrono::milliseconds Prompt{250 * Slowness};
+
 class TestPump : public EventPump {
  public:
   void Post(std::function<void()> event) override;
@@ -26,13 +32,13 @@ class TestPump : public EventPump {
   std::deque<std::function<void()>> Events;
 };
 
-/// Handles events until `reached` holds; false when that takes longer.
+/// Handles events until `reached` holds; false when that takes longer, by the measure of a plain build.
 bool ReachedWithin(TestPump& pump, std::chrono::milliseconds longest, const std::function<bool()>& reached);
 
 /// Remembers reports as texts: "mark 3 of 2", "stopped 2", "list".
 class TestListener : public TtsListener {
  public:
-  explicit TestListener(TtsEngine* speaking = nullptr) : Engine(speaking) {}
+  explicit TestListener(TtsEngine* engine = nullptr) : Engine(engine) {}
   void BookMarkReached(std::int32_t number, TtsSpeaker& speaker) override;
   void SpeechStopped(TtsSpeaker& speaker) override;
   void EngineListChanged() override { Reports.push_back("list"); }

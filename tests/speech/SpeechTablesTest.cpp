@@ -1,11 +1,16 @@
 // The pure parts: languages, scales, texts and the order of voices.
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <fstream>
+
+#include "SpeechRig.h"
 #include "speech/LanguageIds.h"
 #include "speech/SpeechScales.h"
 #include "speech/SpeechText.h"
 #ifdef QVES_HAVE_ESPEAK
 #include "speech/espeak/EspeakVoices.h"
+#include "speech/espeak/SoundDevice.h"
 #endif
 
 namespace qves {
@@ -132,6 +137,31 @@ TEST(EspeakVoices, UnpackTheirLanguages) {
       "en\0\0");
   ASSERT_EQ(languages.size(), 2U);
   EXPECT_EQ(languages[1], (std::pair<int, std::string>(5, "en")));
+}
+
+TEST(SoundDevice, IsOneThatPlaysOrADefaultOfTheUsersOwn) {
+  struct Row {
+    const char* Device;
+    const char* Settings;
+    bool Heard;
+  };
+  const Row rows[] = {{"controlC0", "", false},
+                      {"pcmC0D0c", "", false},
+                      {"pcmC1D3p", "", true},
+                      {"seq", "# pcm.!default pulse\ndefaults.pcm.card 1\n", false},
+                      {"seq", "\npcm.!default {\n  type null\n}\n", true},
+                      {"seq", "pcm {\n  default server  # over the network\n}", true}};
+  const PrivateDesktop desktop;
+  const std::string folder = desktop.Folder();
+  EXPECT_FALSE(HasSoundDevice({folder + "/missing", {folder + "/missing"}}));
+  for (const Row& row : rows) {
+    std::filesystem::create_directory(folder + "/snd");
+    std::ofstream(folder + "/snd/" + row.Device).put('x');
+    std::ofstream(folder + "/settings") << row.Settings;
+    EXPECT_EQ(HasSoundDevice({folder + "/snd", {folder + "/settings"}}), row.Heard)
+        << row.Device << " " << row.Settings;
+    std::filesystem::remove_all(folder + "/snd");
+  }
 }
 #endif
 

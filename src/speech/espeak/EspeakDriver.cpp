@@ -13,13 +13,13 @@ namespace {
 
 class EspeakDriver : public SpeechDriver {
  public:
-  explicit EspeakDriver(DriverLinks driverLinks) : links(std::move(driverLinks)) {}
+  explicit EspeakDriver(DriverLinks links) : Links(std::move(links)) {}
 
   void Prepare() override { Worker(); }
 
   std::vector<Voice> Voices() override {
     Worker();
-    return voices->Wait();
+    return Box->Wait();
   }
 
   int MinimumPitch() const override { return 0; }
@@ -27,25 +27,25 @@ class EspeakDriver : public SpeechDriver {
   void Speak(Utterance text) override { Worker().Speak(std::move(text)); }
 
   void Interrupt() override {
-    const std::lock_guard lock(mutex);
-    if (worker) worker->Interrupt();
+    const std::lock_guard lock(Mutex);
+    if (OwnWorker) OwnWorker->Interrupt();
   }
 
-  bool Usable() const override { return !voices->Failed(); }
+  bool Usable() const override { return !Box->Failed(); }
   void PutDown() override {}  // without its data the library never speaks, and the voices tell that
 
  private:
   // The thread starts when it is first needed: a back end that only stands in costs nothing.
   SpeechWorker& Worker() {
-    const std::lock_guard lock(mutex);
-    if (!worker) worker.emplace(std::make_unique<EspeakPlayer>(voices, links.Number), links.HandBack);
-    return *worker;
+    const std::lock_guard lock(Mutex);
+    if (!OwnWorker) OwnWorker.emplace(std::make_unique<EspeakPlayer>(Box, Links.Number), Links.HandBack);
+    return *OwnWorker;
   }
 
-  DriverLinks links;
-  std::shared_ptr<EspeakVoiceBox> voices = std::make_shared<EspeakVoiceBox>(links.VoicesChanged);
-  std::mutex mutex;  // of the worker's coming to be
-  std::optional<SpeechWorker> worker;
+  DriverLinks Links;
+  std::shared_ptr<EspeakVoiceBox> Box = std::make_shared<EspeakVoiceBox>(Links.VoicesChanged);
+  std::mutex Mutex;  // of the worker's coming to be
+  std::optional<SpeechWorker> OwnWorker;
 };
 
 }  // namespace

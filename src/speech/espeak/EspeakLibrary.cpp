@@ -39,7 +39,7 @@ std::optional<int> Scaled(const std::optional<T>& value, Scale scale) {
 }  // namespace
 
 bool EspeakLibrary::Use(Mode wanted, t_espeak_callback* callback) {
-  if (mode == wanted) return true;
+  if (CurrentMode == wanted) return true;
   if (!Initialise()) return false;
   if (Library().Output == Mode::Playback) espeak_Cancel();
   if (Library().Output != wanted) {
@@ -48,13 +48,13 @@ bool EspeakLibrary::Use(Mode wanted, t_espeak_callback* callback) {
     Library().Output = wanted;
   }
   espeak_SetSynthCallback(callback);
-  mode = wanted;
+  CurrentMode = wanted;
   return true;
 }
 
 bool EspeakLibrary::Initialise() {
-  if (!turn) turn = std::unique_lock(Library().InUse, LongestTurn);
-  if (!turn) return false;
+  if (!Turn) Turn = std::unique_lock(Library().InUse, LongestTurn);
+  if (!Turn) return false;
   int& rate = Library().Rate;
   if (rate <= 0)
     rate =
@@ -78,7 +78,7 @@ std::vector<EspeakVoice> EspeakLibrary::Voices() const {
 }
 
 void EspeakLibrary::Apply(const std::string& voiceName, const VoiceSettings& settings) {
-  if (!voiceName.empty() && voiceName != currentVoice) ApplyVoice(voiceName);
+  if (!voiceName.empty() && voiceName != CurrentVoice) ApplyVoice(voiceName);
   SetParameter(espeakRATE, Scaled(settings.WordsPerMinute, EspeakRate));
   SetParameter(espeakVOLUME, Scaled(settings.Volume, EspeakVolume));
   SetParameter(espeakPITCH, Scaled(settings.Pitch, [](double pitch) { return FromFraction(pitch, 0, 100); }));
@@ -86,7 +86,7 @@ void EspeakLibrary::Apply(const std::string& voiceName, const VoiceSettings& set
 
 void EspeakLibrary::ApplyVoice(const std::string& name) {
   espeak_SetVoiceByName(name.c_str());
-  currentVoice = name;
+  CurrentVoice = name;
 }
 
 }  // namespace qves

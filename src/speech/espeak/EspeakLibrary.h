@@ -36,9 +36,9 @@ class EspeakLibrary {
   bool Initialise();
   void ApplyVoice(const std::string& name);
 
-  std::unique_lock<std::timed_mutex> turn;
-  Mode mode = Mode::Off;
-  std::string currentVoice;
+  std::unique_lock<std::timed_mutex> Turn;
+  Mode CurrentMode = Mode::Off;
+  std::string CurrentVoice;
 };
 
 }  // namespace qves

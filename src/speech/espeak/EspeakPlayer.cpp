@@ -20,54 +20,55 @@ constexpr auto PauseBetween = milliseconds(150);  // of two texts that follow ea
 
 }  // namespace
 
-EspeakPlayer::EspeakPlayer(std::shared_ptr<EspeakVoiceBox> voiceBox, int number)
-    : box(std::move(voiceBox)), backEnd(number) {}
+EspeakPlayer::EspeakPlayer(std::shared_ptr<EspeakVoiceBox> box, int backEnd)
+    : Box(std::move(box)), BackEnd(backEnd) {}
 
 void EspeakPlayer::Start(Signal& wake) {
-  if (library.Use(EspeakLibrary::Mode::Synthesis, StreamPlayback::Receive))
-    voices = OfferedVoices(library.Voices(), DesktopLanguage(), backEnd);
-  box->Fill(voices);
-  if (voices.empty()) return;
-  stream.emplace(wake, library.Rate());
-  playback.emplace(wake);
-  library.Apply(voices.front().Key, {});
-  if (stream->Connect(LongestConnect) == PulseStream::Link::Ready) output = Output::Stream;
+  if (Library.Use(EspeakLibrary::Mode::Synthesis, StreamPlayback::Receive))
+    Voices = OfferedVoices(Library.Voices(), DesktopLanguage(), BackEnd);
+  Box->Fill(Voices);
+  if (Voices.empty()) return;
+  Stream.emplace(wake, Library.Rate());
+  Playback.emplace(wake);
+  Library.Apply(Voices.front().Key, {});
+  if (Stream->Connect(LongestConnect) == PulseStream::Link::Ready) CurrentOutput = Output::Stream;
 }
 
 bool EspeakPlayer::Play(const Utterance& text, PlayControl& control) {
-  if (voices.empty()) return false;
-  output = ChooseOutput();
-  if (output == Output::Nothing || control.Interrupted()) return true;
-  library.Apply(KeyFor(*text.Speaking), text.Settings);
-  if (!PlayOn(output, text, control)) output = Output::Nothing;
-  lastPlayed = SteadyClock::now();
-  lastInterrupted = control.Interrupted();
+  if (Voices.empty()) return false;
+  CurrentOutput = ChooseOutput();
+  if (CurrentOutput == Output::Nothing || control.Interrupted()) return true;
+  Library.Apply(KeyFor(*text.Speaking), text.Settings);
+  if (!PlayOn(CurrentOutput, text, control)) CurrentOutput = Output::Nothing;
+  LastPlayed = SteadyClock::now();
+  LastInterrupted = control.Interrupted();
   return true;
 }
 
 bool EspeakPlayer::PlayOn(Output chosen, const Utterance& text, PlayControl& control) {
-  if (chosen == Output::Library) return playback->Run(text, control);
-  awake = true;
-  const bool follows = !lastInterrupted && SteadyClock::now() < lastPlayed + FollowsWithin;
-  return StreamPlayback(*stream, library.Rate(), text, control).Run(follows ? PauseBetween : milliseconds(0));
+  if (chosen == Output::Library) return Playback->Run(text, control);
+  Awake = true;
+  const bool follows = !LastInterrupted && SteadyClock::now() < LastPlayed + FollowsWithin;
+  return StreamPlayback(*Stream, Library.Rate(), text, control).Run(follows ? PauseBetween : milliseconds(0));
 }
 
 SteadyClock::time_point EspeakPlayer::Rest() {
-  if (!awake) return SteadyClock::time_point::max();
-  if (SteadyClock::now() < lastPlayed + SleepAfter) return lastPlayed + SleepAfter;
-  stream->Cork();
-  awake = false;
+  if (!Awake) return SteadyClock::time_point::max();
+  if (SteadyClock::now() < LastPlayed + SleepAfter) return LastPlayed + SleepAfter;
+  Stream->Cork();
+  Awake = false;
   return SteadyClock::time_point::max();
 }
 
 // The stream when its server answers; looks for it again from time to time.
 EspeakPlayer::Output EspeakPlayer::ChooseOutput() {
-  if (output == Output::Stream && stream->Alive()) return output;
-  if (output != Output::Stream && SteadyClock::now() < nextLook) return output;
-  nextLook = SteadyClock::now() + LookAgain;
-  switch (stream->Connect(LongestConnect)) {
+  if (CurrentOutput == Output::Stream && Stream->Alive()) return CurrentOutput;
+  NoticeDevice();
+  if (CurrentOutput != Output::Stream && SteadyClock::now() < NextLook) return CurrentOutput;
+  NextLook = SteadyClock::now() + LookAgain;
+  switch (Stream->Connect(LongestConnect)) {
     case PulseStream::Link::Ready:
-      return library.Use(EspeakLibrary::Mode::Synthesis, StreamPlayback::Receive) ? Output::Stream
+      return Library.Use(EspeakLibrary::Mode::Synthesis, StreamPlayback::Receive) ? Output::Stream
                                                                                   : Output::Nothing;
     case PulseStream::Link::NoServer:
       return OutputWithoutStream();
@@ -77,18 +78,27 @@ EspeakPlayer::Output EspeakPlayer::ChooseOutput() {
   return Output::Nothing;
 }
 
+// A sound device that has come or gone is a reason to look at once.
+void EspeakPlayer::NoticeDevice() {
+  const bool there = HasSoundDevice(Places);
+  if (there != DeviceThere) NextLook = {};
+  DeviceThere = there;
+}
+
+// Without a device the library would only complain on standard error.
 EspeakPlayer::Output EspeakPlayer::OutputWithoutStream() {
-  return library.Use(EspeakLibrary::Mode::Playback, LibraryPlayback::Receive) ? Output::Library
+  if (!DeviceThere) return Output::Nothing;
+  return Library.Use(EspeakLibrary::Mode::Playback, LibraryPlayback::Receive) ? Output::Library
                                                                               : Output::Nothing;
 }
 
 // A text of another back end's voice is spoken by the best voice of its language.
 const std::string& EspeakPlayer::KeyFor(const Voice& voice) const {
-  if (voice.BackEnd == backEnd) return voice.Key;
-  for (const Voice& own : voices) {
+  if (voice.BackEnd == BackEnd) return voice.Key;
+  for (const Voice& own : Voices) {
     if (own.Info.LanguageId == voice.Info.LanguageId) return own.Key;
   }
-  return voices.front().Key;
+  return Voices.front().Key;
 }
 
 }  // namespace qves

@@ -9,6 +9,7 @@
 #include "speech/espeak/EspeakVoices.h"
 #include "speech/espeak/LibraryPlayback.h"
 #include "speech/espeak/PulseStream.h"
+#include "speech/espeak/SoundDevice.h"
 
 namespace qves {
 
@@ -23,21 +24,24 @@ class EspeakPlayer : public SpeechPlayer {
   enum class Output { Stream, Library, Nothing };
 
   Output ChooseOutput();
+  void NoticeDevice();
   Output OutputWithoutStream();
   const std::string& KeyFor(const Voice& voice) const;
   bool PlayOn(Output chosen, const Utterance& text, PlayControl& control);
 
-  std::shared_ptr<EspeakVoiceBox> box;
-  int backEnd;
-  std::vector<Voice> voices;
-  EspeakLibrary library;
-  std::optional<PulseStream> stream;
-  std::optional<LibraryPlayback> playback;
-  Output output = Output::Nothing;
-  SteadyClock::time_point nextLook;  // for a better output
-  SteadyClock::time_point lastPlayed = SteadyClock::now();
-  bool lastInterrupted = true;
-  bool awake = false;  // the stream keeps the sound device awake
+  std::shared_ptr<EspeakVoiceBox> Box;
+  int BackEnd;
+  std::vector<Voice> Voices;
+  EspeakLibrary Library;
+  std::optional<PulseStream> Stream;
+  std::optional<LibraryPlayback> Playback;
+  Output CurrentOutput = Output::Nothing;
+  SteadyClock::time_point NextLook;  // for a better output
+  SoundPlaces Places = OwnSoundPlaces();
+  bool DeviceThere = false;
+  SteadyClock::time_point LastPlayed = SteadyClock::now();
+  bool LastInterrupted = true;
+  bool Awake = false;  // the stream keeps the sound device awake
 };
 
 }  // namespace qves

@@ -78,29 +78,29 @@ std::vector<Voice> OfferedVoices(const std::vector<EspeakVoice>& all, std::strin
   return offered;
 }
 
-EspeakVoiceBox::EspeakVoiceBox(std::function<void()> changedCall) : changed(std::move(changedCall)) {}
+EspeakVoiceBox::EspeakVoiceBox(std::function<void()> changed) : Changed(std::move(changed)) {}
 
 void EspeakVoiceBox::Fill(std::vector<Voice> list) {
   bool late = false;
   {
-    const std::lock_guard lock(mutex);
-    voices = std::move(list);
-    filled = true;
-    late = missed;
+    const std::lock_guard lock(Mutex);
+    Voices = std::move(list);
+    Filled = true;
+    late = Missed;
   }
-  filledChanged.notify_all();
-  if (late) changed();
+  FilledChanged.notify_all();
+  if (late) Changed();
 }
 
 std::vector<Voice> EspeakVoiceBox::Wait() {
-  std::unique_lock lock(mutex);
-  if (!missed) missed = !filledChanged.wait_for(lock, LongestWait, [this] { return filled; });
-  return voices;
+  std::unique_lock lock(Mutex);
+  if (!Missed) Missed = !FilledChanged.wait_for(lock, LongestWait, [this] { return Filled; });
+  return Voices;
 }
 
 bool EspeakVoiceBox::Failed() const {
-  const std::lock_guard lock(mutex);
-  return filled && voices.empty();
+  const std::lock_guard lock(Mutex);
+  return Filled && Voices.empty();
 }
 
 }  // namespace qves

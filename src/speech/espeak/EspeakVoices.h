@@ -39,12 +39,12 @@ class EspeakVoiceBox {
   bool Failed() const;
 
  private:
-  std::function<void()> changed;
-  mutable std::mutex mutex;
-  std::condition_variable filledChanged;
-  bool filled = false;
-  bool missed = false;  // somebody has waited in vain
-  std::vector<Voice> voices;
+  std::function<void()> Changed;
+  mutable std::mutex Mutex;
+  std::condition_variable FilledChanged;
+  bool Filled = false;
+  bool Missed = false;  // somebody has waited in vain
+  std::vector<Voice> Voices;
 };
 
 }  // namespace qves

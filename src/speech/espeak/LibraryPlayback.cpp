@@ -12,9 +12,9 @@ constexpr auto LongestSilence = std::chrono::milliseconds(600);
 
 bool LibraryPlayback::Run(const Utterance& text, PlayControl& control) {
   {
-    const std::lock_guard lock(mutex);
-    begun = over = false;
-    marks.emplace(text);
+    const std::lock_guard lock(Mutex);
+    HasBegun = HasEnded = false;
+    Marks.emplace(text);
   }
   const auto deadline = SteadyClock::now() + LongestSilence;
   espeak_Synth(text.Text.c_str(), text.Text.size() + 1, 0, POS_CHARACTER, 0, espeakCHARS_UTF8, nullptr, this);
@@ -24,10 +24,10 @@ bool LibraryPlayback::Run(const Utterance& text, PlayControl& control) {
     if (!Over() && !control.Interrupted()) control.Wake.WaitFor(seen, std::chrono::milliseconds(100));
   }
   if (!Over()) espeak_Cancel();
-  const std::lock_guard lock(mutex);
-  if (!control.Interrupted()) marks->HeardAll();
-  marks.reset();
-  return begun || control.Interrupted();
+  const std::lock_guard lock(Mutex);
+  if (!control.Interrupted()) Marks->HeardAll();
+  Marks.reset();
+  return HasBegun || control.Interrupted();
 }
 
 int LibraryPlayback::Receive(short*, int, espeak_EVENT* events) {
@@ -39,26 +39,26 @@ int LibraryPlayback::Receive(short*, int, espeak_EVENT* events) {
 
 void LibraryPlayback::Note(const espeak_EVENT& event) {
   {
-    const std::lock_guard lock(mutex);
-    if (!marks) return;
-    if (event.type == espeakEVENT_WORD || event.type == espeakEVENT_END) begun = true;
-    if (event.type == espeakEVENT_MSG_TERMINATED) over = true;
+    const std::lock_guard lock(Mutex);
+    if (!Marks) return;
+    if (event.type == espeakEVENT_WORD || event.type == espeakEVENT_END) HasBegun = true;
+    if (event.type == espeakEVENT_MSG_TERMINATED) HasEnded = true;
     if (TellsPosition(event)) {
-      marks->Meet(event.text_position, event.sample);
-      marks->Heard(event.sample);
+      Marks->Meet(event.text_position, event.sample);
+      Marks->Heard(event.sample);
     }
   }
-  wake.Notify();
+  Wake.Notify();
 }
 
 bool LibraryPlayback::Over() {
-  const std::lock_guard lock(mutex);
-  return over;
+  const std::lock_guard lock(Mutex);
+  return HasEnded;
 }
 
 bool LibraryPlayback::Begun() {
-  const std::lock_guard lock(mutex);
-  return begun;
+  const std::lock_guard lock(Mutex);
+  return HasBegun;
 }
 
 }  // namespace qves

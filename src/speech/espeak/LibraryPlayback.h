@@ -16,7 +16,7 @@ namespace qves {
 /// late.
 class LibraryPlayback {
  public:
-  explicit LibraryPlayback(Signal& signal) : wake(signal) {}
+  explicit LibraryPlayback(Signal& wake) : Wake(wake) {}
   /// Returns when the text has been heard or is interrupted. False: there is no sound device.
   bool Run(const Utterance& text, PlayControl& control);
   /// For espeak_SetSynthCallback.
@@ -27,11 +27,11 @@ class LibraryPlayback {
   bool Over();
   bool Begun();
 
-  Signal& wake;
-  std::mutex mutex;  // of what follows
-  bool begun = false;
-  bool over = false;
-  std::optional<MarkTracker> marks;
+  Signal& Wake;
+  std::mutex Mutex;  // of what follows
+  bool HasBegun = false;
+  bool HasEnded = false;
+  std::optional<MarkTracker> Marks;
 };
 
 }  // namespace qves

@@ -6,22 +6,22 @@
 
 namespace qves {
 
-MarkTracker::MarkTracker(const Utterance& utterance)
-    : text(utterance), positions(CharacterPositions(utterance.Text, utterance.Marks)) {}
+MarkTracker::MarkTracker(const Utterance& text)
+    : Text(text), Positions(CharacterPositions(text.Text, text.Marks)) {}
 
 void MarkTracker::Meet(int characterPosition, std::int64_t sample) {
-  while (unmet < positions.size() && positions[unmet] + 1 <= std::size_t(characterPosition))
-    met.push_back({sample, text.Marks[unmet++].Number});
+  while (Unmet < Positions.size() && Positions[Unmet] + 1 <= std::size_t(characterPosition))
+    Met.push_back({sample, Text.Marks[Unmet++].Number});
 }
 
 void MarkTracker::Heard(std::int64_t sample) {
-  for (; !met.empty() && met.front().Sample <= sample; met.pop_front())
-    text.Ticket.ReachMark(met.front().Number);
+  for (; !Met.empty() && Met.front().Sample <= sample; Met.pop_front())
+    Text.Ticket.ReachMark(Met.front().Number);
 }
 
 void MarkTracker::HeardAll() {
   Heard(std::numeric_limits<std::int64_t>::max());
-  while (unmet < positions.size()) text.Ticket.ReachMark(text.Marks[unmet++].Number);
+  while (Unmet < Positions.size()) Text.Ticket.ReachMark(Text.Marks[Unmet++].Number);
 }
 
 }  // namespace qves

@@ -23,7 +23,7 @@ class MarkTracker {
   /// All has been heard.
   void HeardAll();
   /// The sample of the next mark that waits to be heard; -1 when there is none.
-  std::int64_t Next() const { return met.empty() ? -1 : met.front().Sample; }
+  std::int64_t Next() const { return Met.empty() ? -1 : Met.front().Sample; }
 
  private:
   struct MetMark {
@@ -31,10 +31,10 @@ class MarkTracker {
     std::int32_t Number;
   };
 
-  const Utterance& text;
-  std::vector<std::size_t> positions;  // of the text's marks, in characters
-  std::size_t unmet = 0;               // the first mark that is not in `met` yet
-  std::deque<MetMark> met;
+  const Utterance& Text;
+  std::vector<std::size_t> Positions;  // of the text's marks, in characters
+  std::size_t Unmet = 0;               // the first mark that is not in Met yet
+  std::deque<MetMark> Met;
 };
 
 /// True for the events that tell where a word or sentence begins.

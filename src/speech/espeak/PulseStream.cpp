@@ -20,36 +20,36 @@ void Forget(pa_operation* operation) {
 
 class PulseStream::Lock {
  public:
-  explicit Lock(pa_threaded_mainloop* loopToLock) : loop(loopToLock) {
-    if (loop) pa_threaded_mainloop_lock(loop);
+  explicit Lock(pa_threaded_mainloop* loop) : Loop(loop) {
+    if (Loop) pa_threaded_mainloop_lock(Loop);
   }
   ~Lock() {
-    if (loop) pa_threaded_mainloop_unlock(loop);
+    if (Loop) pa_threaded_mainloop_unlock(Loop);
   }
   Lock(const Lock&) = delete;
   Lock& operator=(const Lock&) = delete;
 
  private:
-  pa_threaded_mainloop* loop;
+  pa_threaded_mainloop* Loop;
 };
 
-PulseStream::PulseStream(Signal& signal, int samplesPerSecond) : wake(signal), rate(samplesPerSecond) {}
+PulseStream::PulseStream(Signal& wake, int samplesPerSecond) : Wake(wake), Rate(samplesPerSecond) {}
 
 PulseStream::~PulseStream() {
   Disconnect();
-  if (!loop) return;
-  pa_threaded_mainloop_stop(loop);
-  pa_threaded_mainloop_free(loop);
+  if (!Loop) return;
+  pa_threaded_mainloop_stop(Loop);
+  pa_threaded_mainloop_free(Loop);
 }
 
 bool PulseStream::StartLoop() {
-  if (loop) return true;
-  loop = pa_threaded_mainloop_new();
-  if (loop && pa_threaded_mainloop_start(loop) < 0) {
-    pa_threaded_mainloop_free(loop);
-    loop = nullptr;
+  if (Loop) return true;
+  Loop = pa_threaded_mainloop_new();
+  if (Loop && pa_threaded_mainloop_start(Loop) < 0) {
+    pa_threaded_mainloop_free(Loop);
+    Loop = nullptr;
   }
-  return loop != nullptr;
+  return Loop != nullptr;
 }
 
 PulseStream::Link PulseStream::Connect(std::chrono::milliseconds longest) {
@@ -58,141 +58,141 @@ PulseStream::Link PulseStream::Connect(std::chrono::milliseconds longest) {
   if (!StartLoop() || !Begin()) return Link::NoServer;
   const auto deadline = SteadyClock::now() + longest;
   while (true) {
-    const std::uint64_t seen = wake.Count();
+    const std::uint64_t seen = Wake.Count();
     const Link state = State();
     if (state == Link::Ready) return state;
     if (state == Link::NoServer || SteadyClock::now() >= deadline) {
       Disconnect();
       return state;
     }
-    wake.Wait(seen, deadline);
+    Wake.Wait(seen, deadline);
   }
 }
 
 bool PulseStream::Begin() {
-  const Lock lock(loop);
-  context = pa_context_new(pa_threaded_mainloop_get_api(loop), "qvescalc");
-  if (!context) return false;
-  pa_context_set_state_callback(context, ContextChanged, this);
+  const Lock lock(Loop);
+  Context = pa_context_new(pa_threaded_mainloop_get_api(Loop), "qvescalc");
+  if (!Context) return false;
+  pa_context_set_state_callback(Context, ContextChanged, this);
   // Starting a server is the desktop's affair.
-  return pa_context_connect(context, nullptr, PA_CONTEXT_NOAUTOSPAWN, nullptr) >= 0;
+  return pa_context_connect(Context, nullptr, PA_CONTEXT_NOAUTOSPAWN, nullptr) >= 0;
 }
 
 // NoAnswer: not decided yet.
 PulseStream::Link PulseStream::State() {
-  const Lock lock(loop);
-  if (!PA_CONTEXT_IS_GOOD(pa_context_get_state(context))) return Link::NoServer;
-  if (pa_context_get_state(context) != PA_CONTEXT_READY) return Link::NoAnswer;
-  if (!stream && !OpenStream()) return Link::NoServer;
-  const pa_stream_state_t state = pa_stream_get_state(stream);
+  const Lock lock(Loop);
+  if (!PA_CONTEXT_IS_GOOD(pa_context_get_state(Context))) return Link::NoServer;
+  if (pa_context_get_state(Context) != PA_CONTEXT_READY) return Link::NoAnswer;
+  if (!Stream && !OpenStream()) return Link::NoServer;
+  const pa_stream_state_t state = pa_stream_get_state(Stream);
   if (state == PA_STREAM_READY) return Link::Ready;
   return PA_STREAM_IS_GOOD(state) ? Link::NoAnswer : Link::NoServer;
 }
 
 bool PulseStream::OpenStream() {
-  const pa_sample_spec format = {PA_SAMPLE_S16NE, std::uint32_t(rate), 1};
+  const pa_sample_spec format = {PA_SAMPLE_S16NE, std::uint32_t(Rate), 1};
   pa_proplist* properties = pa_proplist_new();
   pa_proplist_sets(properties, PA_PROP_MEDIA_ROLE, "a11y");
-  stream = pa_stream_new_with_proplist(context, "speech", &format, nullptr, properties);
+  Stream = pa_stream_new_with_proplist(Context, "speech", &format, nullptr, properties);
   pa_proplist_free(properties);
-  if (!stream) return false;
-  pa_stream_set_state_callback(stream, StreamChanged, this);
-  pa_stream_set_write_callback(stream, RoomChanged, this);
+  if (!Stream) return false;
+  pa_stream_set_state_callback(Stream, StreamChanged, this);
+  pa_stream_set_write_callback(Stream, RoomChanged, this);
   pa_buffer_attr buffers;
   buffers.maxlength = std::uint32_t(-1);
-  buffers.tlength = BytesFor(ServerBufferMilliseconds, rate);
+  buffers.tlength = BytesFor(ServerBufferMilliseconds, Rate);
   buffers.prebuf = 0;
-  buffers.minreq = BytesFor(RequestMilliseconds, rate);
+  buffers.minreq = BytesFor(RequestMilliseconds, Rate);
   buffers.fragsize = std::uint32_t(-1);
   constexpr auto flags = pa_stream_flags_t(PA_STREAM_INTERPOLATE_TIMING | PA_STREAM_AUTO_TIMING_UPDATE |
                                            PA_STREAM_EARLY_REQUESTS | PA_STREAM_START_CORKED);
-  corked = true;
-  return pa_stream_connect_playback(stream, nullptr, &buffers, flags, nullptr, nullptr) >= 0;
+  Corked = true;
+  return pa_stream_connect_playback(Stream, nullptr, &buffers, flags, nullptr, nullptr) >= 0;
 }
 
 void PulseStream::Disconnect() {
-  const Lock lock(loop);
-  if (stream) {
-    pa_stream_set_state_callback(stream, nullptr, nullptr);
-    pa_stream_set_write_callback(stream, nullptr, nullptr);
-    pa_stream_disconnect(stream);
-    pa_stream_unref(stream);
+  const Lock lock(Loop);
+  if (Stream) {
+    pa_stream_set_state_callback(Stream, nullptr, nullptr);
+    pa_stream_set_write_callback(Stream, nullptr, nullptr);
+    pa_stream_disconnect(Stream);
+    pa_stream_unref(Stream);
   }
-  if (context) {
-    pa_context_set_state_callback(context, nullptr, nullptr);
-    pa_context_disconnect(context);
-    pa_context_unref(context);
+  if (Context) {
+    pa_context_set_state_callback(Context, nullptr, nullptr);
+    pa_context_disconnect(Context);
+    pa_context_unref(Context);
   }
-  stream = nullptr;
-  context = nullptr;
+  Stream = nullptr;
+  Context = nullptr;
 }
 
 bool PulseStream::Alive() {
-  const Lock lock(loop);
-  return stream && pa_stream_get_state(stream) == PA_STREAM_READY;
+  const Lock lock(Loop);
+  return Stream && pa_stream_get_state(Stream) == PA_STREAM_READY;
 }
 
 void PulseStream::Restart() {
-  const Lock lock(loop);
-  if (!stream) return;
-  restarted = true;
-  burst = BytesFor(ServerBufferMilliseconds, rate);
+  const Lock lock(Loop);
+  if (!Stream) return;
+  Restarted = true;
+  Burst = BytesFor(ServerBufferMilliseconds, Rate);
   SetCorked(false);
 }
 
 void PulseStream::Flush() {
-  const Lock lock(loop);
-  if (stream) Forget(pa_stream_flush(stream, nullptr, nullptr));
+  const Lock lock(Loop);
+  if (Stream) Forget(pa_stream_flush(Stream, nullptr, nullptr));
 }
 
 void PulseStream::Cork() {
-  const Lock lock(loop);
-  if (stream) SetCorked(true);
+  const Lock lock(Loop);
+  if (Stream) SetCorked(true);
 }
 
 void PulseStream::SetCorked(bool wanted) {
-  if (corked != wanted) Forget(pa_stream_cork(stream, wanted, nullptr, nullptr));
-  corked = wanted;
+  if (Corked != wanted) Forget(pa_stream_cork(Stream, wanted, nullptr, nullptr));
+  Corked = wanted;
 }
 
 std::size_t PulseStream::Room() {
-  const Lock lock(loop);
-  if (!stream) return 0;
-  if (burst > 0) return burst / SampleSize;
-  const std::size_t bytes = pa_stream_writable_size(stream);
+  const Lock lock(Loop);
+  if (!Stream) return 0;
+  if (Burst > 0) return Burst / SampleSize;
+  const std::size_t bytes = pa_stream_writable_size(Stream);
   return bytes == std::size_t(-1) ? 0 : bytes / SampleSize;
 }
 
 void PulseStream::Write(std::span<const std::int16_t> samples) {
-  const Lock lock(loop);
-  if (!stream) return;
+  const Lock lock(Loop);
+  if (!Stream) return;
   const std::size_t bytes = samples.size_bytes();
   // After a silence the server's place for new samples lies in the past.
-  const pa_seek_mode_t place = restarted ? PA_SEEK_RELATIVE_ON_READ : PA_SEEK_RELATIVE;
-  pa_stream_write(stream, samples.data(), bytes, nullptr, 0, place);
-  if (restarted) Forget(pa_stream_update_timing_info(stream, nullptr, nullptr));
-  restarted = false;
-  burst -= bytes < burst ? bytes : burst;
+  const pa_seek_mode_t place = Restarted ? PA_SEEK_RELATIVE_ON_READ : PA_SEEK_RELATIVE;
+  pa_stream_write(Stream, samples.data(), bytes, nullptr, 0, place);
+  if (Restarted) Forget(pa_stream_update_timing_info(Stream, nullptr, nullptr));
+  Restarted = false;
+  Burst -= bytes < Burst ? bytes : Burst;
 }
 
 std::optional<std::int64_t> PulseStream::Unheard() {
-  const Lock lock(loop);
+  const Lock lock(Loop);
   pa_usec_t latency = 0;
   int negative = 0;
-  if (!stream || pa_stream_get_latency(stream, &latency, &negative) < 0) return std::nullopt;
-  return negative ? 0 : std::int64_t(latency) * rate / 1'000'000;
+  if (!Stream || pa_stream_get_latency(Stream, &latency, &negative) < 0) return std::nullopt;
+  return negative ? 0 : std::int64_t(latency) * Rate / 1'000'000;
 }
 
 void PulseStream::ContextChanged(pa_context*, void* self) {
-  static_cast<PulseStream*>(self)->wake.Notify();
+  static_cast<PulseStream*>(self)->Wake.Notify();
 }
 
 void PulseStream::StreamChanged(pa_stream*, void* self) {
-  static_cast<PulseStream*>(self)->wake.Notify();
+  static_cast<PulseStream*>(self)->Wake.Notify();
 }
 
 void PulseStream::RoomChanged(pa_stream*, std::size_t, void* self) {
-  static_cast<PulseStream*>(self)->wake.Notify();
+  static_cast<PulseStream*>(self)->Wake.Notify();
 }
 
 }  // namespace qves

@@ -52,14 +52,14 @@ class PulseStream {
   void Disconnect();
   void SetCorked(bool wanted);
 
-  Signal& wake;
-  int rate;
-  pa_threaded_mainloop* loop = nullptr;
-  pa_context* context = nullptr;
-  pa_stream* stream = nullptr;
-  bool corked = false;
-  bool restarted = false;
-  std::size_t burst = 0;  // bytes that may be written before the server asks for them
+  Signal& Wake;
+  int Rate;
+  pa_threaded_mainloop* Loop = nullptr;
+  pa_context* Context = nullptr;
+  pa_stream* Stream = nullptr;
+  bool Corked = false;
+  bool Restarted = false;
+  std::size_t Burst = 0;  // bytes that may be written before the server asks for them
 };
 
 }  // namespace qves

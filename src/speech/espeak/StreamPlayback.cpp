@@ -21,24 +21,24 @@ bool IsAudible(std::int16_t sample) {
 
 }  // namespace
 
-StreamPlayback::StreamPlayback(PulseStream& target, int samplesPerSecond, const Utterance& utterance,
-                               PlayControl& playControl)
-    : stream(target),
-      rate(samplesPerSecond),
-      text(utterance),
-      control(playControl),
-      marks(utterance),
-      leadLeft(std::int64_t(samplesPerSecond) * LongestLeadMilliseconds / 1000) {}
+StreamPlayback::StreamPlayback(PulseStream& stream, int samplesPerSecond, const Utterance& text,
+                               PlayControl& control)
+    : Stream(stream),
+      Rate(samplesPerSecond),
+      Text(text),
+      Control(control),
+      Marks(text),
+      LeadLeft(std::int64_t(samplesPerSecond) * LongestLeadMilliseconds / 1000) {}
 
 bool StreamPlayback::Run(milliseconds pauseBefore) {
-  stream.Restart();
-  const std::vector<std::int16_t> pause(std::size_t(rate * pauseBefore.count() / 1000));
-  lead = -std::int64_t(pause.size());
+  Stream.Restart();
+  const std::vector<std::int16_t> pause(std::size_t(Rate * pauseBefore.count() / 1000));
+  Lead = -std::int64_t(pause.size());
   WriteAll(pause);
-  espeak_Synth(text.Text.c_str(), text.Text.size() + 1, 0, POS_CHARACTER, 0, espeakCHARS_UTF8, nullptr, this);
+  espeak_Synth(Text.Text.c_str(), Text.Text.size() + 1, 0, POS_CHARACTER, 0, espeakCHARS_UTF8, nullptr, this);
   const bool heard = WaitUntilHeard();
-  if (control.Interrupted() || !heard) stream.Flush();
-  if (!control.Interrupted()) marks.HeardAll();
+  if (Control.Interrupted() || !heard) Stream.Flush();
+  if (!Control.Interrupted()) Marks.HeardAll();
   return heard;
 }
 
@@ -51,48 +51,48 @@ int StreamPlayback::Receive(short* samples, int count, espeak_EVENT* events) {
 
 bool StreamPlayback::Take(std::span<const std::int16_t> samples, const espeak_EVENT* events) {
   NoteEvents(events);
-  return WriteAll(WithoutLead(samples)) && !control.Interrupted();
+  return WriteAll(WithoutLead(samples)) && !Control.Interrupted();
 }
 
 void StreamPlayback::NoteEvents(const espeak_EVENT* events) {
   for (; events->type != espeakEVENT_LIST_TERMINATED; ++events) {
-    if (TellsPosition(*events)) marks.Meet(events->text_position, events->sample);
+    if (TellsPosition(*events)) Marks.Meet(events->text_position, events->sample);
   }
 }
 
 // The silence before the first sound would only delay it.
 std::span<const std::int16_t> StreamPlayback::WithoutLead(std::span<const std::int16_t> samples) {
-  if (audible) return samples;
+  if (Audible) return samples;
   const auto first = std::find_if(samples.begin(), samples.end(), IsAudible);
-  const std::int64_t silent = std::min<std::int64_t>(first - samples.begin(), leadLeft);
-  leadLeft -= silent;
-  lead += silent;
-  audible = silent < std::int64_t(samples.size());
+  const std::int64_t silent = std::min<std::int64_t>(first - samples.begin(), LeadLeft);
+  LeadLeft -= silent;
+  Lead += silent;
+  Audible = silent < std::int64_t(samples.size());
   return samples.subspan(std::size_t(silent));
 }
 
 bool StreamPlayback::WriteAll(std::span<const std::int16_t> samples) {
   while (!samples.empty()) {
-    const std::uint64_t seen = control.Wake.Count();
-    if (control.Interrupted()) return false;
-    const std::size_t now = std::min(samples.size(), stream.Room());
+    const std::uint64_t seen = Control.Wake.Count();
+    if (Control.Interrupted()) return false;
+    const std::size_t now = std::min(samples.size(), Stream.Room());
     if (now == 0) {
-      if (!stream.Alive() || Stalled()) return false;
+      if (!Stream.Alive() || Stalled()) return false;
       Pause(seen);
       continue;
     }
-    stream.Write(samples.first(now));
-    written += std::int64_t(now);
+    Stream.Write(samples.first(now));
+    Written += std::int64_t(now);
     samples = samples.subspan(now);
   }
   return true;
 }
 
 bool StreamPlayback::WaitUntilHeard() {
-  while (!control.Interrupted()) {
-    const std::uint64_t seen = control.Wake.Count();
-    if (Played() >= written) return true;
-    if (!stream.Alive() || Stalled()) return false;
+  while (!Control.Interrupted()) {
+    const std::uint64_t seen = Control.Wake.Count();
+    if (Played() >= Written) return true;
+    if (!Stream.Alive() || Stalled()) return false;
     Pause(seen);
   }
   return true;
@@ -101,24 +101,24 @@ bool StreamPlayback::WaitUntilHeard() {
 // Until something happens, or the next mark or the end is due.
 void StreamPlayback::Pause(std::uint64_t seen) {
   const std::int64_t played = Played();
-  marks.Heard(played + lead);
-  const std::int64_t due = marks.Next() >= 0 ? std::min(written, marks.Next() - lead) : written;
+  Marks.Heard(played + Lead);
+  const std::int64_t due = Marks.Next() >= 0 ? std::min(Written, Marks.Next() - Lead) : Written;
   const auto wait =
-      microseconds(std::max<std::int64_t>(due - played, 0) * 1'000'000 / rate) + milliseconds(1);
-  control.Wake.WaitFor(seen, std::min<SteadyClock::duration>(wait, LongestPause));
+      microseconds(std::max<std::int64_t>(due - played, 0) * 1'000'000 / Rate) + milliseconds(1);
+  Control.Wake.WaitFor(seen, std::min<SteadyClock::duration>(wait, LongestPause));
 }
 
 std::int64_t StreamPlayback::Played() {
-  const auto unheard = stream.Unheard();
-  return unheard ? std::max<std::int64_t>(written - *unheard, 0) : 0;
+  const auto unheard = Stream.Unheard();
+  return unheard ? std::max<std::int64_t>(Written - *unheard, 0) : 0;
 }
 
 bool StreamPlayback::Stalled() {
   const std::int64_t played = Played();
   const auto now = SteadyClock::now();
-  if (played > lastPlayed) lastProgress = now;
-  lastPlayed = std::max(played, lastPlayed);
-  return now - lastProgress > LongestStall;
+  if (played > LastPlayed) LastProgress = now;
+  LastPlayed = std::max(played, LastPlayed);
+  return now - LastProgress > LongestStall;
 }
 
 }  // namespace qves

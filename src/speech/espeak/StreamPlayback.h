@@ -33,17 +33,17 @@ class StreamPlayback {
   std::int64_t Played();
   bool Stalled();
 
-  PulseStream& stream;
-  int rate;
-  const Utterance& text;
-  PlayControl& control;
-  MarkTracker marks;
-  std::int64_t written = 0;  // samples
-  std::int64_t lead = 0;     // samples of silence that were left out, less those put before
-  std::int64_t leadLeft;     // how many more may be left out
-  bool audible = false;
-  std::int64_t lastPlayed = -1;
-  SteadyClock::time_point lastProgress = SteadyClock::now();
+  PulseStream& Stream;
+  int Rate;
+  const Utterance& Text;
+  PlayControl& Control;
+  MarkTracker Marks;
+  std::int64_t Written = 0;  // samples
+  std::int64_t Lead = 0;     // samples of silence that were left out, less those put before
+  std::int64_t LeadLeft;     // how many more may be left out
+  bool Audible = false;
+  std::int64_t LastPlayed = -1;
+  SteadyClock::time_point LastProgress = SteadyClock::now();
 };
 
 }  // namespace qves

@@ -21,55 +21,54 @@ constexpr auto TryHungAgainAfter = seconds(600);  // or as soon as one of its ca
 
 class SpeechdDriver : public SpeechDriver {
  public:
-  SpeechdDriver(DriverLinks driverLinks, bool connectAtOnce)
-      : links(std::move(driverLinks)), eager(connectAtOnce) {}
-  ~SpeechdDriver() override { voices->Close(); }
+  SpeechdDriver(DriverLinks links, bool eager) : Links(std::move(links)), Eager(eager) {}
+  ~SpeechdDriver() override { List->Close(); }
   SpeechdDriver(const SpeechdDriver&) = delete;
   SpeechdDriver& operator=(const SpeechdDriver&) = delete;
 
   void Prepare() override {
-    if (eager) Worker();
-    if (eager || SpeechdRuns()) voices->Begin(eager ? EagerListAfter : ListAfter, eager);
+    if (Eager) Worker();
+    if (Eager || SpeechdRuns()) List->Begin(Eager ? EagerListAfter : ListAfter, Eager);
   }
 
-  std::vector<Voice> Voices() override { return voices->Get(); }
+  std::vector<Voice> Voices() override { return List->Get(); }
   int MinimumPitch() const override { return -100; }
   int MaximumPitch() const override { return 100; }
 
   void Speak(Utterance text) override {
     Worker().Speak(std::move(text));
-    voices->Begin(ListAfter, false);
+    List->Begin(ListAfter, false);
   }
 
   void Interrupt() override {
-    const std::lock_guard lock(mutex);
-    if (worker) worker->Interrupt();
+    const std::lock_guard lock(Mutex);
+    if (OwnWorker) OwnWorker->Interrupt();
   }
 
-  bool Usable() const override { return SteadyClock::now().time_since_epoch().count() >= health->DownUntil; }
+  bool Usable() const override { return SteadyClock::now().time_since_epoch().count() >= Health->DownUntil; }
 
   void PutDown() override {
-    const SteadyClock::duration pause = health->Hung ? TryHungAgainAfter : TryAgainAfter;
-    health->DownUntil = (SteadyClock::now() + pause).time_since_epoch().count();
+    const SteadyClock::duration pause = Health->Hung ? TryHungAgainAfter : TryAgainAfter;
+    Health->DownUntil = (SteadyClock::now() + pause).time_since_epoch().count();
   }
 
  private:
   SpeechWorker& Worker() {
-    const std::lock_guard lock(mutex);
-    if (!worker) {
-      auto player = std::make_unique<SpeechdPlayer>(links.Number, eager, health, voices);
-      worker.emplace(std::move(player), links.HandBack);
+    const std::lock_guard lock(Mutex);
+    if (!OwnWorker) {
+      auto player = std::make_unique<SpeechdPlayer>(Links.Number, Eager, Health, List);
+      OwnWorker.emplace(std::move(player), Links.HandBack);
     }
-    return *worker;
+    return *OwnWorker;
   }
 
-  DriverLinks links;
-  bool eager;
-  std::shared_ptr<SpeechdHealth> health = std::make_shared<SpeechdHealth>();
-  std::shared_ptr<SpeechdVoiceList> voices =
-      std::make_shared<SpeechdVoiceList>(links.Number, links.VoicesChanged);
-  std::mutex mutex;  // of the worker's coming to be
-  std::optional<SpeechWorker> worker;
+  DriverLinks Links;
+  bool Eager;
+  std::shared_ptr<SpeechdHealth> Health = std::make_shared<SpeechdHealth>();
+  std::shared_ptr<SpeechdVoiceList> List =
+      std::make_shared<SpeechdVoiceList>(Links.Number, Links.VoicesChanged);
+  std::mutex Mutex;  // of the worker's coming to be
+  std::optional<SpeechWorker> OwnWorker;
 };
 
 }  // namespace

@@ -58,23 +58,23 @@ void Register(std::size_t client, const std::shared_ptr<SpeechdEvents>& events) 
 }  // namespace
 
 void SpeechdEvents::Add(SpeechdEvent event) {
-  const std::lock_guard lock(mutex);
-  if (!waker) return;
-  events.push_back(std::move(event));
-  waker->Notify();
+  const std::lock_guard lock(Mutex);
+  if (!Waker) return;
+  Events.push_back(std::move(event));
+  Waker->Notify();
 }
 
 std::optional<SpeechdEvent> SpeechdEvents::Next() {
-  const std::lock_guard lock(mutex);
-  if (events.empty()) return std::nullopt;
-  SpeechdEvent event = std::move(events.front());
-  events.pop_front();
+  const std::lock_guard lock(Mutex);
+  if (Events.empty()) return std::nullopt;
+  SpeechdEvent event = std::move(Events.front());
+  Events.pop_front();
   return event;
 }
 
 void SpeechdEvents::SetWaker(Signal* signal) {
-  const std::lock_guard lock(mutex);
-  waker = signal;
+  const std::lock_guard lock(Mutex);
+  Waker = signal;
 }
 
 bool ListenTo(SPDConnection& connection, const std::shared_ptr<SpeechdEvents>& events) {

@@ -31,9 +31,9 @@ class SpeechdEvents {
   void SetWaker(Signal* signal);
 
  private:
-  std::mutex mutex;
-  std::deque<SpeechdEvent> events;
-  Signal* waker = nullptr;
+  std::mutex Mutex;
+  std::deque<SpeechdEvent> Events;
+  Signal* Waker = nullptr;
 };
 
 /// Lets the connection's notifications arrive at `events`, as long as somebody holds those. False on failure.

@@ -37,16 +37,16 @@ struct SpeechdLink::State {
   }
 };
 
-SpeechdLink::SpeechdLink(std::function<void()> returnedLate) : state(std::make_shared<State>()) {
-  state->ReturnedLate = std::move(returnedLate);
-  std::thread([state = state] { Run(state); }).detach();
+SpeechdLink::SpeechdLink(std::function<void()> returnedLate) : Shared(std::make_shared<State>()) {
+  Shared->ReturnedLate = std::move(returnedLate);
+  std::thread([state = Shared] { Run(state); }).detach();
 }
 
 SpeechdLink::~SpeechdLink() {
-  state->Events->SetWaker(nullptr);
-  const std::lock_guard lock(state->Mutex);
-  state->Quit = true;
-  state->Changed.notify_all();
+  Shared->Events->SetWaker(nullptr);
+  const std::lock_guard lock(Shared->Mutex);
+  Shared->Quit = true;
+  Shared->Changed.notify_all();
 }
 
 void SpeechdLink::Run(const std::shared_ptr<State>& state) {
@@ -59,7 +59,7 @@ void SpeechdLink::Run(const std::shared_ptr<State>& state) {
 }
 
 SpeechdLink::Result SpeechdLink::Open(bool spawn, std::chrono::milliseconds longest, Signal& wake) {
-  state->Events->SetWaker(&wake);
+  Shared->Events->SetWaker(&wake);
   const auto open = [spawn](State& own) {
     own.Connection = OpenSpeechd("main", SPD_MODE_THREADED, spawn);
     return own.Connection && ListenTo(*own.Connection, own.Events) ? 0 : -1;
@@ -73,20 +73,20 @@ SpeechdLink::Result SpeechdLink::Do(Call call, std::chrono::milliseconds longest
 }
 
 SpeechdLink::Result SpeechdLink::Execute(std::function<int(State&)> call, std::chrono::milliseconds longest) {
-  std::unique_lock lock(state->Mutex);
-  if (state->LeftBehind) return Result::NoAnswer;
-  state->Answer.reset();
-  state->Job = std::move(call);
-  state->Changed.notify_all();
-  if (!state->Changed.wait_for(lock, longest, [this] { return state->Answer.has_value(); })) {
-    state->LeftBehind = true;
+  std::unique_lock lock(Shared->Mutex);
+  if (Shared->LeftBehind) return Result::NoAnswer;
+  Shared->Answer.reset();
+  Shared->Job = std::move(call);
+  Shared->Changed.notify_all();
+  if (!Shared->Changed.wait_for(lock, longest, [this] { return Shared->Answer.has_value(); })) {
+    Shared->LeftBehind = true;
     return Result::NoAnswer;
   }
-  return *state->Answer >= 0 ? Result::Done : Result::Refused;
+  return *Shared->Answer >= 0 ? Result::Done : Result::Refused;
 }
 
 std::optional<SpeechdEvent> SpeechdLink::NextEvent() {
-  return state->Events->Next();
+  return Shared->Events->Next();
 }
 
 namespace {

@@ -35,7 +35,7 @@ class SpeechdLink {
   static void Run(const std::shared_ptr<State>& state);
   Result Execute(std::function<int(State&)> call, std::chrono::milliseconds longest);
 
-  std::shared_ptr<State> state;
+  std::shared_ptr<State> Shared;
 };
 
 /// Opens a connection; null on failure. From then on a server that has died does not end this process by

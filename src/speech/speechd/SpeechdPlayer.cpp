@@ -109,12 +109,12 @@ void SpeechdPlayer::Passage::Take(const SpeechdEvent& event) {
   }
 }
 
-SpeechdPlayer::SpeechdPlayer(int number, bool connectAtOnce, std::shared_ptr<SpeechdHealth> serverHealth,
-                             std::shared_ptr<SpeechdVoiceList> voiceList)
-    : backEnd(number), eager(connectAtOnce), health(std::move(serverHealth)), voices(std::move(voiceList)) {}
+SpeechdPlayer::SpeechdPlayer(int backEnd, bool eager, std::shared_ptr<SpeechdHealth> health,
+                             std::shared_ptr<SpeechdVoiceList> voices)
+    : BackEnd(backEnd), Eager(eager), Health(std::move(health)), Voices(std::move(voices)) {}
 
 void SpeechdPlayer::Start(Signal& wake) {
-  if (eager) Connect(wake);
+  if (Eager) Connect(wake);
 }
 
 bool SpeechdPlayer::Play(const Utterance& text, PlayControl& control) {
@@ -123,9 +123,9 @@ bool SpeechdPlayer::Play(const Utterance& text, PlayControl& control) {
   for (TextPiece& piece : pieces) {
     passage.Piece = &piece;
     while (!control.Interrupted() && !PlayPiece(passage)) {
-      link.reset();
-      if (++failures < MostFailures) continue;
-      failures = 0;
+      Link.reset();
+      if (++Failures < MostFailures) continue;
+      Failures = 0;
       return false;
     }
   }
@@ -134,28 +134,28 @@ bool SpeechdPlayer::Play(const Utterance& text, PlayControl& control) {
 
 // False: the link is of no more use.
 bool SpeechdPlayer::PlayPiece(Passage& passage) {
-  passage.Manner = MannerOf(passage.Text, backEnd);
+  passage.Manner = MannerOf(passage.Text, BackEnd);
   passage.Manner.Markup = !passage.Piece->InnerMarks.empty();
-  if (link && !manner.CanBecome(passage.Manner)) link.reset();
-  if (!link && !Connect(passage.Control.Wake)) return false;
+  if (Link && !Manner.CanBecome(passage.Manner)) Link.reset();
+  if (!Link && !Connect(passage.Control.Wake)) return false;
   if (!Say(passage) || !Follow(passage)) return false;
   if (passage.Control.Interrupted()) return passage.Ended || Cancel();
-  failures = 0;
+  Failures = 0;
   return true;
 }
 
 bool SpeechdPlayer::Connect(Signal& wake) {
-  manner = {};
+  Manner = {};
   SpeechdLink::Result result = TryOpen(false, LongestCall, wake);
   if (result == SpeechdLink::Result::Refused) result = TryOpen(true, LongestSpawn, wake);
-  if (result != SpeechdLink::Result::Done) link.reset();
+  if (result != SpeechdLink::Result::Done) Link.reset();
   return result == SpeechdLink::Result::Done;
 }
 
 SpeechdLink::Result SpeechdPlayer::TryOpen(bool spawn, milliseconds longest, Signal& wake) {
-  link = std::make_unique<SpeechdLink>([known = health] { known->DownUntil = 0; });
-  const SpeechdLink::Result result = link->Open(spawn, longest, wake);
-  health->Hung = result == SpeechdLink::Result::NoAnswer;
+  Link = std::make_unique<SpeechdLink>([known = Health] { known->DownUntil = 0; });
+  const SpeechdLink::Result result = Link->Open(spawn, longest, wake);
+  Health->Hung = result == SpeechdLink::Result::NoAnswer;
   return result;
 }
 
@@ -164,15 +164,15 @@ bool SpeechdPlayer::Say(Passage& passage) {
   const std::string text = passage.Manner.Markup ? SsmlOf(piece.Text, piece.InnerMarks) : piece.Text;
   passage.Message = std::make_shared<std::atomic<int>>(-1);
   passage.Begun = passage.Ended = false;
-  const auto say = [is = manner, wanted = passage.Manner, text,
+  const auto say = [is = Manner, wanted = passage.Manner, text,
                     message = passage.Message](SPDConnection& connection) {
     if (SetManner(connection, is, wanted) < 0) return -1;
     return *message = spd_say(&connection, SPD_MESSAGE, text.c_str());
   };
   if (!Do(say)) return false;
-  manner = passage.Manner;
+  Manner = passage.Manner;
   passage.Deadline = SteadyClock::now() + LongestUntilBegin;
-  if (voices->Listing()) passage.Deadline += ListingAllowance;
+  if (Voices->Listing()) passage.Deadline += ListingAllowance;
   passage.NextAnswer = SteadyClock::now() + AnswerEvery;
   return true;
 }
@@ -190,7 +190,7 @@ bool SpeechdPlayer::Follow(Passage& passage) {
 
 // True: the piece is over.
 bool SpeechdPlayer::FollowEvents(Passage& passage) {
-  while (const auto event = link->NextEvent()) passage.Take(*event);
+  while (const auto event = Link->NextEvent()) passage.Take(*event);
   return passage.Ended;
 }
 
@@ -206,9 +206,9 @@ bool SpeechdPlayer::Cancel() {
 }
 
 bool SpeechdPlayer::Do(SpeechdLink::Call call) {
-  const auto longest = voices->Listing() ? LongestCall + ListingAllowance : LongestCall;
-  const SpeechdLink::Result result = link->Do(std::move(call), longest);
-  health->Hung = result == SpeechdLink::Result::NoAnswer;
+  const auto longest = Voices->Listing() ? LongestCall + ListingAllowance : LongestCall;
+  const SpeechdLink::Result result = Link->Do(std::move(call), longest);
+  Health->Hung = result == SpeechdLink::Result::NoAnswer;
   return result == SpeechdLink::Result::Done;
 }
 

@@ -51,13 +51,13 @@ class SpeechdPlayer : public SpeechPlayer {
   bool Cancel();
   bool Do(SpeechdLink::Call call);
 
-  int backEnd;
-  bool eager;
-  std::shared_ptr<SpeechdHealth> health;
-  std::shared_ptr<SpeechdVoiceList> voices;
-  std::unique_ptr<SpeechdLink> link;
-  SpeechdManner manner;  // of the link
-  int failures = 0;      // since a text was spoken to its end
+  int BackEnd;
+  bool Eager;
+  std::shared_ptr<SpeechdHealth> Health;
+  std::shared_ptr<SpeechdVoiceList> Voices;
+  std::unique_ptr<SpeechdLink> Link;
+  SpeechdManner Manner;  // of the link
+  int Failures = 0;      // since a text was spoken to its end
 };
 
 }  // namespace qves

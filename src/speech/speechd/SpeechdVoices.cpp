@@ -71,44 +71,44 @@ SpeechdVoiceKey UnpackKey(const std::string& packed) {
   return {packed.substr(0, at), packed.substr(at + 1)};
 }
 
-SpeechdVoiceList::SpeechdVoiceList(int number, std::function<void()> changedCall)
-    : backEnd(number), changed(std::move(changedCall)) {
+SpeechdVoiceList::SpeechdVoiceList(int backEnd, std::function<void()> changed)
+    : BackEnd(backEnd), Changed(std::move(changed)) {
   const int language = LanguageIdOf(DesktopLanguage());
-  voices.push_back({{"Speech Dispatcher", "speech-dispatcher", "default", language}, {}, backEnd});
+  Voices.push_back({{"Speech Dispatcher", "speech-dispatcher", "default", language}, {}, BackEnd});
 }
 
 std::vector<Voice> SpeechdVoiceList::Get() const {
-  const std::lock_guard lock(mutex);
-  return voices;
+  const std::lock_guard lock(Mutex);
+  return Voices;
 }
 
 bool SpeechdVoiceList::Listing() const {
-  const std::lock_guard lock(mutex);
-  return listing;
+  const std::lock_guard lock(Mutex);
+  return ListingNow;
 }
 
 void SpeechdVoiceList::SetListing(bool now) {
-  const std::lock_guard lock(mutex);
-  listing = now;
+  const std::lock_guard lock(Mutex);
+  ListingNow = now;
 }
 
 void SpeechdVoiceList::Close() {
-  const std::lock_guard lock(mutex);
-  closed = true;
-  closedChanged.notify_all();
+  const std::lock_guard lock(Mutex);
+  Closed = true;
+  ClosedChanged.notify_all();
 }
 
 void SpeechdVoiceList::Begin(std::chrono::milliseconds delay, bool spawn) {
-  const std::lock_guard lock(mutex);
-  if (begun) return;
-  begun = true;
+  const std::lock_guard lock(Mutex);
+  if (Begun) return;
+  Begun = true;
   std::thread([self = shared_from_this(), delay, spawn] { self->Run(delay, spawn); }).detach();
 }
 
 // False when the list is closed before.
 bool SpeechdVoiceList::WaitFor(std::chrono::milliseconds delay) {
-  std::unique_lock lock(mutex);
-  return !closedChanged.wait_for(lock, delay, [this] { return closed; });
+  std::unique_lock lock(Mutex);
+  return !ClosedChanged.wait_for(lock, delay, [this] { return Closed; });
 }
 
 void SpeechdVoiceList::Run(std::chrono::milliseconds delay, bool spawn) {
@@ -116,12 +116,12 @@ void SpeechdVoiceList::Run(std::chrono::milliseconds delay, bool spawn) {
   SetListing(true);
   std::vector<Voice> found;
   if (const Connection connection{OpenSpeechd("voices", SPD_MODE_SINGLE, spawn)})
-    found = AllVoices(*connection, backEnd);
+    found = AllVoices(*connection, BackEnd);
   SetListing(false);
-  const std::lock_guard lock(mutex);
-  if (closed || found.empty()) return;
-  std::move(found.begin(), found.end(), std::back_inserter(voices));
-  changed();
+  const std::lock_guard lock(Mutex);
+  if (Closed || found.empty()) return;
+  std::move(found.begin(), found.end(), std::back_inserter(Voices));
+  Changed();
 }
 
 }  // namespace qves

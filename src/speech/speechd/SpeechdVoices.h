@@ -39,14 +39,14 @@ class SpeechdVoiceList : public std::enable_shared_from_this<SpeechdVoiceList> {
   bool WaitFor(std::chrono::milliseconds delay);
   void SetListing(bool now);
 
-  int backEnd;
-  mutable std::mutex mutex;  // of what follows
-  std::condition_variable closedChanged;
-  std::function<void()> changed;
-  std::vector<Voice> voices;
-  bool begun = false;
-  bool listing = false;
-  bool closed = false;
+  int BackEnd;
+  mutable std::mutex Mutex;  // of what follows
+  std::condition_variable ClosedChanged;
+  std::function<void()> Changed;
+  std::vector<Voice> Voices;
+  bool Begun = false;
+  bool ListingNow = false;
+  bool Closed = false;
 };
 
 }  // namespace qves
