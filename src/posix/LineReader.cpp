@@ -9,7 +9,7 @@
 namespace qves {
 namespace {
 
-volatile sig_atomic_t Arrived = 0;
+volatile sig_atomic_t Arrived = 0;  // all that a signal handler may touch
 
 void Note(int number) {
   Arrived = number;

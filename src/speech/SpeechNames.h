@@ -11,10 +11,11 @@ namespace qves {
 
 /// auto, speech-dispatcher, espeak-ng or off; nothing for any other name.
 constexpr std::optional<SpeechChoice> FindSpeechChoice(std::string_view wanted) {
-  constexpr std::pair<std::string_view, SpeechChoice> names[] = {{"auto", SpeechChoice::Auto},
-                                                                 {"speech-dispatcher", SpeechChoice::SpeechDispatcher},
-                                                                 {"espeak-ng", SpeechChoice::EspeakNg},
-                                                                 {"off", SpeechChoice::Off}};
+  constexpr std::pair<std::string_view, SpeechChoice> names[] = {
+      {"auto", SpeechChoice::Auto},
+      {"speech-dispatcher", SpeechChoice::SpeechDispatcher},
+      {"espeak-ng", SpeechChoice::EspeakNg},
+      {"off", SpeechChoice::Off}};
   for (const auto& [name, choice] : names)
     if (name == wanted) return choice;
   return std::nullopt;

@@ -14,7 +14,7 @@ namespace {
 using std::chrono::milliseconds;
 using std::chrono::seconds;
 
-constexpr auto ListAfter = milliseconds(3000);  // the first texts have the server for themselves
+constexpr auto ListAfter = milliseconds(3000);  // the start has the machine for itself
 constexpr auto EagerListAfter = milliseconds(1500);
 constexpr auto TryAgainAfter = seconds(30);
 constexpr auto TryHungAgainAfter = seconds(600);  // or as soon as one of its calls comes back
@@ -37,7 +37,7 @@ class SpeechdDriver : public SpeechDriver {
 
   void Speak(Utterance text) override {
     Worker().Speak(std::move(text));
-    List->Begin(ListAfter, false);
+    if (!Eager) List->Forgo();
   }
 
   void Interrupt() override {

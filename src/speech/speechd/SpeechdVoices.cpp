@@ -105,10 +105,15 @@ void SpeechdVoiceList::Begin(std::chrono::milliseconds delay, bool spawn) {
   std::thread([self = shared_from_this(), delay, spawn] { self->Run(delay, spawn); }).detach();
 }
 
-// False when the list is closed before.
+void SpeechdVoiceList::Forgo() {
+  const std::lock_guard lock(Mutex);
+  Forgone = true;
+}
+
+// False when the list is closed before, or nobody needs it any more.
 bool SpeechdVoiceList::WaitFor(std::chrono::milliseconds delay) {
   std::unique_lock lock(Mutex);
-  return !ClosedChanged.wait_for(lock, delay, [this] { return Closed; });
+  return !ClosedChanged.wait_for(lock, delay, [this] { return Closed; }) && !Forgone;
 }
 
 void SpeechdVoiceList::Run(std::chrono::milliseconds delay, bool spawn) {

@@ -29,6 +29,8 @@ class SpeechdVoiceList : public std::enable_shared_from_this<SpeechdVoiceList> {
   std::vector<Voice> Get() const;
   /// Lists once; further calls do nothing. `spawn`: starts a server when none runs.
   void Begin(std::chrono::milliseconds delay, bool spawn);
+  /// The voice that is wanted is found already: the server is not kept busy with a list.
+  void Forgo();
   /// True while the server may be slow to answer because it lists.
   bool Listing() const;
   /// No more changes are told.
@@ -46,6 +48,7 @@ class SpeechdVoiceList : public std::enable_shared_from_this<SpeechdVoiceList> {
   std::vector<Voice> Voices;
   bool Begun = false;
   bool ListingNow = false;
+  bool Forgone = false;
   bool Closed = false;
 };
 
