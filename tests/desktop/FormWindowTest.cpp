@@ -134,14 +134,14 @@ TEST_F(FormWindowTest, HostSettingsColourTheDisplay) {
   EXPECT_EQ(display.palette().color(QPalette::Base), QApplication::palette().color(QPalette::Base));
   Settings.HostFileFound = true;
   Settings.TextColor = 14;
-  Settings.BackColor = 99;  // no colour: the desktop's stays
+  Settings.BackColor = 99;  // no colour: the usual black
   Settings.FontSize = 31;
   Settings.BoldFont = true;
   TestForm next;
   Window.ShowForm(next);
   const auto& coloured = Find<QLineEdit>("txtDisplay", next);
   EXPECT_EQ(coloured.palette().color(QPalette::Text), QColor("yellow"));
-  EXPECT_EQ(coloured.palette().color(QPalette::Base), QApplication::palette().color(QPalette::Base));
+  EXPECT_EQ(coloured.palette().color(QPalette::Base), QColor("black"));
   EXPECT_EQ(coloured.font().pointSize(), 31);
   EXPECT_TRUE(Find<QPlainTextEdit>("txtTape", next).font().bold());
   EXPECT_FALSE(Find<QLineEdit>("txtMemory", next).font().bold());
