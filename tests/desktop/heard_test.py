@@ -13,7 +13,7 @@ import tempfile
 import threading
 import time
 
-TOOLS = ["xvfb-run", "dbus-run-session", "openbox", "xdotool", "pulseaudio", "parec"]
+TOOLS = ["xvfb-run", "dbus-run-session", "openbox", "xdotool", "xprop", "pulseaudio", "parec"]
 INSIDE = "QVES_HEARD_TEST"
 RATE = 16000
 LOUD = 300  # of 32767
@@ -75,27 +75,50 @@ def hear_silence(recording):
     report("silence after Ctrl alone", 1000 * quiet, quiet < BOUND)
 
 
+def wait_for(what, condition):
+    end = time.monotonic() + 10
+    while not condition():
+        if time.monotonic() > end:
+            raise RuntimeError(what + " does not start")
+        time.sleep(0.05)
+
+
+def is_managed():
+    """A window that comes before the window manager may lose the keyboard again."""
+    query = ["xprop", "-root", "_NET_SUPPORTING_WM_CHECK", "_NET_CLIENT_LIST"]
+    return subprocess.run(query, capture_output=True, text=True).stdout.count("window id") == 2
+
+
+def hear(calculator):
+    recording = Recording()
+    try:
+        search = ["xdotool", "search", "--sync", "--onlyvisible", "--pid", str(calculator.pid)]
+        window = subprocess.run(search, capture_output=True, text=True, check=True, timeout=10).stdout.split()[0]
+        subprocess.run(["xdotool", "windowfocus", "--sync", window], check=True, timeout=10)
+        time.sleep(2)
+        press("Control_L")  # the welcome need not be heard to its end
+        time.sleep(1)
+        hear_keys(recording)
+        hear_silence(recording)
+    finally:
+        recording.process.terminate()
+
+
 def inside(program):
     folder = os.environ["XDG_RUNTIME_DIR"]
-    subprocess.run(["pulseaudio", "-n", "--daemonize=yes", "--exit-idle-time=-1", "--log-target=null",
-                    "-L", "module-native-protocol-unix",
-                    "-L", "module-null-sink sink_name=null rate=48000 channels=2 norewinds=1"], check=True)
+    sound = subprocess.Popen(["pulseaudio", "-n", "--daemonize=no", "--exit-idle-time=-1", "--log-target=null",
+                              "-L", "module-native-protocol-unix",
+                              "-L", "module-null-sink sink_name=null rate=48000 channels=2 norewinds=1"])
     manager = subprocess.Popen(["openbox"], stderr=subprocess.DEVNULL)
-    recording = Recording()
+    wait_for("the window manager", is_managed)
+    wait_for("the sound server", lambda: os.path.exists(os.path.join(folder, "pulse", "native")))
     calculator = subprocess.Popen([program, "--home", os.path.join(folder, "home"), "--speech", "espeak-ng"])
-    window = subprocess.run(["xdotool", "search", "--sync", "--onlyvisible", "--pid", str(calculator.pid)],
-                            capture_output=True, text=True, check=True).stdout.split()[0]
-    subprocess.run(["xdotool", "windowfocus", "--sync", window], check=True)
-    time.sleep(2)
-    press("Control_L")  # the welcome need not be heard to its end
-    time.sleep(1)
-    hear_keys(recording)
-    hear_silence(recording)
-    calculator.terminate()
-    calculator.wait(10)
-    recording.process.terminate()
-    manager.terminate()
-    subprocess.run(["pulseaudio", "-k"], check=False)
+    try:
+        hear(calculator)
+    finally:
+        for process in (calculator, manager, sound):
+            process.terminate()
+            process.wait(10)
     print("failed:", FAILED) if FAILED else print("all heard")
     return 1 if FAILED else 0
 
