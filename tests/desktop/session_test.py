@@ -194,7 +194,7 @@ class SessionTest(unittest.TestCase):
             with self.subTest(opening=opening):
                 keys("Escape")
                 calculator.expect_display("0")
-                xdotool("key", "--delay", "0", "7", *opening, "5")
+                xdotool("key", "--delay", "30", "7", *opening, "5")
                 calculator.expect_display("75")
 
     def test_nobody_writes_into_the_display(self):
