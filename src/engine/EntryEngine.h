@@ -80,7 +80,12 @@ class EntryEngine {
   const std::string& Separator() const;
   void SayResult(std::string_view leadIn);
 
+  struct MemoryRow;
+  static const MemoryRow MemoryTable[];
+  void ClearMemory();
   void ReturnMemory();
+  void StoreMemory();
+  void AddMemory();
   void ClearAllAndTape();
   bool RefuseNoNumber();
 

@@ -6,25 +6,40 @@
 
 namespace qves {
 
+struct EntryEngine::MemoryRow {
+  std::string_view Caption;
+  void (EntryEngine::*Act)();
+  bool WantsNumber;  ///< refused while the display shows none
+};
+
+const EntryEngine::MemoryRow EntryEngine::MemoryTable[] = {
+    {"MC", &EntryEngine::ClearMemory, false},    {"MR", &EntryEngine::ReturnMemory, false},
+    {"MS", &EntryEngine::StoreMemory, true},     {"M+", &EntryEngine::AddMemory, true},
+    {"C", &EntryEngine::ClearAllAndTape, false},
+};
+
 void EntryEngine::Memory(const PressedKey& key) {
-  const std::string_view caption = key.Caption;
-  if (caption == "MC") {
-    MemoryCell.Clear();
-  } else if (caption == "MR") {
-    ReturnMemory();
-  } else if (caption == "MS") {
-    if (RefuseNoNumber()) return;
-    MemoryCell.Store(EntryText);
-  } else if (caption == "M+") {
-    if (RefuseNoNumber()) return;
-    MemoryCell.Add(TextToNumber(EntryText));
-  } else if (caption == "C") {
-    ClearAllAndTape();
+  for (const MemoryRow& row : MemoryTable) {
+    if (row.Caption != key.Caption) continue;
+    if (row.WantsNumber && RefuseNoNumber()) return;
+    (this->*row.Act)();
   }
   Host.ShowMemory(MemoryCell.Indicator());
   Says.Say(key.SpokenName);
   LastAction = qves::LastAction::Memory;
   DecimalEntered = false;
+}
+
+void EntryEngine::ClearMemory() {
+  MemoryCell.Clear();
+}
+
+void EntryEngine::StoreMemory() {
+  MemoryCell.Store(EntryText);
+}
+
+void EntryEngine::AddMemory() {
+  MemoryCell.Add(TextToNumber(EntryText));
 }
 
 /// A recall after an operator begins its second operand, as a digit does.
