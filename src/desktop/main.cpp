@@ -18,6 +18,7 @@
 #include "posix/BaseDirectories.h"
 #include "posix/IniRegistry.h"
 #include "posix/PosixFileStore.h"
+#include "posix/SeededRandom.h"
 #include "posix/SystemClock.h"
 #include "services/ServiceSet.h"
 #include "speech/SpeechModule.h"
@@ -62,13 +63,14 @@ int RunCalculator(const Options& options, QtEventPump& events, LateTts& speech) 
   PosixFileStore files(directories.ConfinedTo(), directories.ProgramFolder());
   IniRegistry registry(files, directories.ConfigFolder() + "/QVES/registry.ini");
   SystemClock clock;
+  SeededRandom random;
   KeyCapture keys;
   HintNotify hints;
   AppWMSpy windowMessages;
   DesktopWindows windows(options.Home.empty() ? RuntimeFolder() : directories.Home(),
                          QGuiApplication::platformName() == "xcb");
-  Platform platform{speech, keys,        hints,    windowMessages, windows,
-                    files,  directories, registry, clock,          events};
+  Platform platform{speech,      keys,     hints, windowMessages, windows, files,
+                    directories, registry, clock, events,         random};
   ServiceSet services(platform);
 
   DesktopShell shell({services.All.Settings, hints, windowMessages, windows, events});

@@ -25,14 +25,14 @@ void EntryEngine::Digit(const PressedKey& key) {
     ClearAll();
     EntryText.clear();
   }
-  if (LastAction == Biop) {
+  if (StartsOperand()) {
     BeginSecondOperand();
     EntryText.clear();
-  } else if (EntryText == "0" && !DecimalEntered) {
-    EntryText.clear();  // the lone leading zero is replaced
+  } else if ((EntryText == "0" && !DecimalEntered) || LastAction == RParen) {
+    EntryText.clear();  // the lone leading zero, or an inner result, is replaced
   }
   ExtendEntry(key.Caption);
-  if (!IsBeyondADouble(EntryText)) CurrentValue = TextToNumber(EntryText);
+  if (!IsBeyondADouble(EntryText)) CurrentValue = ValueOf(EntryText);
   LastAction = Num;
 }
 
@@ -40,14 +40,13 @@ void EntryEngine::DecimalPoint(const PressedKey& key) {
   Says.Say(key.SpokenName);
   if (EntryHoldsPoint()) return;
   if (StartsAnew()) ClearAll();
-  const std::string& separator = Separator();
-  if (LastAction == Biop) {
-    BeginSecondOperand();
+  if (StartsOperand()) BeginSecondOperand();
+  if (StartsOperand() || LastAction == RParen) {
     EntryText = "0";
     CurrentValue = 0;
     Show();
   }
-  if (LastAction != Decimal) ExtendEntry(separator);
+  if (LastAction != Decimal) ExtendEntry(Separator());
   DecimalEntered = true;
   LastAction = Decimal;
 }
@@ -69,7 +68,7 @@ void EntryEngine::Backspace(const PressedKey&) {
   }
   ErrorState = false;
   Show();
-  CurrentValue = TextToNumber(EntryText);
+  CurrentValue = ValueOf(EntryText);
   LastAction = qves::LastAction::Backspace;
 }
 
@@ -89,7 +88,7 @@ void EntryEngine::BinaryOperator(const PressedKey& key) {
   Says.Say(key.SpokenName);
   DecimalEntered = false;
   CurrentOp = key.Caption;
-  if (LastAction != Biop) CompletePending();
+  if (OperatorCompletesPending()) CompletePending();
   PendingOp = CurrentOp;  // "" after a failed evaluation
   SecondOperandBegun = false;
   LastAction = Biop;
@@ -125,7 +124,7 @@ void EntryEngine::ClearAll() {
   SecondOperandBegun = false;
   Show();
   Accumulator = CurrentValue = 0;
-  TapeLine.clear();
+  OnClearAll();
 }
 
 void EntryEngine::Calculate(double first, double& second, std::string_view op) {
@@ -138,25 +137,31 @@ void EntryEngine::Calculate(double first, double& second, std::string_view op) {
 }
 
 void EntryEngine::Evaluate(double first, double& second, std::string_view op) {
-  const OperatorRow* row = FindOperator(Operators, op);
-  const std::string secondText = NumberToText(second);
-  if (!row || row->Operands == Arity::Binary)
-    TapeLine = NumberToText(first) + " " + std::string(op) + " " + secondText + " = ";
-  else if (row->TapeLead.empty())
-    TapeLine.clear();
-  else
-    TapeLine = std::string(row->TapeLead) + secondText + std::string(row->TapeTail);
-  if (row) second = row->Apply(first, second);
-  EntryText = NumberToText(second);
-  Show();
-  WriteTapeLine();
+  if (const OperatorRow* row = FindOperator(Operators, op)) second = row->Apply(first, second);
+  ShowResult(second);
 }
 
-void EntryEngine::WriteTapeLine() {
-  TapeLine += EntryText;
-  const std::string line = TapeLine + "\r\n";
-  TapeText += line;
-  Host.AppendTape(line);
+void EntryEngine::ShowResult(double& value) {
+  EntryText = WriteNumber(value);
+  Show();
+}
+
+std::string EntryEngine::WriteNumber(double value) const {
+  return NumberToText(value);
+}
+
+std::optional<double> EntryEngine::ReadNumber(std::string_view text) const {
+  return ParseNumber(text);
+}
+
+double EntryEngine::ValueOf(std::string_view text) const {
+  const auto value = ReadNumber(text);
+  if (!value) throw ArithmeticFault("the text is no number");
+  return *value;
+}
+
+bool EntryEngine::OperatorCompletesPending() const {
+  return LastAction != Biop;
 }
 
 void EntryEngine::Fail() {
@@ -176,6 +181,11 @@ bool EntryEngine::StartsAnew() const {
   return ErrorState || IsOneOf(LastAction, {qves::LastAction::Memory, Uop, Equal});
 }
 
+/// The number typed next is a new operand: after an operator, and in a group just opened.
+bool EntryEngine::StartsOperand() const {
+  return IsOneOf(LastAction, {Biop, LParen});
+}
+
 /// A pending operator waits for its second operand; a store after the operator does not begin it.
 bool EntryEngine::SecondOperandDue() const {
   return LastAction == Biop || (!PendingOp.empty() && !SecondOperandBegun);
@@ -189,7 +199,7 @@ void EntryEngine::BeginSecondOperand() {
 
 /// True when the number being typed has its point already.
 bool EntryEngine::EntryHoldsPoint() const {
-  if (StartsAnew() || LastAction == Biop) return false;
+  if (StartsAnew() || StartsOperand() || LastAction == RParen) return false;
   return EntryText.find(Separator()) != std::string::npos;
 }
 
@@ -198,7 +208,19 @@ void EntryEngine::CompletePending() {
 }
 
 void EntryEngine::Show() {
+  InsteadOfEntry.clear();
   Host.ShowDisplay(EntryText);
+}
+
+void EntryEngine::ShowInstead(std::string_view text) {
+  InsteadOfEntry = text;
+  Host.ShowDisplay(text);
+}
+
+void EntryEngine::ExtendInstead(std::string_view text) {
+  InsteadOfEntry = DisplayText();
+  InsteadOfEntry += text;
+  Host.ExtendDisplay(text);
 }
 
 /// Adds to the entry. An empty one is shown anew.
@@ -234,9 +256,7 @@ StateFields EntryEngine::Fields() const {
           {"MemoryText", MemoryCell.Text()},
           {"PendingOp", PendingOp},
           {"LastAction", std::string(ToWord(LastAction))},
-          {"CurrentOp", CurrentOp},
-          {"TapeLine", TapeLine},
-          {"TapeText", TapeText}};
+          {"CurrentOp", CurrentOp}};
 }
 
 }  // namespace qves

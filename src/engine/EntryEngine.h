@@ -1,7 +1,9 @@
 // Entry and evaluation: the state behind every view, and what each key does to it. There is no precedence: an
-// operator first completes the one pending before it, strictly from left to right.
+// operator first completes the one pending before it, strictly from left to right. A view whose engine knows
+// more derives its own and overrides the few hooks below.
 #pragma once
 
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -22,9 +24,6 @@ class EngineHost {
   /// The text shown grows at its end.
   virtual void ExtendDisplay(std::string_view text) = 0;
   virtual void ShowMemory(std::string_view indicator) = 0;
-  /// A line was added to the tape; it ends with "\r\n".
-  virtual void AppendTape(std::string_view line) = 0;
-  virtual void ClearTape() = 0;
 };
 
 /// The pressed key as the engine needs it.
@@ -41,17 +40,17 @@ class EntryEngine {
   EntryEngine(const EntryEngine&) = delete;
   EntryEngine& operator=(const EntryEngine&) = delete;
 
-  void Digit(const PressedKey& key);
-  void DecimalPoint(const PressedKey& key);
-  void Backspace(const PressedKey& key);
-  void ClearEntry(const PressedKey& key);
-  void BinaryOperator(const PressedKey& key);
-  void UnaryOperator(const PressedKey& key);
-  void Equals(const PressedKey& key);
-  /// MC, MR, MS, M+ or C, by the caption.
-  void Memory(const PressedKey& key);
+  virtual void Digit(const PressedKey& key);
+  virtual void DecimalPoint(const PressedKey& key);
+  virtual void Backspace(const PressedKey& key);
+  virtual void ClearEntry(const PressedKey& key);
+  virtual void BinaryOperator(const PressedKey& key);
+  virtual void UnaryOperator(const PressedKey& key);
+  virtual void Equals(const PressedKey& key);
+  /// MC, MR, MS, M+, C or Pi, by the caption.
+  virtual void Memory(const PressedKey& key);
 
-  /// Everything but the memory and the tape, back to "0".
+  /// Everything but the memory, back to "0".
   void ClearAll();
   /// Evaluates the operator of that caption; "" does nothing. `second` receives the result. A fault of the
   /// evaluation ends in the error state.
@@ -62,32 +61,40 @@ class EntryEngine {
   void FailAloud();
 
   bool InError() const { return ErrorState; }
-  /// What the display shows.
-  const std::string& DisplayText() const { return EntryText; }
-  const std::string& Tape() const { return TapeText; }
-  StateFields Fields() const;
+  /// What the display shows: the entry, or what stands in its place for the moment.
+  const std::string& DisplayText() const { return InsteadOfEntry.empty() ? EntryText : InsteadOfEntry; }
+  virtual StateFields Fields() const;
 
- private:
-  bool StartsAnew() const;
+ protected:
+  /// Computes the operator and shows the result, which `second` receives.
+  virtual void Evaluate(double first, double& second, std::string_view op);
+  /// Makes the result the entry and shows it.
+  virtual void ShowResult(double& value);
+  /// The text of a number as entries are written.
+  virtual std::string WriteNumber(double value) const;
+  /// The number that a text written as entries are stands for; nothing when it is none.
+  virtual std::optional<double> ReadNumber(std::string_view text) const;
+  /// The memory's text as entries are written.
+  virtual std::string RecalledText() const { return MemoryCell.Text(); }
+  /// The memory has just been written.
+  virtual void OnStored() {}
+  virtual void OnClearAll() {}
+  /// The clear-all key.
+  virtual void ClearEverything() { ClearAll(); }
+  /// Whether a binary operator completes the one pending before it.
+  virtual bool OperatorCompletesPending() const;
+
+  /// As ReadNumber, but faults when the text is no number.
+  double ValueOf(std::string_view text) const;
   bool SecondOperandDue() const;
-  void BeginSecondOperand();
-  bool EntryHoldsPoint() const;
   void CompletePending();
-  void Evaluate(double first, double& second, std::string_view op);
-  void WriteTapeLine();
   void Show();
-  void ExtendEntry(std::string_view text);
-  const std::string& Separator() const;
+  /// Shows that text instead of the entry until the entry is shown again.
+  void ShowInstead(std::string_view text);
+  void ExtendInstead(std::string_view text);
+  /// True when the display shows the entry itself.
+  bool ShowsEntry() const { return InsteadOfEntry.empty(); }
   void SayResult(std::string_view leadIn);
-
-  struct MemoryRow;
-  static const MemoryRow MemoryTable[];
-  void ClearMemory();
-  void ReturnMemory();
-  void StoreMemory();
-  void AddMemory();
-  void ClearAllAndTape();
-  bool RefuseNoNumber();
 
   std::span<const OperatorRow> Operators;
   EngineHost& Host;
@@ -102,11 +109,29 @@ class EntryEngine {
   std::string PendingOp;
   std::string CurrentOp;
   qves::LastAction LastAction = qves::LastAction::None;
-  std::string TapeLine;
-  std::string TapeText;
   bool ErrorState = false;
-  bool SecondOperandBegun =
-      false;  ///< by a digit, a point, a clear entry or a recall after the pending operator
+  /// By a digit, a point, a clear entry, a recall or an inner result after the pending operator.
+  bool SecondOperandBegun = false;
+
+ private:
+  bool StartsAnew() const;
+  bool StartsOperand() const;
+  void BeginSecondOperand();
+  bool EntryHoldsPoint() const;
+  void ExtendEntry(std::string_view text);
+  const std::string& Separator() const;
+
+  struct MemoryRow;
+  static const MemoryRow MemoryTable[];
+  void ClearMemory();
+  void ReturnMemory();
+  void StoreMemory();
+  void AddMemory();
+  void RecallPi();
+  void Recall(std::string text, double value);
+  bool RefuseNoNumber();
+
+  std::string InsteadOfEntry;
 };
 
 }  // namespace qves

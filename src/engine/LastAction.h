@@ -5,12 +5,12 @@
 
 namespace qves {
 
-enum class LastAction { None, Num, Decimal, Backspace, Ce, Biop, Uop, Equal, Memory };
+enum class LastAction { None, Num, Decimal, Backspace, Ce, Biop, Uop, Equal, Memory, LParen, RParen };
 
 /// The word of an action: "num", "biop", ...; "" for None.
 constexpr std::string_view ToWord(LastAction action) {
-  constexpr std::string_view words[] = {"",     "num", "decimal", "backspace", "CE",
-                                        "biop", "uop", "equal",   "memory"};
+  constexpr std::string_view words[] = {"",    "num",   "decimal", "backspace", "CE",    "biop",
+                                        "uop", "equal", "memory",  "lparen",    "rparen"};
   return words[static_cast<int>(action)];
 }
 

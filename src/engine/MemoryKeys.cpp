@@ -1,4 +1,5 @@
-// The memory group of the entry engine: MC, MR, MS, M+ and C (clear all, which keeps the memory).
+// The memory group of the entry engine: MC, MR, MS, M+, C (clear all, which keeps the memory), and Pi, which
+// acts as a recalled number does.
 #include <string>
 
 #include "engine/EntryEngine.h"
@@ -15,7 +16,7 @@ struct EntryEngine::MemoryRow {
 const EntryEngine::MemoryRow EntryEngine::MemoryTable[] = {
     {"MC", &EntryEngine::ClearMemory, false},    {"MR", &EntryEngine::ReturnMemory, false},
     {"MS", &EntryEngine::StoreMemory, true},     {"M+", &EntryEngine::AddMemory, true},
-    {"C", &EntryEngine::ClearAllAndTape, false},
+    {"C", &EntryEngine::ClearEverything, false}, {"Pi", &EntryEngine::RecallPi, false},
 };
 
 void EntryEngine::Memory(const PressedKey& key) {
@@ -35,31 +36,38 @@ void EntryEngine::ClearMemory() {
 }
 
 void EntryEngine::StoreMemory() {
-  MemoryCell.Store(EntryText);
+  MemoryCell.Store(DisplayText());
+  OnStored();
 }
 
 void EntryEngine::AddMemory() {
-  MemoryCell.Add(TextToNumber(EntryText));
+  const double sum = Checked(ValueOf(RecalledText()) + ValueOf(DisplayText()));
+  MemoryCell.Store(WriteNumber(sum));
+  OnStored();
 }
 
-/// A recall after an operator begins its second operand, as a digit does.
 void EntryEngine::ReturnMemory() {
+  std::string text = RecalledText();
+  const double value = ValueOf(text);
+  Recall(std::move(text), value);
+}
+
+void EntryEngine::RecallPi() {
+  Recall(NumberToText(Pi), Pi);
+}
+
+/// After an operator a recalled number begins its second operand, as a digit does.
+void EntryEngine::Recall(std::string text, double value) {
   if (SecondOperandDue()) BeginSecondOperand();
-  EntryText = MemoryCell.Text();
-  CurrentValue = MemoryCell.Value();
+  EntryText = std::move(text);
+  CurrentValue = value;
   ErrorState = false;
   Show();
 }
 
-void EntryEngine::ClearAllAndTape() {
-  ClearAll();
-  TapeText.clear();
-  Host.ClearTape();
-}
-
 /// A display that is no number cannot be stored: said, and nothing changes.
 bool EntryEngine::RefuseNoNumber() {
-  if (!ErrorState && ParseNumber(EntryText)) return false;
+  if (!ErrorState && ReadNumber(DisplayText())) return false;
   Says.SayError();
   return true;
 }

@@ -15,10 +15,6 @@ class MemoryRegister {
   void Clear();
   /// Keeps the text as it stands, a trailing point included.
   void Store(std::string_view text);
-  /// Adds the number; faults when the sum is not finite, and then keeps what it held.
-  void Add(double number);
-  /// The number held. Faults when it is none.
-  double Value() const;
 
  private:
   std::string MemoryText = "0";

@@ -4,6 +4,7 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <limits>
 
 #include "model/ArithmeticFault.h"
 
@@ -65,6 +66,14 @@ bool IsHuge(const NumberParts& parts) {
   return order + (negative ? -exponent : exponent) > 0;
 }
 
+template <class Integer>
+Integer ToInteger(double value) {
+  const double rounded = std::nearbyint(value);
+  if (!(rounded >= std::numeric_limits<Integer>::min() && rounded <= std::numeric_limits<Integer>::max()))
+    throw ArithmeticFault("the number is outside its integer range");
+  return static_cast<Integer>(rounded);
+}
+
 }  // namespace
 
 double Checked(double value) {
@@ -98,6 +107,14 @@ std::optional<double> ParseNumber(std::string_view text) {
     value = 0;
   }
   return negative ? -value : value;
+}
+
+std::int32_t ToInt32(double value) {
+  return ToInteger<std::int32_t>(value);
+}
+
+std::int16_t ToInt16(double value) {
+  return ToInteger<std::int16_t>(value);
 }
 
 bool IsBeyondADouble(std::string_view entry) {

@@ -1,11 +1,14 @@
 // Numbers and their texts. Nothing here depends on the locale.
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
 
 namespace qves {
+
+inline constexpr double Pi = 3.1415926535897932384626433832795;
 
 /// The value itself; faults when it is not finite.
 double Checked(double value);
@@ -18,6 +21,10 @@ std::string NumberToText(double value);
 /// that has no digit yet counts as absent. Nothing when the text is no number; faults when it is beyond a
 /// double; a value too small for one is 0.
 std::optional<double> ParseNumber(std::string_view text);
+
+/// The value rounded, halves to even, as a signed integer of that many bits. Faults outside its range.
+std::int32_t ToInt32(double value);
+std::int16_t ToInt16(double value);
 
 /// True when one more digit at the end of a plain decimal entry can no longer change its value: it stands so
 /// far behind the point that a double does not see it. Keeps the typing of very long entries quick.

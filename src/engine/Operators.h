@@ -8,14 +8,15 @@ namespace qves {
 
 enum class Arity { Unary, Binary };
 
-/// One operator. `Apply` takes the first and the second operand (a unary operator looks at the second only)
-/// and faults outside its domain.
+/// Takes the first and the second operand (a unary operator looks at the second only); faults outside its
+/// domain.
+using OperatorFunction = double (*)(double first, double second);
+
 struct OperatorRow {
   std::string_view Caption;
   Arity Operands = Arity::Binary;
-  double (*Apply)(double first, double second) = nullptr;
-  std::string_view TapeLead = {};  ///< before the operand on the tape line of a unary operator
-  std::string_view TapeTail = {};  ///< after it; both empty: the tape line is the result alone
+  OperatorFunction Apply = nullptr;
+  OperatorFunction Inverse = nullptr;  ///< with the inverse box checked; none: as without it
 };
 
 /// The operator of that caption; null when the table has none.

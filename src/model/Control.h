@@ -2,15 +2,17 @@
 #pragma once
 
 #include <cstddef>
+#include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace qves {
 
 class TtsEngine;
 class TtsSpeaker;
 
-enum class ControlKind { Button, TextBox };
+enum class ControlKind { Button, TextBox, CheckBox, ListBox };
 
 /// Where a control stands: a panel of the window, and the cell inside the panel's own grid.
 struct GridCell {
@@ -33,6 +35,12 @@ enum ControlTrait : unsigned {
 inline constexpr int NoIndex = -1;   ///< the index of a control that is no member of an array
 inline constexpr int NoMessage = 0;  ///< no message of this kind
 
+/// One item of a list.
+struct ListItemSpec {
+  int TextMessage = NoMessage;    ///< what the list shows
+  int SpokenMessage = NoMessage;  ///< what is spoken when it is chosen
+};
+
 /// One row of a view's control table.
 struct ControlSpec {
   std::string_view Name = {};  ///< of the control, or of its array
@@ -44,6 +52,7 @@ struct ControlSpec {
   int HelpMessage = NoMessage;     ///< the message that F1 speaks
   GridCell Cell = {};
   unsigned Traits = PlainControl;
+  std::span<const ListItemSpec> Items = {};  ///< of a list
 };
 
 /// What the speech service hands to every control that speaks for itself.
@@ -89,6 +98,30 @@ class TextBox : public Control {
   std::string Text;
   std::size_t SelStart = 0;
   std::size_t SelLength = 0;
+};
+
+class CheckBox : public Control {
+ public:
+  using Control::Control;
+  bool Checked = false;
+};
+
+struct ListItem {
+  std::string Text;
+  std::string SpokenText;
+};
+
+/// A list of fixed items, of which one is chosen.
+class ListBox : public Control {
+ public:
+  ListBox(const ControlSpec& spec, std::string caption, std::string spokenName, std::string helpText,
+          std::vector<ListItem> items)
+      : Control(spec, std::move(caption), std::move(spokenName), std::move(helpText)),
+        Items(std::move(items)) {}
+  const std::vector<ListItem> Items;
+  int ListIndex = 0;  ///< of the chosen item, from 0
+
+  const ListItem& Chosen() const { return Items[static_cast<std::size_t>(ListIndex)]; }
 };
 
 }  // namespace qves

@@ -19,13 +19,26 @@ Control& Form::Add(std::unique_ptr<Control> control) {
   return *ControlList.back();
 }
 
-void Form::Click(Control& control) {
-  if (!control.Enabled) return;
+/// The one place where a fault outside an evaluation ends.
+template <class Handler>
+void Form::Guarded(Handler handler) {
   try {
-    OnClick(control);
+    handler();
   } catch (const ArithmeticFault&) {
     OnFault();
   }
+}
+
+void Form::Click(Control& control) {
+  if (!control.Enabled) return;
+  if (auto* box = dynamic_cast<CheckBox*>(&control)) SetChecked(*box, !box->Checked);
+  Guarded([&] { OnClick(control); });
+}
+
+void Form::Choose(ListBox& list, int item) {
+  if (!list.Enabled || item == list.ListIndex || item < 0 || item >= std::ssize(list.Items)) return;
+  PlaceChoice(list, item);
+  Guarded([&] { OnChoose(list); });
 }
 
 void Form::MouseClick(Control& control) {
@@ -54,7 +67,6 @@ void Form::PlaceFocus(Control& control) {
 bool Form::KeyDown(const KeyEvent& event) {
   if (Focused && OnControlKey(*Focused, event)) return true;
   if ((event.Shift & AltBit) != 0) return false;
-  const bool onButton = dynamic_cast<Button*>(Focused) != nullptr;
   switch (event.Code) {
     case KeyTab:
       if ((event.Shift & ControlBit) != 0) return false;
@@ -63,25 +75,55 @@ bool Form::KeyDown(const KeyEvent& event) {
     case KeyEnter:
       return PressEnter();
     case KeySpace:
-      if (onButton) Click(*Focused);
-      return onButton;
+      return PressSpace();
     default:
-      // Arrows on a button would move the focus in some toolkits; here only Tab does.
-      return onButton && event.Code >= KeyPageUp && event.Code <= qves::KeyDown;
+      return event.Code >= KeyPageUp && event.Code <= qves::KeyDown && MoveInList(event);
   }
 }
 
-bool Form::PressEnter() {
-  Control* target = nullptr;
-  if (EnterPressesFocused && dynamic_cast<Button*>(Focused)) {
-    target = Focused;
-  } else {
-    const auto found = std::find_if(ControlList.begin(), ControlList.end(),
-                                    [](const auto& control) { return control->Has(DefaultButton); });
-    if (found != ControlList.end()) target = found->get();
+bool Form::PressSpace() {
+  const bool pressable = dynamic_cast<Button*>(Focused) || dynamic_cast<CheckBox*>(Focused);
+  if (pressable) Click(*Focused);
+  return pressable || dynamic_cast<ListBox*>(Focused);
+}
+
+/// The keys from Page Up to Down. On a button or a check box they would move the focus in some toolkits; here
+/// only Tab does.
+bool Form::MoveInList(const KeyEvent& event) {
+  if (dynamic_cast<TextBox*>(Focused)) return false;
+  auto* list = dynamic_cast<ListBox*>(Focused);
+  if (!list) return Focused != nullptr;
+  switch (event.Code) {
+    case qves::KeyUp:
+      Choose(*list, list->ListIndex - 1);
+      break;
+    case qves::KeyDown:
+      Choose(*list, list->ListIndex + 1);
+      break;
+    case KeyHome:
+    case KeyPageUp:
+      Choose(*list, 0);
+      break;
+    case KeyEnd:
+    case KeyPageDown:
+      Choose(*list, static_cast<int>(list->Items.size()) - 1);
+      break;
+    default:
+      break;
   }
+  return true;
+}
+
+bool Form::PressEnter() {
+  Control* target = EnterPressesFocused && dynamic_cast<Button*>(Focused) ? Focused : DefaultControl();
   if (target) Click(*target);
   return target != nullptr;
+}
+
+Control* Form::DefaultControl() const {
+  const auto found = std::find_if(ControlList.begin(), ControlList.end(),
+                                  [](const auto& control) { return control->Has(DefaultButton); });
+  return found == ControlList.end() ? nullptr : found->get();
 }
 
 void Form::MoveFocus(int step) {
@@ -129,6 +171,24 @@ void Form::SelectAll(TextBox& box) {
   box.SelStart = 0;
   box.SelLength = box.Text.size();
   Tell([&](FormObserver& observer) { observer.ControlChanged(*this, box); });
+}
+
+void Form::SetChecked(CheckBox& box, bool checked) {
+  if (box.Checked == checked) return;
+  box.Checked = checked;
+  Tell([&](FormObserver& observer) { observer.ControlChanged(*this, box); });
+}
+
+void Form::PlaceChoice(ListBox& list, int item) {
+  list.ListIndex = item;
+  Tell([&](FormObserver& observer) { observer.ControlChanged(*this, list); });
+}
+
+void Form::SetEnabled(Control& control, bool enabled) {
+  if (control.Enabled == enabled) return;
+  control.Enabled = enabled;
+  if (Control* rest = DefaultControl(); !enabled && Focused == &control && rest) PlaceFocus(*rest);
+  Tell([&](FormObserver& observer) { observer.ControlChanged(*this, control); });
 }
 
 void Form::AddObserver(FormObserver& observer) {

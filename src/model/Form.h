@@ -55,9 +55,12 @@ class Form {
   virtual void Form_Load() {}
   virtual void Form_Unload() {}
 
-  /// Presses a control, by key or by mouse: the one way to its handler. A disabled control does nothing. A
-  /// fault of the handler ends here, in OnFault.
+  /// Presses a control, by key or by mouse: the one way to its handler. A disabled control does nothing; a
+  /// check box is turned over first. A fault of the handler ends here, in OnFault.
   void Click(Control& control);
+  /// Chooses a list's item, by key or by mouse: the one way to the list's handler. Choosing the chosen one,
+  /// or one that the list has not, is nothing. A fault of the handler ends here, in OnFault.
+  void Choose(ListBox& list, int item);
   /// What a mouse click, or a screen reader's press, does: the focus, then the click.
   void MouseClick(Control& control);
   /// The user went to the control, with Tab, the mouse or a screen reader. From then on Enter presses it.
@@ -68,8 +71,8 @@ class Form {
 
   /// The view's key map. Sets `handled` when it has used the key.
   virtual void NotifyKeyDown(bool& /*handled*/, const KeyEvent&) {}
-  /// A key that the keyboard hook let through: the focused control's own keys, Tab, Enter and Space. True
-  /// when used; else the key is the toolkit's own (a copy, a movement in a text).
+  /// A key that the keyboard hook let through: the focused control's own keys, Tab, Enter, Space, and in a
+  /// list the arrows. True when used; else the key is the toolkit's own (a copy, a movement in a text).
   bool KeyDown(const KeyEvent& event);
   /// A key release.
   virtual void Form_KeyUp(int /*keyCode*/) {}
@@ -92,12 +95,18 @@ class Form {
   void SetText(TextBox& box, std::string_view text);
   void AppendText(TextBox& box, std::string_view text);
   void SelectAll(TextBox& box);
+  void SetChecked(CheckBox& box, bool checked);
+  /// Sets the chosen item without a word and without the list's handler.
+  void PlaceChoice(ListBox& list, int item);
+  /// A control that is switched off while it has the focus hands it to the default button, without a word.
+  void SetEnabled(Control& control, bool enabled);
   /// Puts the focus on a control without a word.
   void PlaceFocus(Control& control);
   /// After a key of the key map has acted, Enter presses the default button.
   void EnterPressesDefault() { EnterPressesFocused = false; }
 
   virtual void OnClick(Control&) {}
+  virtual void OnChoose(ListBox&) {}
   virtual void OnGotFocus(Control&) {}
   /// The focused control's own keys (help, name, copy). True when used.
   virtual bool OnControlKey(Control&, const KeyEvent&) { return false; }
@@ -109,7 +118,12 @@ class Form {
   std::vector<Menu> MenuList;
 
  private:
+  template <class Handler>
+  void Guarded(Handler handler);
+  bool PressSpace();
   bool PressEnter();
+  bool MoveInList(const KeyEvent& event);
+  Control* DefaultControl() const;
   void MoveFocus(int step);
   template <class Notify>
   void Tell(Notify notify);

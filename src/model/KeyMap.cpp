@@ -13,6 +13,10 @@ bool Allows(ShiftRule rule, int shift) {
       return shift == ShiftBit;
     case ShiftRule::Control:
       return shift == ControlBit;
+    case ShiftRule::NotControl:
+      return shift != ControlBit;
+    case ShiftRule::NotAlt:
+      return shift != AltBit;
   }
   return false;
 }
@@ -25,9 +29,14 @@ bool Matches(const KeyRow& row, const KeyEvent& event) {
 
 }  // namespace
 
-const KeyRow* FindKeyRow(std::span<const KeyRow> rows, const KeyEvent& event) {
+int IndexFor(const KeyRow& row, const KeyEvent& event) {
+  return row.IndexFromCode ? event.Code + row.Index : row.Index;
+}
+
+const KeyRow* FindKeyRow(std::span<const KeyRow> rows, const KeyEvent& event,
+                         const std::function<bool(const KeyRow&)>& counts) {
   for (const KeyRow& row : rows)
-    if (Matches(row, event)) return &row;
+    if (Matches(row, event) && counts(row)) return &row;
   return nullptr;
 }
 

@@ -1,6 +1,7 @@
 // A view's key map as a table: the first row that matches a key press decides.
 #pragma once
 
+#include <functional>
 #include <span>
 #include <string_view>
 
@@ -9,8 +10,9 @@
 
 namespace qves {
 
-/// Which shift states a row takes; None, Shift and Control compare the whole state.
-enum class ShiftRule { Any, None, Shift, Control };
+/// Which shift states a row takes. All but Any compare the whole state; NotControl and NotAlt take every
+/// state but that one.
+enum class ShiftRule { Any, None, Shift, Control, NotControl, NotAlt };
 
 enum class KeyAction {
   Click,         ///< press the control, as a mouse click would
@@ -28,9 +30,14 @@ struct KeyRow {
   std::string_view Control = {};  ///< the control to click or to focus
   int Index = NoIndex;            ///< in its array; with IndexFromCode what is added to the key code
   bool IndexFromCode = false;
+  bool WhileEnabled = false;  ///< the row counts only while its control is enabled
 };
 
-/// The first row that the event matches; null when none does.
-const KeyRow* FindKeyRow(std::span<const KeyRow> rows, const KeyEvent& event);
+/// The index, in its array, of the control that the row means for that key.
+int IndexFor(const KeyRow& row, const KeyEvent& event);
+
+/// The first row that the event matches and that counts at the moment; null when none does.
+const KeyRow* FindKeyRow(std::span<const KeyRow> rows, const KeyEvent& event,
+                         const std::function<bool(const KeyRow&)>& counts);
 
 }  // namespace qves

@@ -1,4 +1,4 @@
-// The small outside things: folders, registry, clock and event queue.
+// The small outside things: folders, registry, clock, random numbers and event queue.
 #pragma once
 
 #include <cstdint>
@@ -43,6 +43,13 @@ class Clock {
   virtual Date Today() = 0;
   /// The local date and time in ISO 8601.
   virtual std::string LocalDateTime() = 0;
+};
+
+class RandomSource {
+ public:
+  virtual ~RandomSource() = default;
+  /// The next random number, in [0, 1).
+  virtual double Next() = 0;
 };
 
 /// The queue of the calculator's one thread.

@@ -20,6 +20,7 @@ struct Platform {
   qves::Registry& RegistryStore;
   qves::Clock& Clock;
   EventPump& Events;
+  RandomSource& Random;
 };
 
 }  // namespace qves

@@ -20,11 +20,18 @@ std::string NameOf(const Control& control) {
 Json Describe(const Control& control) {
   Json out = {{"name", control.Name()}};
   if (control.Index() != NoIndex) out["index"] = control.Index();
+  const auto* list = dynamic_cast<const ListBox*>(&control);
   if (const auto* box = dynamic_cast<const TextBox*>(&control))
     out["text"] = box->Text;
-  else
+  else if (!list)
     out["caption"] = control.Caption;
   out["enabled"] = control.Enabled;
+  if (const auto* box = dynamic_cast<const CheckBox*>(&control)) out["checked"] = box->Checked;
+  if (list) {
+    out["items"] = Json::array();
+    for (const ListItem& item : list->Items) out["items"].push_back(item.Text);
+    out["selected"] = list->ListIndex;
+  }
   return out;
 }
 

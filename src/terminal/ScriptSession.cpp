@@ -61,10 +61,11 @@ ScriptSession::ScriptSession(const Options& options)
       Files(Directories.ConfinedTo(), Directories.ProgramFolder()),
       RegistryStore(Files, Directories.ConfigFolder() + "/QVES/registry.ini"),
       TheClock(options.Today),
+      Random(options.Seed),
       RealSpeech(options.Speech ? LoadSpeech(*options.Speech, Events) : nullptr),
       Speech(Spoken, RealSpeech.get()),
-      Outside{Speech, Hook,        Hints,         WindowMessages, Windows,
-              Files,  Directories, RegistryStore, TheClock,       Events},
+      Outside{Speech,      Hook,          Hints,    WindowMessages, Windows, Files,
+              Directories, RegistryStore, TheClock, Events,         Random},
       Services_(Outside),
       App(Services_.All, *this) {
   Files.RefuseRelativePaths();  // the messages are those of the program's own folder
@@ -139,7 +140,16 @@ std::string ScriptSession::Focus(std::string_view argument) {
 }
 
 std::string ScriptSession::Select(std::string_view argument) {
-  return Quoted(TakeWord(argument)) + " is no list of this form";
+  const std::string_view name = TakeWord(argument);
+  const auto item = ToNumber(argument);
+  if (name.empty() || !item) return "a list's name is wanted, and the index of the item";
+  Form* form = App.ActiveForm();
+  if (!form) return "";
+  auto* list = dynamic_cast<ListBox*>(form->Find(name));
+  if (!list) return Quoted(name) + " is no list of this form";
+  if (*item < 0 || *item >= std::ssize(list->Items)) return "the list has no item " + std::string(argument);
+  form->Choose(*list, *item);
+  return "";
 }
 
 std::string ScriptSession::ChooseMenu(std::string_view argument) {

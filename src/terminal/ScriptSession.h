@@ -10,6 +10,7 @@
 #include "posix/EventQueue.h"
 #include "posix/IniRegistry.h"
 #include "posix/PosixFileStore.h"
+#include "posix/SeededRandom.h"
 #include "posix/SystemClock.h"
 #include "services/ServiceSet.h"
 #include "terminal/JsonLine.h"
@@ -60,6 +61,7 @@ class ScriptSession : private AppObserver, private FormObserver {
   IniRegistry RegistryStore;
   SystemClock TheClock;
   EventQueue Events;
+  SeededRandom Random;
   TerminalWindows Windows;
   KeyCapture Hook;
   HintNotify Hints;

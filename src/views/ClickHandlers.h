@@ -1,6 +1,7 @@
-// What a click of each control array does, in every view.
+// What a click of each control array does.
 #pragma once
 
+#include <span>
 #include <string_view>
 
 #include "engine/EntryEngine.h"
@@ -9,12 +10,19 @@ namespace qves {
 
 struct ClickRow {
   std::string_view Array;
-  void (EntryEngine::*Operation)(const PressedKey&);
+  void (*Operation)(EntryEngine&, const PressedKey&);
   bool TakesFocus;  ///< the focus follows the key to the control; not with unary operators, equals and
                     ///< backspace
 };
 
-/// The row of that control or array; null when it has none.
-const ClickRow* FindClickRow(std::string_view array);
+/// A click operation out of an operation of the view's own engine.
+template <class Engine, void (Engine::*Operation)(const PressedKey&)>
+void Do(EntryEngine& engine, const PressedKey& key) {
+  (static_cast<Engine&>(engine).*Operation)(key);
+}
+
+/// The row of that control or array, of those that the view has alone or of those that all views share; null
+/// when it has none.
+const ClickRow* FindClickRow(std::span<const ClickRow> ofTheView, std::string_view array);
 
 }  // namespace qves

@@ -4,7 +4,6 @@
 
 #include "model/ArithmeticFault.h"
 #include "services/WindowActivation.h"
-#include "views/ClickHandlers.h"
 #include "views/LockKeys.h"
 #include "views/MenuIds.h"
 
@@ -16,6 +15,8 @@ constexpr int WelcomeMessage = 101;
 constexpr int CopyMessage = 50;
 constexpr int ErrorMessage = 1202;
 constexpr int CurrentValueMessage = 1201;
+constexpr int CheckedMessage = 1134;
+constexpr int ClearMessage = 1135;
 constexpr int AllSelectedMessage = 1600;
 constexpr std::string_view HostWindow = " Quorvane 1000";
 constexpr KeyEvent CopyKey{'C', ControlBit, 0};
@@ -29,31 +30,40 @@ bool Is(const KeyEvent& event, const KeyEvent& key) {
 
 View::View(const ViewTables& tables, Services& services, ViewFrame& frame)
     : Form(std::string(tables.FormName), services.Messages.GetMessage(TitleMessage)),
-      Tables(tables),
       Services_(services),
-      Frame(frame),
-      Says(services.Speech, services.Messages) {
+      Says(services.Speech, services.Messages),
+      Tables(tables),
+      Frame(frame) {
   AddControls();
   AddMenus();
   PanelList.assign(Tables.Panels.begin(), Tables.Panels.end());
-  EngineHost& host = *this;
-  Engine = std::make_unique<EntryEngine>(Tables.Operators, host, Says);
 }
 
 void View::AddControls() {
-  for (const ControlSpec& spec : Tables.Controls) {
-    const std::string caption =
-        spec.CaptionMessage == NoMessage ? std::string(spec.Caption) : Message(spec.CaptionMessage);
-    const std::string name = spec.NameMessage == NoMessage ? caption : Message(spec.NameMessage);
-    const std::string help = spec.HelpMessage == NoMessage ? "" : Message(spec.HelpMessage);
-    if (spec.Kind == ControlKind::TextBox)
-      Add(std::make_unique<TextBox>(spec, caption, name, help));
-    else
-      Add(std::make_unique<Button>(spec, caption, name, help));
-  }
+  for (const ControlSpec& spec : Tables.Controls) Add(MakeControl(spec));
   Display = static_cast<TextBox*>(Find("txtDisplay"));
-  Tape = static_cast<TextBox*>(Find("txtResult"));
   MemoryBox = static_cast<TextBox*>(Find("txtMemory"));
+}
+
+std::unique_ptr<Control> View::MakeControl(const ControlSpec& spec) const {
+  const std::string caption =
+      spec.CaptionMessage == NoMessage ? std::string(spec.Caption) : Message(spec.CaptionMessage);
+  const std::string name = spec.NameMessage == NoMessage ? caption : Message(spec.NameMessage);
+  const std::string help = spec.HelpMessage == NoMessage ? "" : Message(spec.HelpMessage);
+  switch (spec.Kind) {
+    case ControlKind::Button:
+      return std::make_unique<Button>(spec, caption, name, help);
+    case ControlKind::TextBox:
+      return std::make_unique<TextBox>(spec, caption, name, help);
+    case ControlKind::CheckBox:
+      return std::make_unique<CheckBox>(spec, caption, name, help);
+    case ControlKind::ListBox:
+      break;
+  }
+  std::vector<ListItem> items;
+  for (const ListItemSpec& item : spec.Items)
+    items.push_back({Message(item.TextMessage), Message(item.SpokenMessage)});
+  return std::make_unique<ListBox>(spec, caption, name, help, std::move(items));
 }
 
 void View::AddMenus() {
@@ -104,20 +114,21 @@ void View::ShutDownSpeech() {
 }
 
 void View::NotifyKeyDown(bool& handled, const KeyEvent& event) {
-  const KeyRow* row = FindKeyRow(Tables.KeyMap, event);
+  const auto target = [&](const KeyRow& row) { return Find(row.Control, IndexFor(row, event)); };
+  const KeyRow* row = FindKeyRow(
+      Tables.KeyMap, event, [&](const KeyRow& one) { return !one.WhileEnabled || target(one)->Enabled; });
   if (!row || row->Action == KeyAction::LeaveIt) return;
   handled = true;
   EnterPressesDefault();
-  if (row->Action == KeyAction::RepeatSpeech) {
-    Services_.Speech.SpeakText(std::string(Services_.Speech.LastSpokenText()));
-    return;
+  switch (row->Action) {
+    case KeyAction::RepeatSpeech:
+      return Services_.Speech.SpeakText(std::string(Services_.Speech.LastSpokenText()));
+    case KeyAction::Focus:
+      return SetFocus(*target(*row));
+    default:
+      Click(*target(*row));
+      if (Control* rest = Find(Tables.RestingControl); rest && rest != FocusedControl()) PlaceFocus(*rest);
   }
-  Control* control = Find(row->Control, row->IndexFromCode ? event.Code + row->Index : row->Index);
-  if (!control) return;
-  if (row->Action == KeyAction::Focus)
-    SetFocus(*control);
-  else
-    Click(*control);
 }
 
 void View::Form_KeyUp(int keyCode) {
@@ -126,36 +137,49 @@ void View::Form_KeyUp(int keyCode) {
 
 void View::OnClick(Control& control) {
   if (dynamic_cast<TextBox*>(&control)) return SayOf(control, false);
-  const ClickRow* row = FindClickRow(control.Name());
+  if (const auto* box = dynamic_cast<CheckBox*>(&control))
+    return Services_.Speech.SpeakText(box->SpokenName + " " +
+                                      Message(box->Checked ? CheckedMessage : ClearMessage));
+  const ClickRow* row = FindClickRow(Tables.Clicks, control.Name());
   if (!row) return;
   if (row->TakesFocus) SetFocus(control);
   Says.BeginKey();
-  (Engine.get()->*row->Operation)({control.Caption, control.SpokenName});
+  row->Operation(*Engine, {control.Caption, control.SpokenName});
+}
+
+void View::OnChoose(ListBox& list) {
+  Says.BeginKey();
+  Says.Say(list.Chosen().SpokenText);
+  OnNewChoice(list);
 }
 
 void View::OnGotFocus(Control& control) {
   SayOf(control, &control == Display);
+  const bool saysHelp = dynamic_cast<CheckBox*>(&control) || dynamic_cast<ListBox*>(&control);
+  if (saysHelp && !control.Speaking.Quiescent) Services_.Speech.SpeakTextQueued(control.HelpText);
 }
 
-/// What a control says of itself: the display its value, the tape all of it, the memory indicator its name
-/// and its mark, any other its name.
 void View::SayOf(const Control& control, bool queued) {
-  std::string text = control.SpokenName;
-  if (&control == MemoryBox && !MemoryBox->Text.empty()) {
-    text += " " + MemoryBox->Text;
-  } else if (&control == Tape) {
-    text = Services_.Speech.SpeechFormatNumber(Tape->Text);
-  } else if (&control == Display) {
-    SelectAll(*Display);  // so that a copy takes all of it
-    text = Engine->InError() ? Message(ErrorMessage)
-                             : FillPlaceholders(Message(CurrentValueMessage),
-                                                {Services_.Speech.SpeechFormatNumber(Engine->DisplayText())});
-  }
+  const std::string text = Announcement(control);
   if (control.Speaking.Quiescent) return;
   if (queued)
     Services_.Speech.SpeakTextQueued(text);
   else
     Services_.Speech.SpeakText(text);
+}
+
+/// What a control says of itself: the display its value, a box of several lines all of them, the memory
+/// indicator its name and its mark, a list its chosen item, any other its name.
+std::string View::Announcement(const Control& control) {
+  if (&control == MemoryBox && !MemoryBox->Text.empty()) return control.SpokenName + " " + MemoryBox->Text;
+  if (const auto* list = dynamic_cast<const ListBox*>(&control)) return list->Chosen().SpokenText;
+  if (control.Has(MultiLine))
+    return Services_.Speech.SpeechFormatNumber(static_cast<const TextBox&>(control).Text);
+  if (&control != Display) return control.SpokenName;
+  SelectAll(*Display);  // so that a copy takes all of it
+  if (Engine->InError()) return Message(ErrorMessage);
+  return FillPlaceholders(Message(CurrentValueMessage),
+                          {Services_.Speech.SpeechFormatNumber(Engine->DisplayText())});
 }
 
 bool View::OnControlKey(Control& control, const KeyEvent& event) {
@@ -208,18 +232,6 @@ void View::ChooseView(int id) {
 void View::SayNotAvailable(int titleMessage) {
   Services_.Speech.SpeakText(Message(titleMessage));
   Services_.Speech.SpeakTextQueued(Message(NotAvailableMessage));
-}
-
-void View::ShowMemory(std::string_view indicator) {
-  if (MemoryBox) SetText(*MemoryBox, indicator);
-}
-
-void View::AppendTape(std::string_view line) {
-  if (Tape) AppendText(*Tape, line);
-}
-
-void View::ClearTape() {
-  if (Tape) SetText(*Tape, "");
 }
 
 }  // namespace qves

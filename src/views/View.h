@@ -10,6 +10,7 @@
 #include "model/Form.h"
 #include "model/KeyMap.h"
 #include "services/Services.h"
+#include "views/ClickHandlers.h"
 #include "views/ViewFrame.h"
 
 namespace qves {
@@ -22,10 +23,11 @@ struct ViewTables {
   std::span<const ControlSpec> Controls;
   std::span<const PanelSpec> Panels;
   std::span<const KeyRow> KeyMap;
-  std::span<const OperatorRow> Operators;
+  std::span<const ClickRow> Clicks = {};  ///< of the controls that this view has alone
+  std::string_view RestingControl = {};   ///< where the focus goes, without a word, after a key has acted
 };
 
-class View : public Form, private EngineHost {
+class View : public Form, protected EngineHost {
  public:
   View(const ViewTables& tables, Services& services, ViewFrame& frame);
 
@@ -35,38 +37,46 @@ class View : public Form, private EngineHost {
   void Form_KeyUp(int keyCode) override;
   StateFields EngineState() const override { return Engine->Fields(); }
 
- private:
+ protected:
+  /// The view's engine; each view gives its own once, in its constructor.
+  void UseEngine(std::unique_ptr<EntryEngine> engine) { Engine = std::move(engine); }
+
   // EngineHost
   void ShowDisplay(std::string_view text) override { SetText(*Display, text); }
   void ExtendDisplay(std::string_view text) override { AppendText(*Display, text); }
-  void ShowMemory(std::string_view indicator) override;
-  void AppendTape(std::string_view line) override;
-  void ClearTape() override;
+  void ShowMemory(std::string_view indicator) override { SetText(*MemoryBox, indicator); }
 
+  /// The user has chosen another item; it has been spoken.
+  virtual void OnNewChoice(ListBox&) {}
+
+  Services& Services_;
+  Announcer Says;
+
+ private:
   // Form
   void OnClick(Control& control) override;
+  void OnChoose(ListBox& list) override;
   void OnGotFocus(Control& control) override;
   bool OnControlKey(Control& control, const KeyEvent& event) override;
   void OnMenu(int id) override;
   void OnFault() override { Engine->FailAloud(); }
 
   void AddControls();
+  std::unique_ptr<Control> MakeControl(const ControlSpec& spec) const;
   void AddMenus();
   void CreateSpeech();
   void ShutDownSpeech();
   void SayOf(const Control& control, bool queued);
+  std::string Announcement(const Control& control);
   bool TextBoxKey(TextBox& box, const KeyEvent& event);
   void ChooseView(int id);
   void SayNotAvailable(int titleMessage);
   const std::string& Message(int id) const { return Services_.Messages.GetMessage(id); }
 
   const ViewTables& Tables;
-  Services& Services_;
   ViewFrame& Frame;
-  Announcer Says;
   std::unique_ptr<EntryEngine> Engine;
   TextBox* Display = nullptr;
-  TextBox* Tape = nullptr;  ///< none in most views
   TextBox* MemoryBox = nullptr;
 };
 

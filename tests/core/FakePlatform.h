@@ -83,6 +83,10 @@ struct FakeEvents : EventPump {
   }
 };
 
+struct FakeRandom : RandomSource {
+  double Next() override { return 0.25; }
+};
+
 struct FakeWindows : WindowSystem {
   std::vector<TopLevelWindow> Windows;
   std::vector<std::string> Deeds;  ///< what was asked, in order
@@ -169,8 +173,9 @@ struct FakePlatform {
   FakeRegistry RegistryStore;
   FakeClock TheClock;
   FakeEvents Events;
-  Platform All{Speech, Keys,        Hints,         WindowMessages, Windows,
-               Files,  Directories, RegistryStore, TheClock,       Events};
+  FakeRandom Random;
+  Platform All{Speech,      Keys,          Hints,    WindowMessages, Windows, Files,
+               Directories, RegistryStore, TheClock, Events,         Random};
 
   FakePlatform() {
     Files.Content["/program/Messages.txt"] =

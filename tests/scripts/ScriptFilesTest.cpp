@@ -3,7 +3,8 @@
 //   tape     a line added to the tape
 //   display, memory, focus   when they differ from before
 //   error    when the line is no command
-// "== title" starts a new calculator; lines "host KEY,VALUE" right below it are its host settings file.
+// "== title" starts a new calculator; right below it, "view NAME" is the view that it opens, and lines
+// "host KEY,VALUE" are its host settings file.
 // QVES_UPDATE_SCRIPTS=1 rewrites the scripts from what the calculator does: read the difference before you
 // keep it.
 #include <gtest/gtest.h>
@@ -45,6 +46,8 @@ class ScriptRunner {
       out += line + "\n";
       if (line.starts_with("== "))
         Restart();
+      else if (line.starts_with("view "))
+        SetView(StartOptions, line.substr(5));
       else if (line.starts_with("host "))
         HostSettings += line.substr(5) + "\n";
       else if (!line.empty() && line[0] != '#')
@@ -58,6 +61,7 @@ class ScriptRunner {
     Session.reset();
     Home = std::make_unique<TemporaryFolder>();
     HostSettings.clear();
+    StartOptions = {};
     Before = {{"display", "0"}, {"memory", ""}, {"focus", "txtDisplay"}};
   }
 
@@ -66,9 +70,9 @@ class ScriptRunner {
     fs::create_directories(folder);
     if (!HostSettings.empty())
       std::ofstream(folder / "Quorvane 1000.ost") << "\"Settings\"\n" << HostSettings;
-    Options options;
-    options.Home = Home->Path;
-    Session = std::make_unique<ScriptSession>(options);
+    StartOptions.Home = Home->Path;
+    StartOptions.Seed = 1;
+    Session = std::make_unique<ScriptSession>(StartOptions);
   }
 
   std::string Perform(const std::string& line) {
@@ -89,6 +93,7 @@ class ScriptRunner {
   }
 
   std::unique_ptr<TemporaryFolder> Home;
+  Options StartOptions;
   std::string HostSettings;
   std::unique_ptr<ScriptSession> Session;
   std::map<std::string, Json> Before;

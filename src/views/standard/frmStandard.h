@@ -2,12 +2,19 @@
 #pragma once
 
 #include "views/View.h"
+#include "views/standard/StandardEngine.h"
 
 namespace qves {
 
-class frmStandard : public View {
+class frmStandard : public View, private TapeHost {
  public:
   frmStandard(Services& services, ViewFrame& frame);
+
+ private:
+  void AppendTape(std::string_view line) override { AppendText(*Tape, line); }
+  void ClearTape() override { SetText(*Tape, ""); }
+
+  TextBox* Tape;
 };
 
 }  // namespace qves

@@ -1,0 +1,104 @@
+// The engine of the Scientific view: the entry engine with inverse and hyperbolic functions, scientific
+// notation, exponent entry, number bases and parentheses.
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+#include "engine/EntryEngine.h"
+#include "views/scientific/NumberBases.h"
+
+namespace qves {
+
+/// What the engine asks of the view's own controls.
+class ScientificHost {
+ public:
+  virtual ~ScientificHost() = default;
+  virtual bool InverseChecked() const = 0;
+  virtual bool HyperbolicChecked() const = 0;
+  virtual void ClearInverse() = 0;
+  virtual void ClearHyperbolic() = 0;
+  /// The list index of the angle unit.
+  virtual int TrigMode() const = 0;
+  /// The next random number, in [0, 1).
+  virtual double NextRandom() = 0;
+};
+
+class ScientificEngine : public EntryEngine {
+ public:
+  ScientificEngine(EngineHost& host, ScientificHost& modes, Announcer& announcer);
+
+  // ExponentKeys.cpp
+  void Digit(const PressedKey& key) override;
+  void DecimalPoint(const PressedKey& key) override;
+  void Backspace(const PressedKey& key) override;
+
+  void ClearEntry(const PressedKey& key) override;
+  void BinaryOperator(const PressedKey& key) override;
+  void UnaryOperator(const PressedKey& key) override;
+  void Equals(const PressedKey& key) override;
+  void Memory(const PressedKey& key) override;
+
+  // ParenthesisKeys.cpp
+  void LeftParen(const PressedKey& key);
+  void RightParen(const PressedKey& key);
+
+  /// Writes the entry in another base; the next digit starts a new number. A number outside 32 bits faults,
+  /// and the base is another all the same.
+  void ChangeBase(int base);
+
+  StateFields Fields() const override;
+
+ protected:
+  void Evaluate(double first, double& second, std::string_view op) override;
+  void ShowResult(double& value) override;
+  std::string WriteNumber(double value) const override;
+  std::optional<double> ReadNumber(std::string_view text) const override;
+  std::string RecalledText() const override;
+  void OnStored() override { MemoryBase = NumBase; }
+  void OnClearAll() override;
+  bool OperatorCompletesPending() const override;
+
+ private:
+  struct EntryOperator;
+  static const EntryOperator EntryOperators[];
+  const EntryOperator* FindEntryOperator(std::string_view op) const;
+  double Compute(double first, double second, std::string_view op);
+  double ComputeTrig(std::string_view op, double x);
+  void ToggleNotation();
+
+  // ExponentKeys.cpp
+  void StartExponent();
+  void FlipExponentSign();
+  void ShowExponent();
+  void DropExponentDigit();
+
+  // ParenthesisKeys.cpp
+  struct OuterOperand {
+    std::string Text;
+    double Value = 0;
+    std::string Op;
+  };
+  OuterOperand TakeOuterOperand(bool afterOperator);
+  void BeginInnerGroup();
+  void RestoreOuterOperand();
+  bool GroupIsEmpty() const;
+  void ShowEntryAgain();
+
+  ScientificHost& Modes;
+
+  bool NotationMode = false;
+  bool ExponentEntry = false;
+  std::string ExpMantissa;
+  std::string ExpSign;
+  std::string ExpDigits;
+  int NumBase = NumberBase::Decimal;
+  int PrevNumBase = NumberBase::Decimal;  ///< the base that the entry is written in
+  int MemoryBase = NumberBase::Decimal;   ///< the base that the memory is written in
+
+  std::int16_t ParenDepth = 0;
+  std::vector<OuterOperand> ParenStack;  ///< keeps its old elements when a group is closed
+  bool ParenJustOpened = false;          ///< until the first binary operator of the group
+};
+
+}  // namespace qves

@@ -1,0 +1,72 @@
+#include "views/scientific/ScientificFunctions.h"
+
+#include <cmath>
+
+#include "engine/Numbers.h"
+#include "engine/Operators.h"
+#include "model/ArithmeticFault.h"
+
+namespace qves {
+
+double Square(double, double x) {
+  return Multiply(x, x);
+}
+
+double Cube(double, double x) {
+  return Power(x, 3);
+}
+
+double CubeRoot(double, double x) {
+  if (x < 0) throw ArithmeticFault("cube root of a negative number");
+  return std::cbrt(x);
+}
+
+double Power(double base, double exponent) {
+  return Checked(std::pow(base, exponent));
+}
+
+double Root(double radicand, double degree) {
+  return Power(radicand, Divide(1, degree));
+}
+
+double NaturalLog(double, double x) {
+  return Checked(std::log(x));
+}
+
+double CommonLog(double, double x) {
+  return Checked(std::log10(x));
+}
+
+double Exponential(double, double x) {
+  return Checked(std::exp(x));
+}
+
+double PowerOfTen(double, double x) {
+  return Power(10, x);
+}
+
+double Factorial(double, double x) {
+  if (x < 0) throw ArithmeticFault("factorial of a negative number");
+  const int count = ToInt16(std::trunc(x));
+  double product = 1;
+  for (int factor = 2; factor <= count; ++factor) product = Multiply(product, factor);
+  return product;
+}
+
+double WholePart(double, double x) {
+  return std::trunc(x);
+}
+
+double FractionalPart(double, double x) {
+  return x - std::trunc(x);
+}
+
+double ShiftLeft(double value, double places) {
+  return Multiply(value, Checked(std::exp2(places)));
+}
+
+double ShiftRight(double value, double places) {
+  return Divide(value, Checked(std::exp2(places)));
+}
+
+}  // namespace qves

@@ -1,0 +1,57 @@
+#include "views/scientific/frmScientific.h"
+
+#include "services/AppSettings.h"
+#include "views/MenuIds.h"
+#include "views/scientific/BaseButtons.h"
+#include "views/scientific/ScientificControls.h"
+#include "views/scientific/ScientificKeyMap.h"
+
+namespace qves {
+namespace {
+
+constexpr ClickRow Clicks[] = {
+    {"cmdLeftParen", Do<ScientificEngine, &ScientificEngine::LeftParen>, true},
+    {"cmdRightParen", Do<ScientificEngine, &ScientificEngine::RightParen>, true},
+};
+
+constexpr ViewTables ScientificTables = {
+    .FormName = "frmScientific",
+    .CalcView = ScientificView,
+    .NameMessage = ScientificItem,
+    .Controls = scientific::Controls,
+    .Panels = scientific::Panels,
+    .KeyMap = scientific::KeyMap,
+    .Clicks = Clicks,
+    .RestingControl = "cmdEqual",
+};
+
+}  // namespace
+
+frmScientific::frmScientific(Services& services, ViewFrame& frame)
+    : View(ScientificTables, services, frame),
+      Inv(static_cast<CheckBox*>(Find("cbInv"))),
+      Hyp(static_cast<CheckBox*>(Find("cbHyp"))),
+      NumBases(static_cast<ListBox*>(Find("lltNumBase"))),
+      TrigModes(static_cast<ListBox*>(Find("lltTrigMode"))) {
+  EngineHost& host = *this;
+  ScientificHost& modes = *this;
+  auto engine = std::make_unique<ScientificEngine>(host, modes, Says);
+  Scientific = engine.get();
+  UseEngine(std::move(engine));
+  PlaceChoice(*NumBases, NumberBase::Decimal);
+  SetBaseButtons(NumberBase::Decimal);
+}
+
+void frmScientific::OnNewChoice(ListBox& list) {
+  if (&list != NumBases) return;
+  SetBaseButtons(list.ListIndex);
+  Scientific->ChangeBase(list.ListIndex);
+}
+
+void frmScientific::SetBaseButtons(int base) {
+  for (const scientific::BaseButtonRow& row : scientific::BaseButtons)
+    for (int index = row.First; index <= row.Last; ++index)
+      SetEnabled(*Find(row.Array, index), (row.Bases >> base & 1U) != 0);
+}
+
+}  // namespace qves
