@@ -48,9 +48,10 @@ double PowerOfTen(double, double x) {
 double Factorial(double, double x) {
   if (x < 0) throw ArithmeticFault("factorial of a negative number");
   const int count = ToInt16(std::trunc(x));
-  double product = 1;
-  for (int factor = 2; factor <= count; ++factor) product = Multiply(product, factor);
-  return product;
+  // In the widest type there is: 170 roundings of a double would show in the last digit.
+  long double product = 1;
+  for (int factor = 2; factor <= count && std::isfinite(product); ++factor) product *= factor;
+  return Checked(static_cast<double>(product));
 }
 
 double WholePart(double, double x) {

@@ -1,0 +1,109 @@
+// Bad input in the Scientific view: the error state, spoken once, and nothing else is lost.
+#include <gtest/gtest.h>
+
+#include "FakePlatform.h"
+#include "app/CalculatorApp.h"
+#include "services/ServiceSet.h"
+
+namespace qves {
+namespace {
+
+class ScientificFaults : public testing::Test {
+ protected:
+  ScientificFaults() {
+    Outside.Files.Content["/program/CalcMsg.txt"] += "1068\tleft paren\n";
+    App.Main({ScientificView});
+    Outside.Speech.Said.clear();
+  }
+
+  void Press(char32_t character, int times = 1) {
+    for (int i = 0; i < times; ++i) {
+      const bool isDigit = character >= '0' && character <= '9';
+      App.KeyDown({isDigit ? static_cast<int>(character) : 0, NoShift, character});
+    }
+  }
+  void Press(std::u32string_view characters) {
+    for (const char32_t character : characters) Press(character);
+  }
+  void Choose(std::string_view name, int item) {
+    App.ActiveForm()->Choose(dynamic_cast<ListBox&>(*App.ActiveForm()->Find(name)), item);
+  }
+  void Click(std::string_view name, int index) {
+    App.ActiveForm()->Click(*App.ActiveForm()->Find(name, index));
+  }
+  std::string Display() { return dynamic_cast<TextBox&>(*App.ActiveForm()->Find("txtDisplay")).Text; }
+  std::string LastSaid() { return Outside.Speech.Said.back(); }
+
+  FakePlatform Outside;
+  ServiceSet Set{Outside.All};
+  AppObserver Nobody;
+  CalculatorApp App{Set.All, Nobody};
+};
+
+TEST_F(ScientificFaults, MoreOpenParenthesesThanFit) {
+  Press(U"2+");
+  Press(U'(', 32767);
+  EXPECT_EQ(Display(), std::string(32767, '('));
+  Press(U'(');
+  EXPECT_EQ(Display(), "E");
+  EXPECT_EQ(LastSaid(), "queued Error");
+  Press(U'(', 40000 - 32768);
+  EXPECT_EQ(Display(), std::string(40000 - 32768, '('));
+  Press(U"5=");
+  EXPECT_EQ(Display(), "5");
+}
+
+TEST_F(ScientificFaults, AnEntryBeyondADouble) {
+  Press(U'9', 309);
+  EXPECT_EQ(Display(), "E");
+  EXPECT_EQ(LastSaid(), "queued Error");
+  Press(U"0.");
+  Press(U'1', 400);
+  EXPECT_EQ(Display(), "0." + std::string(400, '1'));
+  Press(U"*9=");
+  EXPECT_EQ(Display(), "1");
+}
+
+TEST_F(ScientificFaults, EveryFaultLeavesMemoryBaseAndUnitAlone) {
+  const struct {
+    int Base;
+    std::u32string_view Typed;
+    int Operator;  ///< index of the unary operator
+  } rows[] = {
+      {1, U"0-1=", 0},               // the root of -1
+      {1, U"0", 2},                  // 1 / 0
+      {1, U"0", 11},                 // the logarithm of 0
+      {1, U"171", 8},                // 171!
+      {1, U"40000", 8},              // beyond a 16-bit count
+      {1, U"90", 6},                 // the pole of the tangent
+      {1, U"3000000000", 7},         // no 32-bit integer
+      {1, U"1000", 14},              // e^1000
+      {0, U"7777777*77777777=", 3},  // no 32-bit result
+      {2, U"77777777777", 3},        // octal, beyond 32 bits
+      {0, U"123456789", 3},          // nine hexadecimal digits
+  };
+  Press(U"5");
+  Click("cmdMemory", 2);
+  for (const auto& row : rows) {
+    Choose("lltNumBase", row.Base);
+    Choose("lltTrigMode", 0);
+    Press(row.Typed);
+    Click("cmdUOp", row.Operator);
+    EXPECT_EQ(Display(), "E") << row.Operator;
+    EXPECT_TRUE(LastSaid().ends_with(" Error")) << LastSaid();
+    Click("cmdMemory", 1);
+    EXPECT_EQ(Display(), "5");
+  }
+}
+
+TEST_F(ScientificFaults, TheSmallestIntegerDividedByMinusOne) {
+  Press(U"0-2147483648=");
+  Click("cmdBiOp", 7);
+  Press(U"1");
+  Click("cmdUOp", 1);
+  Press(U'=');
+  EXPECT_EQ(Display(), "0");
+}
+
+}  // namespace
+}  // namespace qves
