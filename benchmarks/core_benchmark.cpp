@@ -3,7 +3,9 @@
 
 #include "FakePlatform.h"
 #include "app/CalculatorApp.h"
+#include "services/AppSettings.h"
 #include "services/ServiceSet.h"
+#include "views/scientific/NumberBases.h"
 
 namespace qves {
 namespace {
@@ -13,7 +15,7 @@ struct Calculator : AppObserver {
   ServiceSet Set{Outside.All};
   CalculatorApp App{Set.All, *this};
 
-  Calculator() { App.Main(); }
+  explicit Calculator(int view = StandardView) { App.Main({view}); }
   void Press(const KeyEvent& event) {
     App.KeyDown(event);
     App.KeyUp(event.Code);
@@ -46,6 +48,32 @@ void ChainedCalculation(benchmark::State& state) {
   state.SetItemsProcessed(4 * state.iterations());
 }
 BENCHMARK(ChainedCalculation);
+
+/// 200 keys of a scientific user: functions, powers, groups, exponents, the memory.
+void ScientificKeys(benchmark::State& state) {
+  constexpr std::u32string_view typed =
+      U"2*(3+4)*(1.5-0.25)=S30S45O60T12.5Q7N100L2Y10=((1+2)*3)=5X12M+1=V123VR9!P*2=0.5;3+(4/7)=8Q.125RL"
+      U"99*(12-(3+4*(5-1)))=1E2E5N45.75;17S18O19T6!7!3.75X2=M2Y0.5=1/3*(3)=P*(2+P)=25Q81N1000L-45MS10*(2";
+  static_assert(typed.size() >= 190 && typed.size() <= 210);
+  Calculator calculator(ScientificView);
+  for (auto _ : state) {
+    for (const char32_t key : typed) calculator.Press({static_cast<int>(key), NoShift, key});
+    calculator.Press(Escape);
+  }
+  state.SetItemsProcessed(static_cast<std::int64_t>(typed.size()) * state.iterations());
+}
+BENCHMARK(ScientificKeys);
+
+void BaseConversion(benchmark::State& state) {
+  std::string text = "123456789";
+  for (auto _ : state) {
+    for (const auto& [from, to] : {std::pair{1, 0}, {0, 3}, {3, 2}, {2, 1}})
+      text = ConvertBase(from, to, text);
+    benchmark::DoNotOptimize(text);
+  }
+  state.SetItemsProcessed(4 * state.iterations());
+}
+BENCHMARK(BaseConversion);
 
 void StartAndLeave(benchmark::State& state) {
   for (auto _ : state) {
