@@ -1,6 +1,7 @@
 #include "desktop/Appearance.h"
 
 #include <QApplication>
+#include <QEvent>
 #include <QPainter>
 #include <array>
 
@@ -77,6 +78,14 @@ void PaintOutline(QWidget& control) {
     painter.setPen(color);
     painter.drawRect(control.rect().adjusted(inset, inset, -inset - 1, -inset - 1));
   }
+}
+
+bool PaintFrame(QWidget& control, const QEvent& event) {
+  if (event.type() == QEvent::FocusIn || event.type() == QEvent::FocusOut) control.update();
+  if (event.type() != QEvent::Paint) return false;
+  QPainter(&control).fillRect(control.rect(), control.palette().base());
+  PaintOutline(control);
+  return true;
 }
 
 }  // namespace qves

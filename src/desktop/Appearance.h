@@ -21,6 +21,10 @@ void ApplyAppearance(QWidget& box, TextRole role, const AppSettings& settings);
 /// Draws the border of a control: visible in every contrast, thick while the control has the focus.
 void PaintOutline(QWidget& control);
 
+/// Does the frame of a control that scrolls, which is no part of what scrolls: paints it in the outline's
+/// look, anew when the focus comes or goes. True when that was all of the event.
+bool PaintFrame(QWidget& control, const QEvent& event);
+
 /// The room that PaintOutline needs at each side, in pixels.
 inline constexpr int OutlineWidth = 3;
 

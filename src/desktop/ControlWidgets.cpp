@@ -1,10 +1,10 @@
 #include "desktop/ControlWidgets.h"
 
 #include <QKeyEvent>
-#include <QMouseEvent>
-#include <QPainter>
 #include <QScrollBar>
 #include <algorithm>
+
+#include "desktop/ChoiceWidgets.h"
 
 namespace qves {
 namespace {
@@ -39,33 +39,27 @@ Selection SelectionOf(const TextBox& box) {
   return {CountCharacters(text.substr(0, start)), CountCharacters(text.substr(start, box.SelLength))};
 }
 
-QString EscapeMnemonics(QString caption) {
-  return caption.replace('&', QLatin1String("&&"));
-}
-
-void NameForScreenReader(QWidget& widget, const Control& control) {
-  widget.setAccessibleName(QString::fromStdString(control.SpokenName));
-  widget.setAccessibleDescription(QString::fromStdString(control.HelpText));
-}
-
-bool IsPrimaryClick(const QMouseEvent& event, const QWidget& widget) {
-  return event.button() == Qt::LeftButton && widget.rect().contains(event.position().toPoint());
-}
-
 }  // namespace
 
 ButtonView::ButtonView(Button& button, ControlHost& host, QWidget* parent)
     : QPushButton(parent), Model(button), Host(host) {
-  setText(EscapeMnemonics(QString::fromStdString(button.Caption)));
+  setText(CaptionOf(button));
   setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
   setFocusPolicy(Qt::StrongFocus);
   NameForScreenReader(*this, button);
   connect(this, &QPushButton::clicked, this, [this] { Host.ControlPressed(Model); });
 }
 
+/// The toolkit's own minimum is twice as wide as a short caption needs.
+QSize ButtonView::minimumSizeHint() const {
+  const int height = sizeHint().height();
+  const int text = fontMetrics().size(Qt::TextShowMnemonic, this->text()).width();
+  return {std::max(text + 2 * TextMargin, height), height};
+}
+
 QSize ButtonView::sizeHint() const {
   const QSize hint = QPushButton::sizeHint();
-  return {hint.width(), std::max(hint.height(), 2 * fontMetrics().height())};
+  return {hint.width(), std::max(hint.height(), ButtonHeight(*this))};
 }
 
 void ButtonView::focusInEvent(QFocusEvent* event) {
@@ -190,13 +184,7 @@ QSize LinesView::sizeHint() const {
 }
 
 bool LinesView::event(QEvent* event) {
-  if (event->type() == QEvent::Paint) {
-    QPainter(this).fillRect(rect(), palette().base());
-    PaintOutline(*this);
-    return true;
-  }
-  if (event->type() == QEvent::FocusIn || event->type() == QEvent::FocusOut) update();
-  return QPlainTextEdit::event(event);
+  return PaintFrame(*this, *event) || QPlainTextEdit::event(event);
 }
 
 void LinesView::focusInEvent(QFocusEvent* event) {
@@ -218,6 +206,10 @@ ControlView* MakeControlView(Control& control, ControlHost& host, const AppSetti
     view = new LinesView(*box, host, settings, parent);
   else if (box)
     view = new LineView(*box, host, settings, parent);
+  else if (auto* check = dynamic_cast<CheckBox*>(&control))
+    view = new CheckBoxView(*check, host, parent);
+  else if (auto* list = dynamic_cast<ListBox*>(&control))
+    view = new ListBoxView(*list, host, parent);
   if (view) view->Refresh();
   return view;
 }

@@ -1,5 +1,4 @@
-// The widgets of the controls. A widget shows the state of its control; what the user does with it goes to
-// the host.
+// The widgets of the buttons and the text boxes, and the choice of a control's widget.
 #pragma once
 
 #include <QLineEdit>
@@ -7,37 +6,16 @@
 #include <QPushButton>
 
 #include "desktop/Appearance.h"
-#include "model/Control.h"
+#include "desktop/ControlView.h"
 
 namespace qves {
-
-/// Told what the user does with a widget.
-class ControlHost {
- public:
-  virtual ~ControlHost() = default;
-  /// Clicked with the mouse, or pressed by a screen reader.
-  virtual void ControlPressed(Control&) = 0;
-  /// The widget has the keyboard focus now, for whatever reason.
-  virtual void ControlFocused(Control&) = 0;
-};
-
-class ControlView {
- public:
-  virtual ~ControlView() = default;
-  virtual QWidget& Widget() = 0;
-  /// Shows the control's state anew.
-  virtual void Refresh() = 0;
-  /// Shows the part of the text from that byte on; what was before is shown already.
-  virtual void Append(std::size_t /*from*/) { Refresh(); }
-  /// The desktop's font or colours changed.
-  virtual void Restyle() {}
-};
 
 class ButtonView : public QPushButton, public ControlView {
  public:
   ButtonView(Button& button, ControlHost& host, QWidget* parent);
   QWidget& Widget() override { return *this; }
   void Refresh() override { setEnabled(Model.Enabled); }
+  QSize minimumSizeHint() const override;
   QSize sizeHint() const override;
 
  protected:

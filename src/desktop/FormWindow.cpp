@@ -93,6 +93,12 @@ void FormWindow::ControlFocused(Control& control) {
   if (Shown->FocusedControl() != &control) Shown->FocusByUser(control);
 }
 
+void FormWindow::ItemChosen(ListBox& list, int item) {
+  if (!Shown || !ViewOf(list)) return;
+  Shown->FocusByUser(list);
+  Shown->Choose(list, item);
+}
+
 void FormWindow::ChooseMenu(int id) {
   if (Shown) Shown->ChooseMenu(id);
 }
@@ -104,8 +110,8 @@ void FormWindow::closeEvent(QCloseEvent* event) {
 
 void FormWindow::changeEvent(QEvent* event) {
   QMainWindow::changeEvent(event);
-  if (event->type() != QEvent::ApplicationFontChange && event->type() != QEvent::ApplicationPaletteChange)
-    return;
+  // The desktop's, as the window has none of its own.
+  if (event->type() != QEvent::FontChange && event->type() != QEvent::PaletteChange) return;
   for (const auto& [control, view] : Views) view->Restyle();
 }
 

@@ -42,6 +42,7 @@ class FormWindow : public QMainWindow, private FormObserver, private ControlHost
   // ControlHost
   void ControlPressed(Control& control) override;
   void ControlFocused(Control& control) override;
+  void ItemChosen(ListBox& list, int item) override;
 
   ControlView* ViewOf(const Control& control) const;
   void BuildMenus();

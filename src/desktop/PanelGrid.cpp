@@ -9,9 +9,21 @@ namespace {
 constexpr int Spacing = 6;     // pixels between controls
 constexpr int TapeWeight = 4;  // rows of buttons that a box of several lines takes its share with
 
-/// How a control's row grows, in rows of buttons. A box of one line stays as high as its text.
+/// Keeps the spacing of a row in which no control begins: the toolkit would leave it out.
+class RowKeeper : public QSpacerItem {
+ public:
+  RowKeeper() : QSpacerItem(0, 0) {}
+  bool isEmpty() const override { return false; }
+};
+
+/// Whether the control is as high as its grid's rows are.
+bool FillsRows(const Control& control) {
+  return control.Spec.Kind == ControlKind::Button || control.Spec.Kind == ControlKind::CheckBox;
+}
+
+/// How a control's row grows, in rows of buttons. A box of one line and a list stay as high as their text.
 int RowWeight(const Control& control) {
-  if (control.Spec.Kind == ControlKind::Button) return 1;
+  if (FillsRows(control)) return 1;
   return control.Has(MultiLine) ? TapeWeight : 0;
 }
 
@@ -44,10 +56,11 @@ void PanelGrid::Place(const Control& control, QWidget& widget) {
   grid.addWidget(&widget, cell.Row, cell.Column, cell.RowSpan, cell.ColumnSpan);
   if (cell.ColumnSpan == 1 && !control.Has(Indicator)) grid.setColumnStretch(cell.Column, 1);
   // A tall button keeps each of its rows as high as a row of small ones.
-  const int rowHeight = control.Spec.Kind == ControlKind::Button ? widget.sizeHint().height() : 0;
+  const int rowHeight = FillsRows(control) ? widget.sizeHint().height() : 0;
   for (int row = cell.Row; row < cell.Row + cell.RowSpan; ++row) {
     grid.setRowStretch(row, std::max(RowWeight(control), grid.rowStretch(row)));
     grid.setRowMinimumHeight(row, std::max(rowHeight, grid.rowMinimumHeight(row)));
+    if (row > cell.Row) grid.addItem(new RowKeeper, row, cell.Column);
   }
 }
 

@@ -19,6 +19,8 @@ class TestForm : public Form {
         {.Name = "cmdB", .Cell = {1, 0, 1}},
         {.Name = "cmdOff", .Cell = {1, 1, 0}},
         {.Name = "cmdEqual", .Cell = {7, 0, 0}, .Traits = DefaultButton},  // of a panel without a place
+        {.Name = "cbInv", .Kind = ControlKind::CheckBox, .Cell = {1, 1, 1}},
+        {.Name = "lltMode", .Kind = ControlKind::ListBox, .Cell = {1, 2, 0, 1, 2}},
     };
     for (const ControlSpec& spec : specs) Make(spec);
     Find("cmdOff")->Enabled = false;
@@ -31,17 +33,30 @@ class TestForm : public Form {
   void Show(std::string_view name, std::string_view text) { SetText(Box(name), text); }
   void Append(std::string_view text) { AppendText(Box("txtTape"), text); }
   void Select(std::string_view name) { SelectAll(Box(name)); }
+  CheckBox& Inv() { return static_cast<CheckBox&>(*Find("cbInv")); }
+  ListBox& Mode() { return static_cast<ListBox&>(*Find("lltMode")); }
+  void Check(bool checked) { SetChecked(Inv(), checked); }
+  void Place(int item) { PlaceChoice(Mode(), item); }
+  void Enable(std::string_view name, bool enabled) { SetEnabled(*Find(name), enabled); }
   /// What happened since the last call.
   std::vector<std::string> Take() { return std::exchange(Log, {}); }
 
  private:
   void Make(const ControlSpec& spec) {
     const std::string name(spec.Name);
+    const std::string caption = "A&" + name;
+    const std::string spoken = name + " spoken";
+    const std::string help = name + " help";
     std::unique_ptr<Control> control;
     if (spec.Kind == ControlKind::TextBox)
-      control = std::make_unique<TextBox>(spec, "", name + " spoken", name + " help");
+      control = std::make_unique<TextBox>(spec, "", spoken, help);
+    else if (spec.Kind == ControlKind::CheckBox)
+      control = std::make_unique<CheckBox>(spec, caption, spoken, help);
+    else if (spec.Kind == ControlKind::ListBox)
+      control = std::make_unique<ListBox>(
+          spec, "", spoken, help, std::vector<ListItem>{{" Degrees", ""}, {" Radians", ""}, {" Grads", ""}});
     else
-      control = std::make_unique<Button>(spec, "A&" + name, name + " spoken", name + " help");
+      control = std::make_unique<Button>(spec, caption, spoken, help);
     control->Speaking.Quiescent = false;
     Add(std::move(control));
   }
@@ -49,6 +64,9 @@ class TestForm : public Form {
   void OnClick(Control& control) override {
     Log.push_back("click " + std::string(control.Name()));
     if (control.Name() == "txtDisplay") Select("txtDisplay");
+  }
+  void OnChoose(ListBox& list) override {
+    Log.push_back("choose " + std::string(list.Name()) + list.Chosen().Text);
   }
   void OnGotFocus(Control& control) override {
     Log.push_back("focus " + std::string(control.Name()));

@@ -271,6 +271,47 @@ class SessionTest(unittest.TestCase):
         self.assertEqual(calculator.ended(), 0)
         self.assertTrue(calculator.settings.is_file())
 
+    def test_scientific_view_from_the_menu(self):
+        calculator = self.started()
+        keys("alt+v")
+        xdotool("key", "--delay", "60", "Return")
+        lists = wait_for("the lists", lambda: calculator.nodes(pyatspi.ROLE_LIST))
+        self.assertEqual([node.name for node in lists], ["Number base list", "Angle unit list"])
+        keys("3", "0", "s")
+        calculator.expect_display("0.5")
+        keys("2", "parenleft", "3", "plus", "4", "parenright", "asterisk", "2", "Return")
+        calculator.expect_display("14")
+        # Alt and V is a key of this view; F10 leads to the menus.
+        keys("alt+v")
+        calculator.expect_display("1.4e+1")
+        xdotool("key", "--delay", "60", "F10", "Right", "Down", "Down", "Return")
+        wait_for("the tape", lambda: len(calculator.nodes(pyatspi.ROLE_TEXT)) > 2)
+        calculator.expect_display("0")
+
+    def test_number_bases_and_check_boxes(self):
+        calculator = self.start("--view", "scientific")
+        calculator.window()
+        state = lambda node, what: node.getState().contains(what)  # noqa: E731
+        inverse = wait_for("the check box", lambda: calculator.nodes(pyatspi.ROLE_CHECK_BOX)[0])
+        keys("4", "ctrl+i", "space")
+        wait_for("the mark", lambda: state(inverse, pyatspi.STATE_CHECKED))
+        self.assertTrue(inverse.name and inverse.description and state(inverse, pyatspi.STATE_FOCUSED))
+        keys("q")
+        calculator.expect_display("2")
+        wait_for("no mark", lambda: not state(inverse, pyatspi.STATE_CHECKED))
+        keys("2", "5", "5", "ctrl+b", "Up")
+        calculator.expect_display("FF")
+        bases = calculator.nodes(pyatspi.ROLE_LIST)[0]
+        self.assertEqual([(item.name, state(item, pyatspi.STATE_SELECTED)) for item in bases],
+                         [("Hex", True), ("Decimal", False), ("Octal", False), ("Binary", False)])
+        self.assertFalse(state(calculator.button("sine"), pyatspi.STATE_ENABLED))
+        keys("a", "f", "ctrl+c", "Return")
+        calculator.expect_display("AFC")
+        bases[3].queryAction().doAction(0)
+        calculator.expect_display("101011111100")
+        inverse.queryAction().doAction(0)
+        wait_for("the mark", lambda: state(inverse, pyatspi.STATE_CHECKED))
+
     def test_signals_save_the_settings(self):
         for number in (signal.SIGTERM, signal.SIGHUP, signal.SIGINT):
             with self.subTest(signal=number.name):

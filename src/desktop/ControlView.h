@@ -1,0 +1,45 @@
+// What every widget of a control is and shares. A widget shows the state of its control; what the user does
+// with it goes to the host.
+#pragma once
+
+#include <QMouseEvent>
+#include <QWidget>
+
+#include "model/Control.h"
+
+namespace qves {
+
+/// Told what the user does with a widget.
+class ControlHost {
+ public:
+  virtual ~ControlHost() = default;
+  /// Clicked with the mouse, or pressed by a screen reader.
+  virtual void ControlPressed(Control&) = 0;
+  /// The widget has the keyboard focus now, for whatever reason.
+  virtual void ControlFocused(Control&) = 0;
+  /// An item of a list, clicked with the mouse or selected by a screen reader.
+  virtual void ItemChosen(ListBox&, int item) = 0;
+};
+
+class ControlView {
+ public:
+  virtual ~ControlView() = default;
+  virtual QWidget& Widget() = 0;
+  /// Shows the control's state anew.
+  virtual void Refresh() = 0;
+  /// Shows the part of the text from that byte on; what was before is shown already.
+  virtual void Append(std::size_t /*from*/) { Refresh(); }
+  /// The desktop's font or colours changed.
+  virtual void Restyle() {}
+};
+
+/// Gives the widget the control's name and help as a screen reader's name and description.
+void NameForScreenReader(QWidget& widget, const Control& control);
+/// The caption for a widget that would take an ampersand for a mnemonic.
+QString CaptionOf(const Control& control);
+/// Whether the release of a button ends a click on the widget.
+bool IsPrimaryClick(const QMouseEvent& event, const QWidget& widget);
+/// The height of a button of one row, which the other controls among buttons share.
+int ButtonHeight(const QWidget& widget);
+
+}  // namespace qves
