@@ -187,7 +187,6 @@ void Form::PlaceChoice(ListBox& list, int item) {
 void Form::SetEnabled(Control& control, bool enabled) {
   if (control.Enabled == enabled) return;
   control.Enabled = enabled;
-  if (Control* rest = DefaultControl(); !enabled && Focused == &control && rest) PlaceFocus(*rest);
   Tell([&](FormObserver& observer) { observer.ControlChanged(*this, control); });
 }
 

@@ -98,7 +98,6 @@ class Form {
   void SetChecked(CheckBox& box, bool checked);
   /// Sets the chosen item without a word and without the list's handler.
   void PlaceChoice(ListBox& list, int item);
-  /// A control that is switched off while it has the focus hands it to the default button, without a word.
   void SetEnabled(Control& control, bool enabled);
   /// Puts the focus on a control without a word.
   void PlaceFocus(Control& control);

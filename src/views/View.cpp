@@ -119,16 +119,21 @@ void View::NotifyKeyDown(bool& handled, const KeyEvent& event) {
       Tables.KeyMap, event, [&](const KeyRow& one) { return !one.WhileEnabled || target(one)->Enabled; });
   if (!row || row->Action == KeyAction::LeaveIt) return;
   handled = true;
+  if (row->Action == KeyAction::Click) return PressByKey(*target(*row));
   EnterPressesDefault();
-  switch (row->Action) {
-    case KeyAction::RepeatSpeech:
-      return Services_.Speech.SpeakText(std::string(Services_.Speech.LastSpokenText()));
-    case KeyAction::Focus:
-      return SetFocus(*target(*row));
-    default:
-      Click(*target(*row));
-      if (Control* rest = Find(Tables.RestingControl); rest && rest != FocusedControl()) PlaceFocus(*rest);
-  }
+  if (row->Action == KeyAction::Focus)
+    SetFocus(*target(*row));
+  else
+    Services_.Speech.SpeakText(std::string(Services_.Speech.LastSpokenText()));
+}
+
+/// After a key has acted through a button the focus goes to its resting place, where the view has one,
+/// without a word: nothing is to cut off what the key said.
+void View::PressByKey(Control& control) {
+  if (!control.Enabled) return;
+  EnterPressesDefault();
+  Click(control);
+  if (Control* rest = Find(Tables.RestingControl); rest && rest != FocusedControl()) PlaceFocus(*rest);
 }
 
 void View::Form_KeyUp(int keyCode) {

@@ -66,6 +66,7 @@ class View : public Form, protected EngineHost {
   void AddMenus();
   void CreateSpeech();
   void ShutDownSpeech();
+  void PressByKey(Control& control);
   void SayOf(const Control& control, bool queued);
   std::string Announcement(const Control& control);
   bool TextBoxKey(TextBox& box, const KeyEvent& event);

@@ -13,19 +13,23 @@ bool HasExponent(std::string_view text) {
 
 }  // namespace
 
-/// "Exp". An entry that has an exponent already is only spoken again.
 void ScientificEngine::StartExponent() {
-  if (ExponentEntry) return;
-  if (NotationMode && EntryText.find('E') == std::string::npos) {
-    EntryText = NumberToText(ValueOf(EntryText));
-    NotationMode = false;
-  }
-  if (HasExponent(EntryText)) return Show();
   ExpMantissa = EntryText;
   ExpSign = "+";
   ExpDigits.clear();
   ExponentEntry = true;
   ShowExponent();
+}
+
+/// Whether the entry has an exponent already, also after it has been written without the notation.
+bool ScientificEngine::RefusesExponent() {
+  if (ExponentEntry) return true;
+  if (NotationMode && EntryText.find('E') == std::string::npos) {
+    EntryText = NumberToText(ValueOf(EntryText));
+    NotationMode = false;
+    Show();
+  }
+  return HasExponent(EntryText);
 }
 
 void ScientificEngine::ShowExponent() {

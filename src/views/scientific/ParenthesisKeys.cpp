@@ -21,13 +21,7 @@ void ScientificEngine::LeftParen(const PressedKey& key) {
   if (ParenDepth == MostOpenGroups) throw ArithmeticFault("too many open parentheses");
   ExponentEntry = false;
   DecimalEntered = false;
-  const bool afterOperator = SecondOperandDue();
-  LastAction = LParen;
-  if (ParenJustOpened)
-    BeginInnerGroup();
-  else
-    ShowInstead(OpenParen);
-  OuterOperand outer = TakeOuterOperand(afterOperator || ParenJustOpened);
+  OuterOperand outer = ParenJustOpened ? BeginInnerGroup() : BeginGroup();
   ParenJustOpened = true;
   SecondOperandBegun = false;
   const auto level = static_cast<std::size_t>(ParenDepth++);
@@ -36,20 +30,24 @@ void ScientificEngine::LeftParen(const PressedKey& key) {
 }
 
 /// A group within a group that has no operator yet starts as "0 +", so that its result is added to nothing.
-void ScientificEngine::BeginInnerGroup() {
+ScientificEngine::OuterOperand ScientificEngine::BeginInnerGroup() {
+  ExtendInstead(OpenParen);
   EntryText = "0";
   CurrentValue = 0;
   CurrentOp = "+";
   LastAction = Biop;
-  ExtendInstead(OpenParen);
+  return {EntryText, CurrentValue, CurrentOp};
 }
 
-ScientificEngine::OuterOperand ScientificEngine::TakeOuterOperand(bool afterOperator) {
-  if (afterOperator) return {EntryText, CurrentValue, CurrentOp};
-  if (PendingOp.empty()) return {EntryText, CurrentValue, ""};
-  // The group takes the place of the operand that was being typed.
-  CurrentValue = Accumulator;
-  return {NumberToText(Accumulator), Accumulator, PendingOp};
+ScientificEngine::OuterOperand ScientificEngine::BeginGroup() {
+  if (!PendingOp.empty() && !SecondOperandDue()) {
+    // The group takes the place of the operand that was being typed.
+    EntryText = WriteNumber(Accumulator);
+    CurrentValue = Accumulator;
+  }
+  ShowInstead(OpenParen);
+  LastAction = LParen;
+  return {EntryText, CurrentValue, PendingOp};
 }
 
 /// Ignored when no operator is pending at all, as in "( 5 )" at the very start: the group stays open. That is
@@ -60,7 +58,7 @@ void ScientificEngine::RightParen(const PressedKey& key) {
   ExponentEntry = false;
   if (!ParenJustOpened) CompletePending();
   if (ErrorState) return Says.SayError();
-  if (!ShowsEntry()) ShowEntryAgain();
+  if (!ShowsEntry()) Show();
   RestoreOuterOperand();
 }
 
@@ -78,14 +76,6 @@ void ScientificEngine::RestoreOuterOperand() {
 /// The last key was "(".
 bool ScientificEngine::GroupIsEmpty() const {
   return LastAction == LParen || (LastAction == Biop && ParenJustOpened);
-}
-
-/// The display leaves the parentheses. An entry whose place a group has taken is not the value any more.
-void ScientificEngine::ShowEntryAgain() {
-  if (ValueOf(EntryText) != CurrentValue)
-    ShowResult(CurrentValue);
-  else
-    Show();
 }
 
 }  // namespace qves

@@ -122,7 +122,9 @@ void ScientificEngine::BinaryOperator(const PressedKey& key) {
 }
 
 void ScientificEngine::UnaryOperator(const PressedKey& key) {
-  if (key.Caption != "Exp" && key.Caption != "+/-") ExponentEntry = false;
+  const bool startsExponent = key.Caption == "Exp";
+  if (startsExponent && !ErrorState && RefusesExponent()) return SayResult("");  // it only speaks
+  if (!startsExponent && key.Caption != "+/-") ExponentEntry = false;
   EntryEngine::UnaryOperator(key);
 }
 
@@ -130,7 +132,7 @@ void ScientificEngine::UnaryOperator(const PressedKey& key) {
 void ScientificEngine::Equals(const PressedKey& key) {
   const bool endsExponent = std::exchange(ExponentEntry, false);
   if (endsExponent) ShowResult(CurrentValue);
-  if (!ShowsEntry()) ShowEntryAgain();
+  if (!ShowsEntry()) Show();
   EntryEngine::Equals(key);
 }
 
@@ -144,8 +146,9 @@ void ScientificEngine::ChangeBase(int base) {
   const int from = std::exchange(PrevNumBase, base);
   if (ErrorState) return;
   if (std::exchange(ExponentEntry, false)) EntryText = NumberToText(CurrentValue);
+  // The number itself: its new text, if short, may mean a negative one.
+  if (from == NumberBase::Decimal) CurrentValue = std::trunc(TextToNumber(EntryText));
   EntryText = ConvertBase(from, base, EntryText);
-  if (from == NumberBase::Decimal) CurrentValue = ValueOf(EntryText);
   Show();
   LastAction = Uop;
   DecimalEntered = false;

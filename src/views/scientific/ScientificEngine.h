@@ -69,6 +69,7 @@ class ScientificEngine : public EntryEngine {
 
   // ExponentKeys.cpp
   void StartExponent();
+  bool RefusesExponent();
   void FlipExponentSign();
   void ShowExponent();
   void DropExponentDigit();
@@ -79,11 +80,10 @@ class ScientificEngine : public EntryEngine {
     double Value = 0;
     std::string Op;
   };
-  OuterOperand TakeOuterOperand(bool afterOperator);
-  void BeginInnerGroup();
+  OuterOperand BeginGroup();
+  OuterOperand BeginInnerGroup();
   void RestoreOuterOperand();
   bool GroupIsEmpty() const;
-  void ShowEntryAgain();
 
   ScientificHost& Modes;
 
