@@ -244,7 +244,7 @@ void EntryEngine::SayResult(std::string_view leadIn) {
   if (ErrorState)
     Says.SayError();
   else
-    Says.SayValue(EntryText, leadIn);
+    Says.SayValue(DisplayText(), leadIn);
 }
 
 StateFields EntryEngine::Fields() const {
