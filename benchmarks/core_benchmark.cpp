@@ -3,8 +3,13 @@
 
 #include "FakePlatform.h"
 #include "app/CalculatorApp.h"
+#include "model/ArithmeticFault.h"
 #include "services/AppSettings.h"
 #include "services/ServiceSet.h"
+#include "views/business/Amortization.h"
+#include "views/business/Annuity.h"
+#include "views/business/Bonds.h"
+#include "views/business/CashFlows.h"
 #include "views/scientific/NumberBases.h"
 
 namespace qves {
@@ -74,6 +79,44 @@ void BaseConversion(benchmark::State& state) {
   state.SetItemsProcessed(4 * state.iterations());
 }
 BENCHMARK(BaseConversion);
+
+void SolveRegister(benchmark::State& state, char32_t name) {
+  Calculator calculator(BusinessView);
+  for (const char32_t key : std::u32string_view(U"360N.5I100000P600MT"))
+    calculator.Press({key == U'.' ? int{KeyPeriod} : static_cast<int>(key), NoShift, key});
+  for (auto _ : state) {
+    calculator.Press({'K', NoShift, U'k'});
+    calculator.Press({static_cast<int>(name), NoShift, name});
+  }
+}
+BENCHMARK_CAPTURE(SolveRegister, n, U'N');
+BENCHMARK_CAPTURE(SolveRegister, i, U'I');
+BENCHMARK_CAPTURE(SolveRegister, PV, U'P');
+BENCHMARK_CAPTURE(SolveRegister, PMT, U'T');
+BENCHMARK_CAPTURE(SolveRegister, FV, U'F');
+
+void RateOfManyFlows(benchmark::State& state) {
+  std::vector<double> flows(32768, 1);
+  flows[0] = state.range(0) != 0 ? -1000 : -1e30;  // without a rate in reach the whole search is done
+  for (auto _ : state) try {
+      benchmark::DoNotOptimize(rtcIRR(flows));
+    } catch (const ArithmeticFault&) {
+    }
+}
+BENCHMARK(RateOfManyFlows)->Arg(1)->Arg(0)->Unit(benchmark::kMillisecond);
+
+void AmortizeManyPayments(benchmark::State& state) {
+  for (auto _ : state) benchmark::DoNotOptimize(Amortize(0.0001, 32767, 100000, 32767));
+}
+BENCHMARK(AmortizeManyPayments)->Unit(benchmark::kMillisecond);
+
+void YieldOfALongBond(benchmark::State& state) {
+  for (auto _ : state) {
+    const Bond bond = {FindCoupons(ToDayNumber({2026, 1, 1}), ToDayNumber({9926, 1, 1})), 6, 100};
+    benchmark::DoNotOptimize(BondYield(bond, 85.0));
+  }
+}
+BENCHMARK(YieldOfALongBond)->Unit(benchmark::kMillisecond);
 
 void StartAndLeave(benchmark::State& state) {
   for (auto _ : state) {

@@ -1,5 +1,6 @@
 #include "app/CalculatorApp.h"
 
+#include "views/business/frmBusiness.h"
 #include "views/scientific/frmScientific.h"
 #include "views/standard/frmStandard.h"
 
@@ -16,7 +17,7 @@ std::unique_ptr<Form> Make(Services& services, ViewFrame& frame) {
 }
 
 /// By CalcView; null for a view that is not built yet.
-constexpr ViewMaker ViewMakers[] = {Make<frmScientific>, nullptr, Make<frmStandard>, nullptr};
+constexpr ViewMaker ViewMakers[] = {Make<frmScientific>, nullptr, Make<frmStandard>, Make<frmBusiness>};
 
 bool IsCalcView(int number) {
   return number >= ScientificView && number <= BusinessView;

@@ -10,16 +10,19 @@ void Announcer::Say(std::string_view text) {
   HasSpoken = true;
 }
 
+void Announcer::SayMore(std::string_view text) {
+  if (HasSpoken)
+    Speech.SpeakTextQueued(text);
+  else
+    Say(text);
+}
+
 void Announcer::SayValue(std::string_view numberText, std::string_view leadIn) {
-  Say(std::string(leadIn) + Speech.SpeechFormatNumber(numberText));
+  SayMore(std::string(leadIn) + Speech.SpeechFormatNumber(numberText));
 }
 
 void Announcer::SayError() {
-  const std::string& error = Messages.GetMessage(ErrorMessage);
-  if (HasSpoken)
-    Speech.SpeakTextQueued(error);
-  else
-    Say(error);
+  SayMore(Messages.GetMessage(ErrorMessage));
 }
 
 }  // namespace qves

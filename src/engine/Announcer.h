@@ -19,9 +19,11 @@ class Announcer {
   /// Says the key's echo or name at once.
   void Say(std::string_view text);
   void SayMessage(int id) { Say(Messages.GetMessage(id)); }
-  /// Says a number text at once, after a lead-in ("" for none).
+  /// Says it at once, or after what the key has said already.
+  void SayMore(std::string_view text);
+  /// The same for a number text, after a lead-in ("" for none).
   void SayValue(std::string_view numberText, std::string_view leadIn = "");
-  /// Says "Error": at once, or after what the key has said already.
+  /// The same for "Error".
   void SayError();
 
   const std::string& Message(int id) const { return Messages.GetMessage(id); }

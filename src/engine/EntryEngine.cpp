@@ -178,7 +178,7 @@ void EntryEngine::FailAloud() {
 
 /// A digit or a point after a result or an error starts a new calculation.
 bool EntryEngine::StartsAnew() const {
-  return ErrorState || IsOneOf(LastAction, {qves::LastAction::Memory, Uop, Equal});
+  return ErrorState || IsOneOf(LastAction, {qves::LastAction::Memory, Uop, Equal, Fin, Ex});
 }
 
 /// The number typed next is a new operand: after an operator, and in a group just opened.

@@ -30,6 +30,7 @@ class EngineHost {
 struct PressedKey {
   std::string_view Caption;
   std::string_view SpokenName;
+  std::string_view HelpText;
 };
 
 class EntryEngine {
@@ -39,6 +40,9 @@ class EntryEngine {
   virtual ~EntryEngine() = default;
   EntryEngine(const EntryEngine&) = delete;
   EntryEngine& operator=(const EntryEngine&) = delete;
+
+  /// A key of the view is about to act.
+  virtual void BeginKey() { Says.BeginKey(); }
 
   virtual void Digit(const PressedKey& key);
   virtual void DecimalPoint(const PressedKey& key);
@@ -87,6 +91,7 @@ class EntryEngine {
   /// As ReadNumber, but faults when the text is no number.
   double ValueOf(std::string_view text) const;
   bool SecondOperandDue() const;
+  void BeginSecondOperand();
   void CompletePending();
   void Show();
   /// Shows that text instead of the entry until the entry is shown again.
@@ -116,7 +121,6 @@ class EntryEngine {
  private:
   bool StartsAnew() const;
   bool StartsOperand() const;
-  void BeginSecondOperand();
   bool EntryHoldsPoint() const;
   void ExtendEntry(std::string_view text);
   const std::string& Separator() const;

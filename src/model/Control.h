@@ -30,6 +30,7 @@ enum ControlTrait : unsigned {
   CancelButton = 2,   ///< Escape moves the focus to it
   MultiLine = 4,      ///< a text box of several lines
   Indicator = 8,      ///< a narrow text box for a mark
+  HelpOnFocus = 16,   ///< says its name and then its help when it gets the focus
 };
 
 inline constexpr int NoIndex = -1;   ///< the index of a control that is no member of an array
@@ -37,8 +38,9 @@ inline constexpr int NoMessage = 0;  ///< no message of this kind
 
 /// One item of a list.
 struct ListItemSpec {
-  int TextMessage = NoMessage;    ///< what the list shows
+  int TextMessage = NoMessage;    ///< what the list shows, when it is a message
   int SpokenMessage = NoMessage;  ///< what is spoken when it is chosen
+  std::string_view Text = {};     ///< what the list shows, when it is none
 };
 
 /// One row of a view's control table.

@@ -10,7 +10,7 @@ namespace qves {
 
 struct StateField {
   std::string_view Name;
-  std::variant<bool, double, std::string, std::vector<std::string>> Value;
+  std::variant<bool, double, std::string, std::vector<std::string>, std::vector<double>> Value;
 };
 
 using StateFields = std::vector<StateField>;

@@ -8,11 +8,17 @@
 
 namespace qves {
 
+/// Whether the focus follows the key to the control.
+enum class FocusRule {
+  Stays,
+  Moves,
+  MovesSilently,  ///< the key itself says what the control would
+};
+
 struct ClickRow {
   std::string_view Array;
   void (*Operation)(EntryEngine&, const PressedKey&);
-  bool TakesFocus;  ///< the focus follows the key to the control; not with unary operators, equals and
-                    ///< backspace
+  FocusRule Focus;
 };
 
 /// A click operation out of an operation of the view's own engine.

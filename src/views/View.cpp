@@ -62,7 +62,8 @@ std::unique_ptr<Control> View::MakeControl(const ControlSpec& spec) const {
   }
   std::vector<ListItem> items;
   for (const ListItemSpec& item : spec.Items)
-    items.push_back({Message(item.TextMessage), Message(item.SpokenMessage)});
+    items.push_back({item.TextMessage == NoMessage ? std::string(item.Text) : Message(item.TextMessage),
+                     Message(item.SpokenMessage)});
   return std::make_unique<ListBox>(spec, caption, name, help, std::move(items));
 }
 
@@ -120,11 +121,10 @@ void View::NotifyKeyDown(bool& handled, const KeyEvent& event) {
   if (!row || row->Action == KeyAction::LeaveIt) return;
   handled = true;
   if (row->Action == KeyAction::Click) return PressByKey(*target(*row));
+  if (row->Action == KeyAction::RepeatSpeech)  // changes nothing, not even what Enter presses
+    return Services_.Speech.SpeakText(std::string(Services_.Speech.LastSpokenText()));
   EnterPressesDefault();
-  if (row->Action == KeyAction::Focus)
-    SetFocus(*target(*row));
-  else
-    Services_.Speech.SpeakText(std::string(Services_.Speech.LastSpokenText()));
+  SetFocus(*target(*row));
 }
 
 /// After a key has acted through a button the focus goes to its resting place, where the view has one,
@@ -147,9 +147,10 @@ void View::OnClick(Control& control) {
                                       Message(box->Checked ? CheckedMessage : ClearMessage));
   const ClickRow* row = FindClickRow(Tables.Clicks, control.Name());
   if (!row) return;
-  if (row->TakesFocus) SetFocus(control);
-  Says.BeginKey();
-  row->Operation(*Engine, {control.Caption, control.SpokenName});
+  if (row->Focus == FocusRule::Moves) SetFocus(control);
+  if (row->Focus == FocusRule::MovesSilently) PlaceFocus(control);
+  Engine->BeginKey();
+  row->Operation(*Engine, {control.Caption, control.SpokenName, control.HelpText});
 }
 
 void View::OnChoose(ListBox& list) {
@@ -160,7 +161,8 @@ void View::OnChoose(ListBox& list) {
 
 void View::OnGotFocus(Control& control) {
   SayOf(control, &control == Display);
-  const bool saysHelp = dynamic_cast<CheckBox*>(&control) || dynamic_cast<ListBox*>(&control);
+  const bool saysHelp =
+      dynamic_cast<CheckBox*>(&control) || dynamic_cast<ListBox*>(&control) || control.Has(HelpOnFocus);
   if (saysHelp && !control.Speaking.Quiescent) Services_.Speech.SpeakTextQueued(control.HelpText);
 }
 

@@ -1,4 +1,5 @@
-// Runs every script beside this file. A script holds commands and, indented below each, what it has to do:
+// Runs every script beside this file, and those of the documents. A script holds commands and, indented below
+// each, what it has to do:
 //   said     every spoken text in order: [now], +[queued], stop
 //   tape     a line added to the tape
 //   display, memory, focus   when they differ from before
@@ -72,6 +73,7 @@ class ScriptRunner {
       std::ofstream(folder / "Quorvane 1000.ost") << "\"Settings\"\n" << HostSettings;
     StartOptions.Home = Home->Path;
     StartOptions.Seed = 1;
+    StartOptions.Today = Date{2026, 1, 31};
     Session = std::make_unique<ScriptSession>(StartOptions);
   }
 
@@ -102,7 +104,7 @@ class ScriptRunner {
 class ScriptFiles : public testing::TestWithParam<std::string> {};
 
 TEST_P(ScriptFiles, DoesWhatItSays) {
-  const fs::path path = fs::path(SCRIPTS_DIR) / GetParam();
+  const fs::path path = fs::path(PROJECT_DIR) / GetParam();
   std::stringstream expected;
   expected << std::ifstream(path).rdbuf();
   const std::string actual = ScriptRunner().Run(expected);
@@ -112,8 +114,10 @@ TEST_P(ScriptFiles, DoesWhatItSays) {
 
 std::vector<std::string> AllScripts() {
   std::vector<std::string> names;
-  for (const auto& entry : fs::recursive_directory_iterator(SCRIPTS_DIR))
-    if (entry.path().extension() == ".script") names.push_back(fs::relative(entry.path(), SCRIPTS_DIR));
+  const fs::path project = PROJECT_DIR;
+  for (const fs::path& folder : {project / "tests" / "scripts", project / "docs"})
+    for (const auto& entry : fs::recursive_directory_iterator(folder))
+      if (entry.path().extension() == ".script") names.push_back(fs::relative(entry.path(), project));
   return names;
 }
 

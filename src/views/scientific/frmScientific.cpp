@@ -10,8 +10,8 @@ namespace qves {
 namespace {
 
 constexpr ClickRow Clicks[] = {
-    {"cmdLeftParen", Do<ScientificEngine, &ScientificEngine::LeftParen>, true},
-    {"cmdRightParen", Do<ScientificEngine, &ScientificEngine::RightParen>, true},
+    {"cmdLeftParen", Do<ScientificEngine, &ScientificEngine::LeftParen>, FocusRule::Moves},
+    {"cmdRightParen", Do<ScientificEngine, &ScientificEngine::RightParen>, FocusRule::Moves},
 };
 
 constexpr ViewTables ScientificTables = {

@@ -1,0 +1,107 @@
+// The engine of the Business view: the entry engine with financial registers, the prefix keys that say what a
+// register key does, and the functions that work on the registers.
+#pragma once
+
+#include "engine/EntryEngine.h"
+#include "views/business/FinancialRegisters.h"
+
+namespace qves {
+
+/// What the engine asks of the view.
+class BusinessHost {
+ public:
+  virtual ~BusinessHost() = default;
+  /// 0: payments at the end of a period; 1: at its beginning.
+  virtual int PaymentMode() const = 0;
+  /// See OddPeriodInterest.
+  virtual int OddPeriod() const = 0;
+  /// The days of a year for simple interest.
+  virtual int InterestBasis() const = 0;
+  virtual Date Today() const = 0;
+  virtual const DateNames& NamesOfDates() const = 0;
+};
+
+class BusinessEngine : public EntryEngine {
+ public:
+  BusinessEngine(EngineHost& host, BusinessHost& modes, Announcer& announcer)
+      : EntryEngine(Shared(), host, announcer), Modes(modes) {}
+
+  void BeginKey() override;
+  void Memory(const PressedKey& key) override;
+
+  // RegisterKeys.cpp
+  /// CAL, RCL or STO: what the next register key does. It says its name and help each time.
+  void PrefixKey(const PressedKey& key);
+  /// Stores the entry in a register, recalls it or solves it.
+  void RegisterKey(const PressedKey& key);
+  /// Shows the other one of two results.
+  void ExchangeKey(const PressedKey& key);
+
+  /// Every register to 0, the dates to today.
+  void ClearFinancial();
+  StateFields Fields() const override;
+
+ protected:
+  void Evaluate(double first, double& second, std::string_view op) override;
+
+ private:
+  static std::span<const OperatorRow> Shared();
+  void ShowMoney(double value);
+  void AddToDate(double first, double& second);
+
+  // RegisterKeys.cpp
+  struct RegisterRow;
+  static const RegisterRow RegisterTable[];
+  static const RegisterRow& FindRegister(std::string_view tag);
+  void Store(const RegisterRow& row);
+  void Recall(const RegisterRow& row);
+  void StoreFlow();
+  void StoreCount();
+  void RecallFlow();
+  void RecallFlowCount();
+  void RecallNothing() {}
+  void FinishKey(qves::LastAction action);
+  const std::string& RegisterName() const { return Says.Message(SpokenMsgId); }
+
+  // Solver.cpp
+  struct SolverRow;
+  static const SolverRow SolverTable[];
+  void SolveRegister(std::string_view tag);
+  double SolveFV();
+  double SolvePMT();
+  double SolvePV();
+  double SolveI();
+  double SolveN();
+  double AdjustedPV() const;
+  double OddFraction() const;
+  int WholePeriods() const;
+
+  // RegisterFunctions.cpp
+  struct FunctionRow;
+  static const FunctionRow FunctionTable[];
+  double FindInterest(double);
+  double FindNPV(double);
+  double FindIRR(double);
+  double FindDecliningBalance(double year);
+  double FindStraightLine(double);
+  double FindSumOfYears(double year);
+  double FindAmortization(double payments);
+  double FindPrice(double);
+  double FindYield(double);
+  double FindDays(double);
+
+  BusinessHost& Modes;
+  FinancialRegisters Registers;
+
+  qves::LastAction PrevAction = qves::LastAction::None;
+  qves::LastAction Prefix = qves::LastAction::None;  ///< the prefix that the key now acting has, if any
+  int SpokenMsgId = 0;                               ///< names the register or function announced last
+  double AmortPrincipal = 0;
+  double AmortInterest = 0;
+  double ExchangeToggle = -1;  ///< -1 or 0: which result of a pair the exchange key shows next
+  double BondPrice = 0;
+  double AccruedInterest = 0;
+  int BondValid = 0;  ///< coupons left at the last bond price
+};
+
+}  // namespace qves

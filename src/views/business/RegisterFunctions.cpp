@@ -1,0 +1,111 @@
+// The functions that read the registers: each takes what they need to a pure function, and puts back what is
+// to stay only when that has not failed.
+#include <cmath>
+
+#include "engine/Numbers.h"
+#include "views/business/Amortization.h"
+#include "views/business/Annuity.h"
+#include "views/business/Bonds.h"
+#include "views/business/BusinessEngine.h"
+#include "views/business/BusinessOperators.h"
+#include "views/business/CashFlows.h"
+#include "views/business/Depreciation.h"
+
+namespace qves {
+namespace {
+
+constexpr double Par = 100;
+
+}  // namespace
+
+struct BusinessEngine::FunctionRow {
+  std::string_view Caption;
+  int NameMessage;
+  double (BusinessEngine::*Find)(double value);  ///< from the value shown
+};
+
+const BusinessEngine::FunctionRow BusinessEngine::FunctionTable[] = {
+    {"INT", 1522, &BusinessEngine::FindInterest},     {"NPV", 1528, &BusinessEngine::FindNPV},
+    {"IRR", 1530, &BusinessEngine::FindIRR},          {"DB", 1532, &BusinessEngine::FindDecliningBalance},
+    {"SL", 1534, &BusinessEngine::FindStraightLine},  {"SY", 1536, &BusinessEngine::FindSumOfYears},
+    {"AMT", 1577, &BusinessEngine::FindAmortization}, {"Price", 1540, &BusinessEngine::FindPrice},
+    {"YTM", 1542, &BusinessEngine::FindYield},        {"DYS", 1544, &BusinessEngine::FindDays},
+};
+
+void BusinessEngine::Evaluate(double first, double& second, std::string_view op) {
+  if (op == "date") return AddToDate(first, second);
+  for (const FunctionRow& row : FunctionTable) {
+    if (row.Caption != op) continue;
+    second = (this->*row.Find)(second);
+    SpokenMsgId = row.NameMessage;
+    Says.Say(RegisterName());
+    return ShowMoney(second);
+  }
+  const OperatorRow* money = FindOperator(business::MoneyOperators, op);
+  if (!money) return EntryEngine::Evaluate(first, second, op);
+  second = money->Apply(first, second);
+  ShowMoney(second);
+}
+
+double BusinessEngine::FindInterest(double) {
+  return SimpleInterest(Registers.PV, Registers.I, Registers.N, Modes.InterestBasis());
+}
+
+double BusinessEngine::FindNPV(double) {
+  return Checked(rtcNPV(Registers.I, Registers.CashFlows) + Registers.CF0);
+}
+
+double BusinessEngine::FindIRR(double) {
+  std::vector<double> flows = {Registers.CF0};
+  flows.insert(flows.end(), Registers.CashFlows.begin(), Registers.CashFlows.end() - 1);
+  return Checked(rtcIRR(flows) * 100);
+}
+
+double BusinessEngine::FindStraightLine(double) {
+  return rtcSLN(Registers.PV, Registers.FV, Registers.N);
+}
+
+double BusinessEngine::FindSumOfYears(double year) {
+  return rtcSYD(Registers.PV, Registers.FV, Registers.N, year);
+}
+
+double BusinessEngine::FindDecliningBalance(double year) {
+  return rtcDDB(Registers.PV, Registers.FV, Registers.N, year, Registers.I);
+}
+
+/// The number of payments, where there is none, is found first, and stays even if the rest fails. It is cut
+/// to a whole one, where a solved one is rounded up, and the chosen timing counts for it alone: wanted so.
+double BusinessEngine::FindAmortization(double payments) {
+  FinancialRegisters& r = Registers;
+  if (r.N == 0) r.N = std::trunc(rtcNPer(r.I, r.PMT, r.PV, r.FV, Modes.PaymentMode()));
+  const AmortizedPart part = Amortize(r.I, r.N, r.PV, ToInt16(payments));
+  r.N -= payments;
+  r.PV -= part.Principal;
+  AmortPrincipal = -part.Principal;
+  AmortInterest = -part.Interest;
+  return AmortInterest;
+}
+
+double BusinessEngine::FindPrice(double) {
+  FinancialRegisters& r = Registers;
+  const Bond bond = {FindCoupons(r.BeginDate, r.EndDate), r.PMT, r.FV == 0 ? Par : r.FV};
+  const double price = qves::BondPrice(bond, r.I);
+  r.FV = bond.Redemption;
+  BondValid = bond.Coupons.Count;
+  AccruedInterest = qves::AccruedInterest(bond);
+  return BondPrice = price;
+}
+
+double BusinessEngine::FindYield(double) {
+  FinancialRegisters& r = Registers;
+  const Bond bond = {FindCoupons(r.BeginDate, r.EndDate), r.PMT, r.FV == 0 ? Par : r.FV};
+  const double percent = Checked(BondYield(bond, r.PV) * 100);
+  r.FV = bond.Redemption;
+  return percent;
+}
+
+double BusinessEngine::FindDays(double) {
+  return double{1} * Registers.EndDate - Registers.BeginDate;
+}
+
+}  // namespace qves

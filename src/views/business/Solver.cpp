@@ -1,0 +1,91 @@
+// CAL and a register key: the register is solved from the other four.
+#include <cmath>
+
+#include "engine/Numbers.h"
+#include "views/business/Annuity.h"
+#include "views/business/BusinessEngine.h"
+#include "views/business/OddPeriod.h"
+
+namespace qves {
+
+namespace {
+constexpr double WholeTolerance = 1e-9;  // rounding noise of a solved number of periods
+}
+
+struct BusinessEngine::SolverRow {
+  std::string_view Tag;
+  double (BusinessEngine::*Solve)();  ///< sets the register; gives what is shown
+};
+
+const BusinessEngine::SolverRow BusinessEngine::SolverTable[] = {
+    {"FV", &BusinessEngine::SolveFV}, {"PMT", &BusinessEngine::SolvePMT}, {"PV", &BusinessEngine::SolvePV},
+    {"i", &BusinessEngine::SolveI},   {"n", &BusinessEngine::SolveN},
+};
+
+/// A register that cannot be solved only has its name spoken with the value shown.
+void BusinessEngine::SolveRegister(std::string_view tag) {
+  WholePeriods();  // more than a 16-bit count of them is a fault, whatever is solved
+  for (const SolverRow& row : SolverTable)
+    if (row.Tag == tag) CurrentValue = (this->*row.Solve)();
+  ShowMoney(CurrentValue);
+  Says.SayValue(DisplayText(), RegisterName() + " ");
+  FinishKey(qves::LastAction::Uop);
+}
+
+int BusinessEngine::WholePeriods() const {
+  return ToInt16(std::trunc(Registers.N));
+}
+
+double BusinessEngine::OddFraction() const {
+  return Registers.N - std::trunc(Registers.N);
+}
+
+/// The present value with the interest of the odd period, which comes before the whole ones.
+double BusinessEngine::AdjustedPV() const {
+  return Checked(Registers.PV * OddPeriodFactor(Registers.I, OddFraction(), Modes.OddPeriod()));
+}
+
+/// The present value keeps the odd period's interest: solved twice in a row it has it twice. This is wanted,
+/// here and in SolvePMT.
+double BusinessEngine::SolveFV() {
+  const double presentValue = AdjustedPV();
+  Registers.FV = rtcFV(Registers.I, WholePeriods(), Registers.PMT, presentValue, Modes.PaymentMode());
+  Registers.PV = presentValue;
+  return Registers.FV;
+}
+
+double BusinessEngine::SolvePMT() {
+  const double presentValue = AdjustedPV();
+  Registers.PMT = rtcPMT(Registers.I, WholePeriods(), presentValue, Registers.FV, Modes.PaymentMode());
+  Registers.PV = presentValue;
+  return Registers.PMT;
+}
+
+double BusinessEngine::SolvePV() {
+  const double value = rtcPV(Registers.I, WholePeriods(), Registers.PMT, Registers.FV, Modes.PaymentMode());
+  return Registers.PV = OddPeriodDiscount(value, Registers.I, OddFraction(), Modes.OddPeriod());
+}
+
+double BusinessEngine::SolveI() {
+  const FinancialRegisters& r = Registers;
+  const double rate = OddFraction() == 0 ? rtcRate(WholePeriods(), r.PMT, r.PV, r.FV, Modes.PaymentMode())
+                                         : SolveRateOdd({WholePeriods(), OddFraction(), r.PMT, r.PV, r.FV,
+                                                         Modes.PaymentMode(), Modes.OddPeriod()});
+  const double percent = Checked(rate * 100);
+  Registers.I = rate;
+  return percent;
+}
+
+/// A final part of a period counts as a whole one. Only pure growth, without payments, keeps its fraction.
+double BusinessEngine::SolveN() {
+  const FinancialRegisters& r = Registers;
+  double periods = rtcNPer(r.I, r.PMT, r.PV, r.FV, Modes.PaymentMode());
+  const bool isGrowth = r.PMT == 0 && r.PV != 0 && r.FV != 0 && r.I != 0;
+  if (const double nearest = std::nearbyint(periods); std::fabs(periods - nearest) < WholeTolerance)
+    periods = nearest;
+  else if (!isGrowth)
+    periods = std::trunc(periods) + 1;
+  return Registers.N = periods;
+}
+
+}  // namespace qves

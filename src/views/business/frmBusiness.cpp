@@ -1,0 +1,61 @@
+#include "views/business/frmBusiness.h"
+
+#include <charconv>
+
+#include "services/AppSettings.h"
+#include "views/MenuIds.h"
+#include "views/business/BusinessControls.h"
+#include "views/business/BusinessKeyMap.h"
+
+namespace qves {
+namespace {
+
+constexpr int FirstWeekdayMessage = 1580;  // Sunday
+constexpr int FirstMonthMessage = 1587;    // January
+
+constexpr auto Prefix = Do<BusinessEngine, &BusinessEngine::PrefixKey>;
+
+constexpr ClickRow Clicks[] = {
+    {"cmdFinancial", Do<BusinessEngine, &BusinessEngine::RegisterKey>, FocusRule::Stays},
+    {"cmdXchange", Do<BusinessEngine, &BusinessEngine::ExchangeKey>, FocusRule::Stays},
+    {"cmdCal", Prefix, FocusRule::MovesSilently},
+    {"cmdRecall", Prefix, FocusRule::MovesSilently},
+    {"cmdSTO", Prefix, FocusRule::MovesSilently},
+};
+
+constexpr ViewTables BusinessTables = {
+    .FormName = "frmBusiness",
+    .CalcView = BusinessView,
+    .NameMessage = BusinessItem,
+    .Controls = business::Controls,
+    .Panels = business::Panels,
+    .KeyMap = business::KeyMap,
+    .Clicks = Clicks,
+};
+
+}  // namespace
+
+frmBusiness::frmBusiness(Services& services, ViewFrame& frame)
+    : View(BusinessTables, services, frame),
+      INTBase(static_cast<ListBox*>(Find("lltINTBase"))),
+      PMTMode(static_cast<ListBox*>(Find("lltPMTMode"))),
+      OddPeriodMode(static_cast<ListBox*>(Find("lltOddPeriod"))) {
+  int id = FirstWeekdayMessage;
+  for (std::string& name : Names.Weekdays) name = services.Messages.GetMessage(id++);
+  id = FirstMonthMessage;
+  for (std::string& name : Names.Months) name = services.Messages.GetMessage(id++);
+  EngineHost& host = *this;
+  BusinessHost& modes = *this;
+  auto engine = std::make_unique<BusinessEngine>(host, modes, Says);
+  engine->ClearFinancial();
+  UseEngine(std::move(engine));
+}
+
+int frmBusiness::InterestBasis() const {
+  int days = 0;
+  const std::string& text = INTBase->Chosen().Text;
+  std::from_chars(text.data(), text.data() + text.size(), days);
+  return days;
+}
+
+}  // namespace qves
