@@ -5,11 +5,28 @@
 
 namespace qves {
 
-enum class LastAction { None, Num, Decimal, Backspace, Ce, Biop, Uop, Equal, Memory, LParen, RParen, Rcl, Sto, Cal, Fin, Ex };
+enum class LastAction {
+  None,
+  Num,
+  Decimal,
+  Backspace,
+  Ce,
+  Biop,
+  Uop,
+  Equal,
+  Memory,
+  LParen,
+  RParen,
+  Rcl,
+  Sto,
+  Cal,
+  Fin,
+  Ex
+};
 
 /// The word of an action: "num", "biop", ...; "" for None.
 constexpr std::string_view ToWord(LastAction action) {
-  constexpr std::string_view words[] = {"",    "num",   "decimal", "backspace", "CE",    "biop",
+  constexpr std::string_view words[] = {"",    "num",   "decimal", "backspace", "CE",     "biop",
                                         "uop", "equal", "memory",  "lparen",    "rparen", "rcl",
                                         "sto", "cal",   "fin",     "ex"};
   return words[static_cast<int>(action)];

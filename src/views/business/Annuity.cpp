@@ -10,53 +10,65 @@
 namespace qves {
 namespace {
 
-/// (1 + rate)^periods - 1, also for a small rate without a loss of digits.
+/// (1 + rate)^periods - 1, also for a small rate without a loss of digits. It may be infinite.
 double GrowthLessOne(double rate, double periods) {
-  if (rate > -1) return Checked(std::expm1(periods * std::log1p(rate)));
-  return Checked(std::pow(1 + rate, periods)) - 1;
+  if (rate > -1) return std::expm1(periods * std::log1p(rate));
+  return std::pow(1 + rate, periods) - 1;
 }
 
-/// What payments of 1 have grown to at the end.
-double PaymentsGrown(double rate, double periods, int timing) {
-  if (rate == 0) return periods;
-  return (1 + rate * timing) * GrowthLessOne(rate, periods) / rate;
+double Growth(double rate, double periods) {
+  if (rate > -1) return std::exp(periods * std::log1p(rate));
+  return std::pow(1 + rate, periods);
+}
+
+/// What payments of 1 at the end of each period have grown to at the end, and what they are worth at the
+/// start.
+double PaymentsGrown(double rate, double periods) {
+  return rate == 0 ? periods : GrowthLessOne(rate, periods) / rate;
+}
+double PaymentsDiscounted(double rate, double periods) {
+  return rate == 0 ? periods : -GrowthLessOne(rate, -periods) / rate;
 }
 
 /// The three sums together, valued at the end for a rate below 0 and else at the start: of one sign with the
 /// annuity's balance everywhere, and never beyond a double for a rate that is too far off.
 double Balance(double rate, double periods, double payment, double presentValue, double futureValue,
                int timing) {
+  const double due = payment * (1 + rate * timing);
   if (rate < 0)
-    return presentValue * std::pow(1 + rate, periods) + payment * PaymentsGrown(rate, periods, timing) +
-           futureValue;
-  const double shrunk = GrowthLessOne(rate, -periods);
-  const double payments = rate == 0 ? periods : -(1 + rate * timing) * shrunk / rate;
-  return presentValue + payment * payments + futureValue * (1 + shrunk);
+    return presentValue * Growth(rate, periods) + due * PaymentsGrown(rate, periods) + futureValue;
+  return presentValue + due * PaymentsDiscounted(rate, periods) + futureValue * Growth(rate, -periods);
+}
+
+void CheckPeriod(double period, double periods) {
+  if (!(period >= 1 && period <= periods)) throw ArithmeticFault("a period outside the loan");
 }
 
 }  // namespace
 
 double rtcFV(double rate, double periods, double payment, double presentValue, int timing) {
-  const double growth = 1 + GrowthLessOne(rate, periods);
-  return Checked(-(presentValue * growth + payment * PaymentsGrown(rate, periods, timing)));
+  const double due = payment * (1 + rate * timing);
+  return Checked(-(presentValue * Growth(rate, periods) + due * PaymentsGrown(rate, periods)));
 }
 
 double rtcPV(double rate, double periods, double payment, double futureValue, int timing) {
-  const double growth = 1 + GrowthLessOne(rate, periods);
-  return Divide(-(futureValue + payment * PaymentsGrown(rate, periods, timing)), growth);
+  const double due = payment * (1 + rate * timing);
+  return Checked(-(due * PaymentsDiscounted(rate, periods) + futureValue * Growth(rate, -periods)));
 }
 
 double rtcPMT(double rate, double periods, double presentValue, double futureValue, int timing) {
-  const double growth = 1 + GrowthLessOne(rate, periods);
-  return Divide(-(futureValue + presentValue * growth), PaymentsGrown(rate, periods, timing));
+  if (periods == 0) throw ArithmeticFault("no periods");
+  const double payment =
+      -(presentValue / PaymentsDiscounted(rate, periods) + futureValue / PaymentsGrown(rate, periods));
+  return Divide(payment, 1 + rate * timing);
 }
 
 double rtcNPer(double rate, double payment, double presentValue, double futureValue, int timing) {
   if (rate == 0) return Divide(-(presentValue + futureValue), payment);
   if (rate <= -1) throw ArithmeticFault("a rate of -100 % or less");
   const double due = payment * (1 + rate * timing);
-  const double ratio = Divide(due - futureValue * rate, due + presentValue * rate);
-  return Checked(std::log(ratio)) / std::log1p(rate);
+  const double growth = Divide(-rate * (presentValue + futureValue), due + presentValue * rate);
+  return Checked(std::log1p(growth)) / std::log1p(rate);
 }
 
 double rtcRate(double periods, double payment, double presentValue, double futureValue, int timing) {
@@ -65,14 +77,18 @@ double rtcRate(double periods, double payment, double presentValue, double futur
       [&](double rate) { return Balance(rate, periods, payment, presentValue, futureValue, timing); });
 }
 
+// Both through what the payments still due are worth: the balance before a payment is all of them discounted.
+
 double rtcIPMT(double rate, double period, double periods, double presentValue) {
-  if (!(period >= 1 && period <= periods)) throw ArithmeticFault("a period outside the loan");
-  const double payment = rtcPMT(rate, periods, presentValue, 0, 0);
-  return Checked(rtcFV(rate, period - 1, payment, presentValue, 0) * rate);
+  CheckPeriod(period, periods);
+  const double balance =
+      presentValue * PaymentsDiscounted(rate, periods - period + 1) / PaymentsDiscounted(rate, periods);
+  return Checked(-balance * rate);
 }
 
 double rtcPPMT(double rate, double period, double periods, double presentValue) {
-  return rtcPMT(rate, periods, presentValue, 0, 0) - rtcIPMT(rate, period, periods, presentValue);
+  CheckPeriod(period, periods);
+  return Checked(-presentValue * Growth(rate, -(periods - period + 1)) / PaymentsDiscounted(rate, periods));
 }
 
 }  // namespace qves
