@@ -54,6 +54,19 @@ QPalette HostPalette(QPalette palette, const AppSettings& settings) {
   return palette;
 }
 
+/// Some desktops give captions of what is disabled the colour of the ground; here they are halfway between
+/// text and ground.
+QPalette WithReadableDisabled(QPalette palette) {
+  const auto between = [&](QPalette::ColorRole text, QPalette::ColorRole ground) {
+    const QColor a = palette.color(QPalette::Active, text);
+    const QColor b = palette.color(QPalette::Active, ground);
+    return QColor((a.red() + b.red()) / 2, (a.green() + b.green()) / 2, (a.blue() + b.blue()) / 2);
+  };
+  palette.setColor(QPalette::Disabled, QPalette::ButtonText, between(QPalette::ButtonText, QPalette::Button));
+  palette.setColor(QPalette::Disabled, QPalette::WindowText, between(QPalette::WindowText, QPalette::Window));
+  return palette;
+}
+
 }  // namespace
 
 std::optional<QColor> PaletteColor(int number) {
@@ -67,12 +80,16 @@ void ApplyAppearance(QWidget& box, TextRole role, const AppSettings& settings) {
   if (fromHost) box.setPalette(HostPalette(QApplication::palette(), settings));
 }
 
+void MakeDisabledReadable(QWidget& control) {
+  control.setPalette(WithReadableDisabled(QApplication::palette()));
+}
+
 void PaintOutline(QWidget& control) {
   const QPalette::ColorRole role = control.hasFocus() ? QPalette::Highlight : QPalette::WindowText;
   const int width = control.hasFocus() ? OutlineWidth : 1;
   // The desktop's own palette: a text box may have colours of the host product.
-  const QColor color =
-      QApplication::palette().color(control.isEnabled() ? QPalette::Active : QPalette::Disabled, role);
+  const QColor color = WithReadableDisabled(QApplication::palette())
+                           .color(control.isEnabled() ? QPalette::Active : QPalette::Disabled, role);
   QPainter painter(&control);
   for (int inset = 0; inset < width; ++inset) {
     painter.setPen(color);

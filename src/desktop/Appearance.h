@@ -18,6 +18,9 @@ std::optional<QColor> PaletteColor(int number);
 /// Gives the text box its font and colours.
 void ApplyAppearance(QWidget& box, TextRole role, const AppSettings& settings);
 
+/// Lets the caption of a button or a check box be read in every palette also while it is disabled.
+void MakeDisabledReadable(QWidget& control);
+
 /// Draws the border of a control: visible in every contrast, thick while the control has the focus.
 void PaintOutline(QWidget& control);
 

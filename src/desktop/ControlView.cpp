@@ -3,7 +3,7 @@
 namespace qves {
 
 void NameForScreenReader(QWidget& widget, const Control& control) {
-  widget.setAccessibleName(QString::fromStdString(control.SpokenName));
+  widget.setAccessibleName(QString::fromStdString(control.ReaderName));
   widget.setAccessibleDescription(QString::fromStdString(control.HelpText));
 }
 

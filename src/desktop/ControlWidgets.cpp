@@ -89,7 +89,6 @@ LineView::LineView(TextBox& box, ControlHost& host, const AppSettings& settings,
   NameForScreenReader(*this, box);
   // An accessibility client may write into any line edit; this one shows what the form says.
   connect(this, &QLineEdit::textChanged, this, [this] { Refresh(); });
-  Restyle();
 }
 
 void LineView::Refresh() {
@@ -139,7 +138,6 @@ LinesView::LinesView(TextBox& box, ControlHost& host, const AppSettings& setting
   setFrameStyle(QFrame::Box | QFrame::Plain);
   setLineWidth(OutlineWidth);
   NameForScreenReader(*this, box);
-  Restyle();
 }
 
 void LinesView::Refresh() {
@@ -210,7 +208,9 @@ ControlView* MakeControlView(Control& control, ControlHost& host, const AppSetti
     view = new CheckBoxView(*check, host, parent);
   else if (auto* list = dynamic_cast<ListBox*>(&control))
     view = new ListBoxView(*list, host, parent);
-  if (view) view->Refresh();
+  if (!view) return nullptr;
+  view->Restyle();
+  view->Refresh();
   return view;
 }
 

@@ -15,6 +15,7 @@ class ButtonView : public QPushButton, public ControlView {
   ButtonView(Button& button, ControlHost& host, QWidget* parent);
   QWidget& Widget() override { return *this; }
   void Refresh() override { setEnabled(Model.Enabled); }
+  void Restyle() override { MakeDisabledReadable(*this); }
   QSize minimumSizeHint() const override;
   QSize sizeHint() const override;
 

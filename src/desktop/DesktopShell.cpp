@@ -29,9 +29,13 @@ void DesktopShell::Attach(CalculatorApp& app) {
             if (FormMenuBar* menus = TopMenus()) menus->Settle();
           },
       .IsForeignPopup = [this] { return IsForeignPopup(); },
-      .OpenFirstMenu =
+      .HighlightFirstMenu =
           [this] {
-            if (FormMenuBar* menus = TopMenus()) menus->OpenFirst();
+            if (FormMenuBar* menus = TopMenus()) menus->HighlightFirst();
+          },
+      .KeyDone =
+          [this] {
+            if (FormWindow* window = TopWindow()) window->SettleFocus();
           },
       .OpenMenu =
           [this](int letter) {

@@ -58,8 +58,14 @@ void FormMenuBar::Open(QAction* title) {
   if (!menu->isEmpty()) menu->setActiveAction(menu->actions().first());
 }
 
-void FormMenuBar::OpenFirst() {
-  if (!actions().isEmpty()) Open(actions().first());
+void FormMenuBar::HighlightFirst() {
+  if (actions().isEmpty()) return;
+  // The toolkit highlights without opening for Alt alone, and for a mouse that passes over.
+  const QPointF at = actionGeometry(actions().first()).center();
+  QMouseEvent passing(QEvent::MouseMove, at, mapToGlobal(at), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+  QMenuBar::mouseMoveEvent(&passing);
+  FocusBefore = QApplication::focusWidget();
+  setFocus(Qt::MenuBarFocusReason);
 }
 
 bool FormMenuBar::OpenMenu(int letter) {
@@ -101,6 +107,11 @@ void FormMenuBar::focusOutEvent(QFocusEvent* event) {
   LookWhetherClosed();
 }
 
+void FormMenuBar::keyPressEvent(QKeyEvent* event) {
+  QMenuBar::keyPressEvent(event);
+  LookWhetherClosed();
+}
+
 void FormMenuBar::mouseMoveEvent(QMouseEvent* event) {
   // A mouse that only rests over the bar highlights nothing: keys would go to the menus and not to the
   // calculator.
@@ -126,6 +137,7 @@ void FormMenuBar::TellClosed() {
   if (!Active) return;
   Active = false;
   Last = nullptr;
+  if (hasFocus() && FocusBefore) FocusBefore->setFocus(Qt::MenuBarFocusReason);
   if (HintListener* listener = Hints.GetListener()) listener->MenusClosed();
 }
 

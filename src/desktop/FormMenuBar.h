@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QMenuBar>
+#include <QPointer>
 #include <functional>
 #include <vector>
 
@@ -17,8 +18,8 @@ class FormMenuBar : public QMenuBar {
   FormMenuBar(const std::vector<Menu>& menus, HintNotify& hints, std::function<void(int id)> choose);
   ~FormMenuBar() override;
 
-  /// Opens the first menu at its first item.
-  void OpenFirst();
+  /// Highlights the first menu without opening it, as Alt alone does.
+  void HighlightFirst();
   /// Opens the menu with that mnemonic, a letter's key code, at its first item; false when there is none.
   bool OpenMenu(int letter);
   /// Tells now what is to be told of the menus, so that a key that follows finds them as they are.
@@ -29,6 +30,7 @@ class FormMenuBar : public QMenuBar {
  protected:
   void focusInEvent(QFocusEvent* event) override;
   void focusOutEvent(QFocusEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
 
  private:
@@ -42,6 +44,7 @@ class FormMenuBar : public QMenuBar {
   HintNotify& Hints;
   std::function<void(int id)> Choose;
   QAction* Last = nullptr;
+  QPointer<QWidget> FocusBefore;  ///< where the keyboard focus was before HighlightFirst
   bool Active = false;
 };
 

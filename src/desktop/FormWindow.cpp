@@ -1,6 +1,7 @@
 #include "desktop/FormWindow.h"
 
 #include <QCloseEvent>
+#include <utility>
 
 #include "desktop/PanelGrid.h"
 
@@ -19,7 +20,8 @@ void FormWindow::ShowForm(Form& form) {
   setWindowTitle(QString::fromStdString(form.Title()));
   BuildMenus();
   BuildControls();
-  FocusChanged(form);
+  FocusDue = true;
+  SettleFocus();
   show();
 }
 
@@ -75,9 +77,17 @@ void FormWindow::TextAppended(Form&, TextBox& box, std::size_t from) {
   if (ControlView* view = ViewOf(box)) view->Append(from);
 }
 
-void FormWindow::FocusChanged(Form& form) {
-  QWidget* widget = form.FocusedControl() ? WidgetOf(*form.FocusedControl()) : nullptr;
-  if (!widget) return;
+void FormWindow::FocusChanged(Form&) {
+  // A key may move the focus there and back again: a screen reader is to hear of where it ends alone.
+  if (std::exchange(FocusDue, true)) return;
+  QMetaObject::invokeMethod(
+      this, [this] { SettleFocus(); }, Qt::QueuedConnection);
+}
+
+void FormWindow::SettleFocus() {
+  if (!std::exchange(FocusDue, false) || !Shown) return;
+  QWidget* widget = Shown->FocusedControl() ? WidgetOf(*Shown->FocusedControl()) : nullptr;
+  if (!widget || widget->hasFocus()) return;
   MovingFocus = true;
   widget->setFocus(Qt::OtherFocusReason);
   MovingFocus = false;

@@ -27,6 +27,9 @@ class FormWindow : public QMainWindow, private FormObserver, private ControlHost
   /// The widget of the control, null when it is not of the form shown.
   QWidget* WidgetOf(const Control& control) const;
 
+  /// Gives the keyboard focus now to the form's focused control, which else gets it after the event in hand.
+  void SettleFocus();
+
   /// Called when the user closes the window.
   std::function<void()> OnClose = [] {};
 
@@ -54,6 +57,7 @@ class FormWindow : public QMainWindow, private FormObserver, private ControlHost
   Form* Shown = nullptr;
   FormMenuBar* MenuBar = nullptr;
   std::unordered_map<const Control*, ControlView*> Views;
+  bool FocusDue = false;     ///< the form's focus has moved, perhaps more than once
   bool MovingFocus = false;  ///< the focus follows the form: its echo is no news for it
 };
 

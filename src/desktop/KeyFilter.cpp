@@ -14,10 +14,11 @@ bool IsMnemonic(const QKeyEvent& event) {
   return event.modifiers() == Qt::AltModifier && event.key() != Qt::Key_Alt;
 }
 
-/// A key that speaks or silences when it is let go. Held, it is one press: repetitions must not hide that
-/// another key came between.
-bool ActsOnRelease(int code) {
-  return code == KeyControl || code == KeyCapsLock || code == KeyNumLock || code == KeyScrollLock;
+/// Held, the key is one press. One that speaks or silences when it is let go must not hide by its repetitions
+/// that another key came between; Space would turn a check box over and over.
+bool ActsOnceWhileHeld(int code) {
+  return code == KeyControl || code == KeyCapsLock || code == KeyNumLock || code == KeyScrollLock ||
+         code == KeySpace;
 }
 
 }  // namespace
@@ -47,15 +48,17 @@ bool KeyFilter::Press(const QKeyEvent& event) {
   To.SettleMenus();
   if (To.IsForeignPopup()) return false;
   const KeyEvent key = TranslateKey(CaptureKey(event));
-  if (event.isAutoRepeat() && ActsOnRelease(key.Code)) return true;
-  return To.KeyDown(key) || OpensMenu(key);
+  if (event.isAutoRepeat() && ActsOnceWhileHeld(key.Code)) return true;
+  const bool used = To.KeyDown(key) || OpensMenu(key);
+  To.KeyDone();
+  return used;
 }
 
 bool KeyFilter::OpensMenu(const KeyEvent& key) {
   const bool isLetter = key.Code >= 'A' && key.Code <= 'Z';
   if (isLetter && key.Shift == AltBit) return To.OpenMenu(key.Code);
   if (key.Code != KeyF10 || key.Shift != NoShift) return false;
-  To.OpenFirstMenu();
+  To.HighlightFirstMenu();
   return true;
 }
 

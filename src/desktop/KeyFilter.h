@@ -18,7 +18,9 @@ class KeyFilter : public QObject {
     std::function<void()> SettleMenus = [] {};
     std::function<bool()> IsForeignPopup = [] { return false; };
     /// A press of F10 that the calculator did not use.
-    std::function<void()> OpenFirstMenu = [] {};
+    std::function<void()> HighlightFirstMenu = [] {};
+    /// A key press has been dealt with.
+    std::function<void()> KeyDone = [] {};
     /// A press of Alt and a letter that the calculator did not use; true when a menu opens.
     std::function<bool(int letter)> OpenMenu = [](int) { return false; };
   };

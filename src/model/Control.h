@@ -55,6 +55,7 @@ struct ControlSpec {
   GridCell Cell = {};
   unsigned Traits = PlainControl;
   std::span<const ListItemSpec> Items = {};  ///< of a list
+  int ReaderMessage = NoMessage;  ///< the message that is its name for a screen reader; none: its spoken name
 };
 
 /// What the speech service hands to every control that speaks for itself.
@@ -73,7 +74,8 @@ class Control {
       : Spec(spec),
         Caption(std::move(caption)),
         SpokenName(std::move(spokenName)),
-        HelpText(std::move(helpText)) {}
+        HelpText(std::move(helpText)),
+        ReaderName(SpokenName) {}
   virtual ~Control() = default;
 
   std::string_view Name() const { return Spec.Name; }
@@ -82,8 +84,9 @@ class Control {
 
   const ControlSpec& Spec;
   const std::string Caption;
-  const std::string SpokenName;  ///< spoken on focus and F7; a screen reader's name of the control
+  const std::string SpokenName;  ///< spoken on focus and F7
   const std::string HelpText;    ///< spoken on F1; a screen reader's description of the control
+  std::string ReaderName;        ///< a screen reader's name of the control; it adds itself what kind it is
   bool Enabled = true;
   SpeakingLink Speaking;
 };

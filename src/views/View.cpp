@@ -40,7 +40,10 @@ View::View(const ViewTables& tables, Services& services, ViewFrame& frame)
 }
 
 void View::AddControls() {
-  for (const ControlSpec& spec : Tables.Controls) Add(MakeControl(spec));
+  for (const ControlSpec& spec : Tables.Controls) {
+    Control& control = Add(MakeControl(spec));
+    if (spec.ReaderMessage != NoMessage) control.ReaderName = Message(spec.ReaderMessage);
+  }
   Display = static_cast<TextBox*>(Find("txtDisplay"));
   MemoryBox = static_cast<TextBox*>(Find("txtMemory"));
 }

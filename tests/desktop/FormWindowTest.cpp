@@ -60,6 +60,7 @@ TEST_F(FormWindowTest, ClickOnTheDisplaySelectsItsText) {
 
 TEST_F(FormWindowTest, FocusFollowsTheFormWithoutEcho) {
   Shown.SetFocus(*Shown.Find("cmdB"));
+  Settle();
   EXPECT_TRUE(Find<QPushButton>("cmdB").hasFocus());
   EXPECT_THAT(Shown.Take(), ElementsAre("focus cmdB"));
   // What the window manager does when another window was in front.

@@ -47,7 +47,8 @@ class WindowFixture : public testing::Test {
   KeyFilter Keys{KeyFilter::Receivers{
       .KeyDown = [this](const KeyEvent& event) { return !MenuHasKeys && Window.ShownForm()->KeyDown(event); },
       .KeyUp = [](int) {},
-      .OpenFirstMenu = [this] { Window.Menus()->OpenFirst(); },
+      .HighlightFirstMenu = [this] { Window.Menus()->HighlightFirst(); },
+      .KeyDone = [this] { Window.SettleFocus(); },
       .OpenMenu = [this](int letter) { return Window.Menus()->OpenMenu(letter); },
   }};
 };

@@ -73,6 +73,7 @@ double rtcNPer(double rate, double payment, double presentValue, double futureVa
 
 double rtcRate(double periods, double payment, double presentValue, double futureValue, int timing) {
   if (!(periods > 0)) throw ArithmeticFault("no periods");
+  if (payment == 0 && presentValue == 0 && futureValue == 0) throw ArithmeticFault("no sums");
   return NearestRate(
       [&](double rate) { return Balance(rate, periods, payment, presentValue, futureValue, timing); });
 }

@@ -13,8 +13,8 @@ double rtcFV(double rate, double periods, double payment, double presentValue, i
 double rtcPMT(double rate, double periods, double presentValue, double futureValue, int timing);
 /// The number of periods, with its fraction.
 double rtcNPer(double rate, double payment, double presentValue, double futureValue, int timing);
-/// The rate nearest to 10 % a period that solves the annuity; above -100 %. Faults when there is none, and
-/// when `periods` is not above 0.
+/// The rate nearest to 10 % a period that solves the annuity; above -100 %. Faults when there is none,
+/// when all sums are 0, and when `periods` is not above 0.
 double rtcRate(double periods, double payment, double presentValue, double futureValue, int timing);
 
 /// The interest and the principal in the payment of a period, from 1 to `periods`, of a loan repaid by

@@ -72,6 +72,7 @@ class BusinessEngine : public EntryEngine {
   double SolvePV();
   double SolveI();
   double SolveN();
+  double SolvedPeriods() const;
   double AdjustedPV() const;
   double OddFraction() const;
   int WholePeriods() const;

@@ -4,7 +4,6 @@
 
 #include "engine/Numbers.h"
 #include "views/business/Amortization.h"
-#include "views/business/Annuity.h"
 #include "views/business/Bonds.h"
 #include "views/business/BusinessEngine.h"
 #include "views/business/BusinessOperators.h"
@@ -77,7 +76,7 @@ double BusinessEngine::FindDecliningBalance(double year) {
 /// to a whole one, where a solved one is rounded up, and the chosen timing counts for it alone: wanted so.
 double BusinessEngine::FindAmortization(double payments) {
   FinancialRegisters& r = Registers;
-  if (r.N == 0) r.N = std::trunc(rtcNPer(r.I, r.PMT, r.PV, r.FV, Modes.PaymentMode()));
+  if (r.N == 0) r.N = std::trunc(SolvedPeriods());
   const AmortizedPart part = Amortize(r.I, r.N, r.PV, ToInt16(payments));
   r.N -= payments;
   r.PV -= part.Principal;

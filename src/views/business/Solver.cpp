@@ -76,16 +76,21 @@ double BusinessEngine::SolveI() {
   return percent;
 }
 
+/// The number of periods that the other four give; rounding noise beside a whole number is cut off.
+double BusinessEngine::SolvedPeriods() const {
+  const FinancialRegisters& r = Registers;
+  const double periods = rtcNPer(r.I, r.PMT, r.PV, r.FV, Modes.PaymentMode());
+  const double nearest = std::nearbyint(periods);
+  return std::fabs(periods - nearest) < WholeTolerance ? nearest : periods;
+}
+
 /// A final part of a period counts as a whole one. Only pure growth, without payments, keeps its fraction.
 double BusinessEngine::SolveN() {
   const FinancialRegisters& r = Registers;
-  double periods = rtcNPer(r.I, r.PMT, r.PV, r.FV, Modes.PaymentMode());
   const bool isGrowth = r.PMT == 0 && r.PV != 0 && r.FV != 0 && r.I != 0;
-  if (const double nearest = std::nearbyint(periods); std::fabs(periods - nearest) < WholeTolerance)
-    periods = nearest;
-  else if (!isGrowth)
-    periods = std::trunc(periods) + 1;
-  return Registers.N = periods;
+  const double periods = SolvedPeriods();
+  const double whole = std::trunc(periods);
+  return Registers.N = isGrowth || whole == periods ? periods : whole + 1;
 }
 
 }  // namespace qves

@@ -31,15 +31,15 @@ inline constexpr auto CheckBox = ControlKind::CheckBox;
 inline constexpr auto ListBox = ControlKind::ListBox;
 
 // name, index, kind, caption, caption message, name message, help message, {panel, row, column, spans},
-// traits, items
+// traits, items, name message for a screen reader
 inline constexpr ControlSpec Controls[] = {
     {"txtDisplay", NoIndex, TextBox, "", 0, 380, 1200, {ScreenPanel, 0, 0}},
     {"txtMemory", NoIndex, TextBox, "", 0, 382, 383, {ScreenPanel, 0, 1}, Indicator},
 
     {"lltNumBase", NoIndex, ListBox, "", 0, 1118, 1119, {ModePanel, 0, 0, 2}, PlainControl, NumberBases},
     {"lltTrigMode", NoIndex, ListBox, "", 0, 1120, 1121, {ModePanel, 0, 1, 2}, PlainControl, AngleUnits},
-    {"cbInv", NoIndex, CheckBox, "inv", 0, 1132, 1136, {ModePanel, 0, 2}},
-    {"cbHyp", NoIndex, CheckBox, "hyp", 0, 1133, 1137, {ModePanel, 1, 2}},
+    {"cbInv", NoIndex, CheckBox, "inv", 0, 1132, 1136, {ModePanel, 0, 2}, PlainControl, {}, 387},
+    {"cbHyp", NoIndex, CheckBox, "hyp", 0, 1133, 1137, {ModePanel, 1, 2}, PlainControl, {}, 388},
 
     {"cmdBackspace", NoIndex, Button, "", 1075, 1082, 1076, {ClearPanel, 0, 0}},
     {"cmdCE", NoIndex, Button, "CE", 0, 1077, 1078, {ClearPanel, 0, 1}},
