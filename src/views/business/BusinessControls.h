@@ -13,15 +13,15 @@ enum Panel {
   RegisterPanel,
   PrefixPanel,
   FunctionPanel,
-  MemoryPanel,
   DigitPanel,
+  MemoryPanel,
   OperatorPanel
 };
 
 inline constexpr PanelSpec Panels[] = {
     {ScreenPanel, 0, 0, 1, 3}, {OptionPanel, 1, 0, 1, 2}, {ClearPanel, 1, 2},
     {RegisterPanel, 2, 0},     {PrefixPanel, 2, 1},       {FunctionPanel, 2, 2},
-    {MemoryPanel, 3, 0},       {DigitPanel, 3, 1},        {OperatorPanel, 3, 2},
+    {DigitPanel, 3, 0},        {MemoryPanel, 3, 1},       {OperatorPanel, 3, 2},
 };
 
 inline constexpr ListItemSpec InterestBases[] = {{NoMessage, 1563, "360"}, {NoMessage, 1564, "365"}};
@@ -80,11 +80,6 @@ inline constexpr ControlSpec Controls[] = {
     {"cmdBiOp", 4, Button, "date", 0, 1546, 1547, {FunctionPanel, 3, 1}, HelpOnFocus},
     {"cmdUOp", 6, Button, "/12", 0, 1526, 1527, {FunctionPanel, 3, 2}, HelpOnFocus},
 
-    {"cmdMemory", 0, Button, "MC", 0, 1054, 1055, {MemoryPanel, 0, 0}},
-    {"cmdMemory", 1, Button, "MR", 0, 1056, 1057, {MemoryPanel, 1, 0}},
-    {"cmdMemory", 2, Button, "MS", 0, 1058, 1059, {MemoryPanel, 2, 0}},
-    {"cmdMemory", 3, Button, "M+", 0, 1060, 1061, {MemoryPanel, 3, 0}},
-
     {"cmdDigit", 7, Button, "7", 0, 0, 1066, {DigitPanel, 0, 0}},
     {"cmdDigit", 8, Button, "8", 0, 0, 1066, {DigitPanel, 0, 1}},
     {"cmdDigit", 9, Button, "9", 0, 0, 1066, {DigitPanel, 0, 2}},
@@ -97,6 +92,11 @@ inline constexpr ControlSpec Controls[] = {
     {"cmdDigit", 0, Button, "0", 0, 0, 1066, {DigitPanel, 3, 0}},
     {"cmdDecimal", NoIndex, Button, "", 1081, 1073, 1074, {DigitPanel, 3, 1}},
     {"cmdUOp", 1, Button, "+/-", 0, 1002, 1003, {DigitPanel, 3, 2}},
+
+    {"cmdMemory", 0, Button, "MC", 0, 1054, 1055, {MemoryPanel, 0, 0}},
+    {"cmdMemory", 1, Button, "MR", 0, 1056, 1057, {MemoryPanel, 1, 0}},
+    {"cmdMemory", 2, Button, "MS", 0, 1058, 1059, {MemoryPanel, 2, 0}},
+    {"cmdMemory", 3, Button, "M+", 0, 1060, 1061, {MemoryPanel, 3, 0}},
 
     {"cmdBiOp", 1, Button, "/", 0, 1036, 1037, {OperatorPanel, 0, 0}},
     {"cmdUOp", 0, Button, "sqrt", 0, 1000, 1001, {OperatorPanel, 0, 1}},
