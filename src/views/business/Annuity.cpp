@@ -79,17 +79,22 @@ double rtcRate(double periods, double payment, double presentValue, double futur
 }
 
 // Both through what the payments still due are worth: the balance before a payment is all of them discounted.
+// For a rate below 0 numerator and denominator are both valued at the end, where they stay finite.
 
 double rtcIPMT(double rate, double period, double periods, double presentValue) {
   CheckPeriod(period, periods);
-  const double balance =
-      presentValue * PaymentsDiscounted(rate, periods - period + 1) / PaymentsDiscounted(rate, periods);
-  return Checked(-balance * rate);
+  const double left = periods - period + 1;
+  const double share =
+      rate < 0 ? PaymentsGrown(rate, left) / PaymentsGrown(rate, periods) * Growth(rate, period - 1)
+               : PaymentsDiscounted(rate, left) / PaymentsDiscounted(rate, periods);
+  return Checked(-presentValue * share * rate);
 }
 
 double rtcPPMT(double rate, double period, double periods, double presentValue) {
   CheckPeriod(period, periods);
-  return Checked(-presentValue * Growth(rate, -(periods - period + 1)) / PaymentsDiscounted(rate, periods));
+  const double share = rate < 0 ? Growth(rate, period - 1) / PaymentsGrown(rate, periods)
+                                : Growth(rate, period - periods - 1) / PaymentsDiscounted(rate, periods);
+  return Checked(-presentValue * share);
 }
 
 }  // namespace qves

@@ -43,7 +43,8 @@ class Walk {
     double near = Before, far = Here;
     const bool farSign = std::signbit(ValueHere);
     for (;;) {
-      const double middle = near + (far - near) / 2;
+      // A rate of 0 is tried itself: halving would only come ever closer to it.
+      const double middle = near * far < 0 ? 0 : near + (far - near) / 2;
       if (middle == near || middle == far) return middle;
       const double value = Value(middle);
       if (value == 0) return middle;
