@@ -8,7 +8,8 @@ RefusedPackages="$Root/build/refused-packages"
 
 # The parts that the build can leave out, and the switch of each.
 declare -A PartSwitch=(
-  [desktop]=QVES_DESKTOP [speechd]=QVES_SPEECHD [espeak]=QVES_ESPEAK [tests]=QVES_TESTS [benchmarks]=QVES_BENCHMARKS)
+  [desktop]=QVES_DESKTOP [speechd]=QVES_SPEECHD [espeak]=QVES_ESPEAK [sounds]=QVES_SOUNDS
+  [tests]=QVES_TESTS [benchmarks]=QVES_BENCHMARKS)
 
 say() { echo "$(basename "$0"): $*" >&2; }
 fail() { say "$@"; exit 1; }
@@ -104,7 +105,7 @@ install_packages() {
 build_switches() {
   is_debian || return 0
   local part package value
-  for part in desktop speechd espeak tests benchmarks; do
+  for part in desktop speechd espeak sounds tests benchmarks; do
     value=ON
     while read -r _ package; do
       [[ -n ${Installed[$package]:-} ]] || value=OFF

@@ -1,5 +1,7 @@
 #include "app/CalculatorApp.h"
 
+#include "dialogs/HelpDialogs.h"
+#include "views/MenuIds.h"
 #include "views/business/frmBusiness.h"
 #include "views/scientific/frmScientific.h"
 #include "views/standard/frmStandard.h"
@@ -70,6 +72,7 @@ void CalculatorApp::Exit() {
 
 void CalculatorApp::UnloadView() {
   if (!View) return;
+  while (!Dialogs.empty()) CloseDialog(*Dialogs.back());
   // The wait of the shutdown lets events run; they find no view any more.
   Retired.push_back(std::move(View));
   Form& leaving = *Retired.back();
@@ -85,12 +88,13 @@ bool CalculatorApp::KeyDown(const KeyEvent& event) {
   Retired.clear();
   KeyListener* hook = Services_.Outside.Keys.GetListener();
   if (hook && hook->KeyDown(event)) return true;
-  return View && !(HostForm && HostForm->IsMenuActive()) && View->KeyDown(event);
+  Form* form = ActiveForm();
+  return form && !(HostForm && HostForm->IsMenuActive()) && form->KeyDown(event);
 }
 
 void CalculatorApp::KeyUp(int keyCode) {
   if (KeyListener* hook = Services_.Outside.Keys.GetListener()) hook->KeyUp(keyCode);
-  if (View) View->Form_KeyUp(keyCode);
+  if (Form* form = ActiveForm()) form->Form_KeyUp(keyCode);
 }
 
 void CalculatorApp::LoadHostForm(Form& keyTarget) {
@@ -98,6 +102,29 @@ void CalculatorApp::LoadHostForm(Form& keyTarget) {
     HostForm = std::make_unique<frmCTLApp>(
         Services_, frmCTLApp::Callbacks{[this] { return ActiveForm(); }, [this] { Leave(); }});
   HostForm->SetKeyTarget(&keyTarget);
+}
+
+void CalculatorApp::OpenHelp(int menuItem) {
+  const HelpDialog which = menuItem == AboutItem     ? HelpDialog::About
+                           : menuItem == HotKeysItem ? HelpDialog::HotKeys
+                                                     : HelpDialog::Inverse;
+  Dialogs.push_back(MakeHelpDialog(which, Services_.Settings.CalcView, Services_, *this));
+  Form& dialog = *Dialogs.back();
+  Observer.FormShown(dialog);
+  dialog.Form_Load();
+}
+
+void CalculatorApp::CloseDialog(Form& dialog) {
+  Retired.push_back(std::move(Dialogs.back()));
+  Dialogs.pop_back();
+  dialog.Form_Unload();
+  Observer.FormClosed(dialog);
+}
+
+void CalculatorApp::SetReadingTarget(Form* form) {
+  if (!HostForm) return;
+  HostForm->SetBookMarkTarget(form);
+  HostForm->SetSpeechStoppedTarget(form);
 }
 
 void CalculatorApp::LeaveKeys() {

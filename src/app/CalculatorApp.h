@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "app/frmCTLApp.h"
+#include "dialogs/DialogFrame.h"
 #include "model/Form.h"
 #include "services/Services.h"
 #include "views/ViewFrame.h"
@@ -29,7 +30,7 @@ struct StartOptions {
   std::optional<int> View;  ///< the CalcView to open instead of the stored one
 };
 
-class CalculatorApp : private ViewFrame {
+class CalculatorApp : private ViewFrame, private DialogFrame {
  public:
   CalculatorApp(Services& services, AppObserver& observer);
   ~CalculatorApp() override;
@@ -38,7 +39,7 @@ class CalculatorApp : private ViewFrame {
   bool Main(const StartOptions& options = {});
 
   /// The form that has the keyboard; null before the start and after the end.
-  Form* ActiveForm() const { return View.get(); }
+  Form* ActiveForm() const { return Dialogs.empty() ? View.get() : Dialogs.back().get(); }
 
   /// A key press: through the keyboard hook, then to the active form. True when the calculator has used it;
   /// else it is the toolkit's own.
@@ -57,8 +58,14 @@ class CalculatorApp : private ViewFrame {
   void LeaveKeys() override;
   void UnloadHostForm() override { HostForm.reset(); }
   bool IsSwitching() const override { return ViewSwitching; }
+  bool IsActive(const Form& view) const override { return &view == ActiveForm(); }
+  void OpenHelp(int menuItem) override;
   void ViewLoaded() override { ViewSwitching = false; }
   bool TakeWelcome() override { return std::exchange(WelcomeDue, false); }
+
+  // DialogFrame
+  void CloseDialog(Form& dialog) override;
+  void SetReadingTarget(Form* form) override;
 
   void ShowView(int calcView);
   void UnloadView();
@@ -67,6 +74,7 @@ class CalculatorApp : private ViewFrame {
   AppObserver& Observer;
   std::unique_ptr<frmCTLApp> HostForm;
   std::unique_ptr<Form> View;
+  std::vector<std::unique_ptr<Form>> Dialogs;  ///< open above the view, the top one last
   std::vector<std::unique_ptr<Form>> Retired;  ///< unloaded forms, kept until their own handler has returned
   bool ViewSwitching = false;
   bool WelcomeDue = true;

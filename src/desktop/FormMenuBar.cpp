@@ -1,6 +1,7 @@
 #include "desktop/FormMenuBar.h"
 
 #include <QApplication>
+#include <QKeyEvent>
 #include <QKeySequence>
 #include <QMenu>
 #include <QMouseEvent>
@@ -29,15 +30,15 @@ QString WithoutMnemonic(const QString& caption) {
   return text;
 }
 
-FormMenuBar::FormMenuBar(const std::vector<Menu>& menus, HintNotify& hints,
-                         std::function<void(int id)> choose)
-    : Hints(hints), Choose(std::move(choose)) {
+FormMenuBar::FormMenuBar(const std::vector<Menu>& menus, HintNotify& hints, Receivers receivers)
+    : Hints(hints), To(std::move(receivers)) {
   setNativeMenuBar(false);
   for (const Menu& menu : menus) AddMenu(menu);
   connect(this, &QMenuBar::hovered, this, &FormMenuBar::Highlighted);
 }
 
 FormMenuBar::~FormMenuBar() {
+  To.GiveFocusBack = [] {};
   TellClosed();
 }
 
@@ -48,7 +49,7 @@ void FormMenuBar::AddMenu(const Menu& menu) {
     QAction* action = popup->addAction(QString::fromStdString(item.Caption));
     action->setMenuRole(QAction::NoRole);
     connect(
-        action, &QAction::triggered, this, [this, id = item.Id] { Choose(id); }, Qt::QueuedConnection);
+        action, &QAction::triggered, this, [this, id = item.Id] { To.Choose(id); }, Qt::QueuedConnection);
   }
 }
 
@@ -60,12 +61,20 @@ void FormMenuBar::Open(QAction* title) {
 
 void FormMenuBar::HighlightFirst() {
   if (actions().isEmpty()) return;
+  if (activeAction()) return Leave();
   // The toolkit highlights without opening for Alt alone, and for a mouse that passes over.
   const QPointF at = actionGeometry(actions().first()).center();
   QMouseEvent passing(QEvent::MouseMove, at, mapToGlobal(at), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
   QMenuBar::mouseMoveEvent(&passing);
-  FocusBefore = QApplication::focusWidget();
   setFocus(Qt::MenuBarFocusReason);
+}
+
+void FormMenuBar::Leave() {
+  if (IsMenuOpen()) return;
+  QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+  QMenuBar::keyPressEvent(&escape);
+  if (hasFocus()) To.GiveFocusBack();
+  TellClosed();
 }
 
 bool FormMenuBar::OpenMenu(int letter) {
@@ -118,6 +127,13 @@ void FormMenuBar::mouseMoveEvent(QMouseEvent* event) {
   if (Active || event->buttons() != Qt::NoButton) QMenuBar::mouseMoveEvent(event);
 }
 
+void FormMenuBar::mousePressEvent(QMouseEvent* event) {
+  if (actionAt(event->position().toPoint()))
+    QMenuBar::mousePressEvent(event);
+  else
+    Leave();
+}
+
 void FormMenuBar::LookWhetherClosed() {
   // One menu hides before the next one shows, and the bar stays highlighted after Escape in a menu.
   QTimer::singleShot(0, this, [this] {
@@ -137,7 +153,7 @@ void FormMenuBar::TellClosed() {
   if (!Active) return;
   Active = false;
   Last = nullptr;
-  if (hasFocus() && FocusBefore) FocusBefore->setFocus(Qt::MenuBarFocusReason);
+  if (hasFocus()) To.GiveFocusBack();
   if (HintListener* listener = Hints.GetListener()) listener->MenusClosed();
 }
 

@@ -3,7 +3,6 @@
 #pragma once
 
 #include <QMenuBar>
-#include <QPointer>
 #include <functional>
 #include <vector>
 
@@ -14,12 +13,20 @@ namespace qves {
 
 class FormMenuBar : public QMenuBar {
  public:
-  /// `choose` gets the id of a chosen item, after the menus have closed.
-  FormMenuBar(const std::vector<Menu>& menus, HintNotify& hints, std::function<void(int id)> choose);
+  struct Receivers {
+    std::function<void(int id)> Choose;  ///< the id of a chosen item, after the menus have closed
+    /// The menus are closed and the bar must not keep the keyboard focus.
+    std::function<void()> GiveFocusBack;
+  };
+
+  FormMenuBar(const std::vector<Menu>& menus, HintNotify& hints, Receivers receivers);
   ~FormMenuBar() override;
 
-  /// Highlights the first menu without opening it, as Alt alone does.
+  /// Highlights the first menu without opening it, as Alt alone does; when one is highlighted, leaves the
+  /// menus.
   void HighlightFirst();
+  /// Ends the highlight of a menu that is not open.
+  void Leave();
   /// Opens the menu with that mnemonic, a letter's key code, at its first item; false when there is none.
   bool OpenMenu(int letter);
   /// Tells now what is to be told of the menus, so that a key that follows finds them as they are.
@@ -32,6 +39,7 @@ class FormMenuBar : public QMenuBar {
   void focusOutEvent(QFocusEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void mouseMoveEvent(QMouseEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
 
  private:
   void AddMenu(const Menu& menu);
@@ -42,9 +50,8 @@ class FormMenuBar : public QMenuBar {
   void TellClosed();
 
   HintNotify& Hints;
-  std::function<void(int id)> Choose;
+  Receivers To;
   QAction* Last = nullptr;
-  QPointer<QWidget> FocusBefore;  ///< where the keyboard focus was before HighlightFirst
   bool Active = false;
 };
 

@@ -36,7 +36,13 @@ void FormWindow::BuildMenus() {
   // The menu bar itself goes with the old form; the old one is deleted when its event has ended.
   MenuBar = nullptr;
   if (Shown->Menus().empty()) return setMenuBar(nullptr);
-  MenuBar = new FormMenuBar(Shown->Menus(), Hints, [this](int id) { ChooseMenu(id); });
+  MenuBar = new FormMenuBar(Shown->Menus(), Hints,
+                            {.Choose = [this](int id) { ChooseMenu(id); },
+                             .GiveFocusBack =
+                                 [this] {
+                                   FocusDue = true;
+                                   SettleFocus();
+                                 }});
   setMenuBar(MenuBar);
 }
 
@@ -116,6 +122,12 @@ void FormWindow::ChooseMenu(int id) {
 void FormWindow::closeEvent(QCloseEvent* event) {
   event->ignore();
   OnClose();
+}
+
+void FormWindow::mousePressEvent(QMouseEvent* event) {
+  QMainWindow::mousePressEvent(event);
+  // On nothing in particular.
+  if (MenuBar) MenuBar->Leave();
 }
 
 void FormWindow::changeEvent(QEvent* event) {

@@ -36,6 +36,7 @@ class FormWindow : public QMainWindow, private FormObserver, private ControlHost
  protected:
   void closeEvent(QCloseEvent* event) override;
   void changeEvent(QEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
 
  private:
   // FormObserver

@@ -48,7 +48,7 @@ bool KeyFilter::Press(const QKeyEvent& event) {
   To.SettleMenus();
   if (To.IsForeignPopup()) return false;
   const KeyEvent key = TranslateKey(CaptureKey(event));
-  if (event.isAutoRepeat() && ActsOnceWhileHeld(key.Code)) return true;
+  if (IsRepetition(event, key.Code) && ActsOnceWhileHeld(key.Code)) return true;
   const bool used = To.KeyDown(key) || OpensMenu(key);
   To.KeyDone();
   return used;
@@ -62,8 +62,18 @@ bool KeyFilter::OpensMenu(const KeyEvent& key) {
   return true;
 }
 
+/// On a busy machine the toolkit takes the halves of a repetition for a release and a press of their own;
+/// they have the same time then.
+bool KeyFilter::IsRepetition(const QKeyEvent& event, int code) const {
+  return event.isAutoRepeat() ||
+         (code == ReleasedCode && event.timestamp() != 0 && event.timestamp() == ReleasedAt);
+}
+
 void KeyFilter::Release(const QKeyEvent& event) {
-  if (!event.isAutoRepeat()) To.KeyUp(TranslateKey(CaptureKey(event)).Code);
+  if (event.isAutoRepeat()) return;
+  ReleasedCode = TranslateKey(CaptureKey(event)).Code;
+  ReleasedAt = event.timestamp();
+  To.KeyUp(ReleasedCode);
 }
 
 }  // namespace qves

@@ -34,9 +34,12 @@ class KeyFilter : public QObject {
  private:
   bool Press(const QKeyEvent& event);
   bool OpensMenu(const KeyEvent& key);
+  bool IsRepetition(const QKeyEvent& event, int code) const;
   void Release(const QKeyEvent& event);
 
   Receivers To;
+  int ReleasedCode = 0;    ///< of the last release
+  quint64 ReleasedAt = 0;  ///< its time, as the display server has it
 };
 
 }  // namespace qves

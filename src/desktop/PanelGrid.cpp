@@ -6,7 +6,8 @@
 namespace qves {
 namespace {
 
-constexpr int Spacing = 6;     // pixels between controls
+constexpr int Spacing = 6;  // pixels between controls
+constexpr int ReaderWeight = 8;
 constexpr int TapeWeight = 4;  // rows of buttons that a box of several lines takes its share with
 
 /// Keeps the spacing of a row in which no control begins: the toolkit would leave it out.
@@ -24,6 +25,7 @@ bool FillsRows(const Control& control) {
 /// How a control's row grows, in rows of buttons. A box of one line and a list stay as high as their text.
 int RowWeight(const Control& control) {
   if (FillsRows(control)) return 1;
+  if (control.Spec.Kind == ControlKind::Reader) return ReaderWeight;
   return control.Has(MultiLine) ? TapeWeight : 0;
 }
 

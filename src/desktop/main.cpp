@@ -21,6 +21,7 @@
 #include "posix/SeededRandom.h"
 #include "posix/SystemClock.h"
 #include "services/ServiceSet.h"
+#include "sounds/ModuleSounds.h"
 #include "speech/SpeechModule.h"
 
 namespace qves {
@@ -69,8 +70,9 @@ int RunCalculator(const Options& options, QtEventPump& events, LateTts& speech) 
   AppWMSpy windowMessages;
   DesktopWindows windows(options.Home.empty() ? RuntimeFolder() : directories.Home(),
                          QGuiApplication::platformName() == "xcb");
+  ModuleSounds sounds(events);
   Platform platform{speech,      keys,     hints, windowMessages, windows, files,
-                    directories, registry, clock, events,         random};
+                    directories, registry, clock, events,         random,  sounds};
   ServiceSet services(platform);
 
   DesktopShell shell({services.All.Settings, hints, windowMessages, windows, events});

@@ -7,12 +7,14 @@
 #include <string_view>
 #include <vector>
 
+#include "model/RichText.h"
+
 namespace qves {
 
 class TtsEngine;
 class TtsSpeaker;
 
-enum class ControlKind { Button, TextBox, CheckBox, ListBox };
+enum class ControlKind { Button, TextBox, CheckBox, ListBox, Reader };
 
 /// Where a control stands: a panel of the window, and the cell inside the panel's own grid.
 struct GridCell {
@@ -127,6 +129,17 @@ class ListBox : public Control {
   int ListIndex = 0;  ///< of the chosen item, from 0
 
   const ListItem& Chosen() const { return Items[static_cast<std::size_t>(ListIndex)]; }
+};
+
+/// A read-only document that reads itself aloud. Places are counted in bytes of `Text`.
+class Reader : public Control {
+ public:
+  using Control::Control;
+  RichText Document;
+  std::string Text;               ///< the document's paragraphs, a line each
+  std::size_t Caret = 0;          ///< where the user has moved to
+  std::size_t SpokenStart = 0;    ///< the sentence that is being read
+  std::size_t SpokenLength = 0;   ///< 0: none is
 };
 
 }  // namespace qves

@@ -90,7 +90,7 @@ bool Form::PressSpace() {
 /// The keys from Page Up to Down. On a button or a check box they would move the focus in some toolkits; here
 /// only Tab does.
 bool Form::MoveInList(const KeyEvent& event) {
-  if (dynamic_cast<TextBox*>(Focused)) return false;
+  if (dynamic_cast<TextBox*>(Focused) || dynamic_cast<Reader*>(Focused)) return false;
   auto* list = dynamic_cast<ListBox*>(Focused);
   if (!list) return Focused != nullptr;
   switch (event.Code) {
@@ -171,6 +171,10 @@ void Form::SelectAll(TextBox& box) {
   box.SelStart = 0;
   box.SelLength = box.Text.size();
   Tell([&](FormObserver& observer) { observer.ControlChanged(*this, box); });
+}
+
+void Form::ReaderMoved(Reader& reader) {
+  Tell([&](FormObserver& observer) { observer.ControlChanged(*this, reader); });
 }
 
 void Form::SetChecked(CheckBox& box, bool checked) {

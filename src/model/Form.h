@@ -99,6 +99,8 @@ class Form {
   /// Sets the chosen item without a word and without the list's handler.
   void PlaceChoice(ListBox& list, int item);
   void SetEnabled(Control& control, bool enabled);
+  /// Places in the reader's document have changed.
+  void ReaderMoved(Reader& reader);
   /// Puts the focus on a control without a word.
   void PlaceFocus(Control& control);
   /// After a key of the key map has acted, Enter presses the default button.

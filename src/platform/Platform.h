@@ -4,6 +4,7 @@
 #include "platform/FileStore.h"
 #include "platform/Notifiers.h"
 #include "platform/Outside.h"
+#include "platform/SoundPlayer.h"
 #include "platform/TTS.h"
 #include "platform/WindowSystem.h"
 
@@ -21,6 +22,7 @@ struct Platform {
   qves::Clock& Clock;
   EventPump& Events;
   RandomSource& Random;
+  SoundPlayer& Sounds;
 };
 
 }  // namespace qves

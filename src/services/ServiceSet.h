@@ -13,7 +13,8 @@ class ServiceSet {
         Verbosity(Messages),
         SettingsStore(Settings, FolderLocations, Messages, Verbosity, Log, platform),
         Speech(platform, Settings, Messages),
-        All{Settings, SettingsStore, FolderLocations, Messages, Log, Speech, Verbosity, platform} {}
+        Sounds(Verbosity, Messages, FolderLocations, Log, platform),
+        All{Settings, SettingsStore, FolderLocations, Messages, Log, Speech, Verbosity, platform, Sounds} {}
   ServiceSet(const ServiceSet&) = delete;
   ServiceSet& operator=(const ServiceSet&) = delete;
 
@@ -25,6 +26,7 @@ class ServiceSet {
   VerbosityTable Verbosity;
   SettingsFiles SettingsStore;
   SpeechService Speech;
+  EventSounds Sounds;
 
  public:
   Services All;

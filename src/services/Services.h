@@ -4,6 +4,7 @@
 #include "platform/Platform.h"
 #include "services/AppSettings.h"
 #include "services/ErrorLog.h"
+#include "services/EventSounds.h"
 #include "services/Folders.h"
 #include "services/Messages.h"
 #include "services/Settings.h"
@@ -21,6 +22,7 @@ struct Services {
   SpeechService& Speech;
   VerbosityTable& Verbosity;
   Platform& Outside;
+  EventSounds& Sounds;
 };
 
 }  // namespace qves

@@ -117,6 +117,10 @@ void SpeechService::SpeakTextQueued(std::string_view text) {
   LastText = text;
 }
 
+void SpeechService::ReadAloud(std::string_view text, std::span<const BookMark> marks) {
+  if (PrimarySpeaker) PrimarySpeaker->SpeakNow(text, marks);
+}
+
 void SpeechService::StopSpeech() {
   if (PrimarySpeaker) PrimarySpeaker->Stop();
   if (SecondSpeaker) SecondSpeaker->Stop();
@@ -159,8 +163,8 @@ void SpeechService::AttachSpeakingControls(Form& form, const VerbosityTable& ver
                          SpeechEngine.get(),
                          PrimarySpeaker,
                          false,
-                         static_cast<int>(verbosity.Mode(ListPositionEntry)),
-                         verbosity.Text(ListPositionEntry)};
+                         static_cast<int>(verbosity.VerbosityMode(ListPositionEntry)),
+                         verbosity.VerbosityText(ListPositionEntry)};
 }
 
 void SpeechService::DetachSpeakingControls(Form& form) const {

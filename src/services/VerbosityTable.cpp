@@ -4,11 +4,11 @@ namespace qves {
 
 void VerbosityTable::Initialise() {
   Entries = {};
-  Entries[TopOfListEntry] = {1414,          VerbosityMode::Spoken, 1414, "Q1KListTop",
-                             "ListEnd.wav", "vrbTopOfList",        "",   true};
-  Entries[BottomOfListEntry] = {1413,          VerbosityMode::Spoken, 1413, "Q1KListBot",
-                                "ListEnd.wav", "vrbBotOfList",        "",   true};
-  Entries[ListPositionEntry] = {3025, VerbosityMode::Silent, 3026, "", "", "vrbListPos", "", false};
+  Entries[TopOfListEntry] = {1414,          FeedbackMode::Spoken, 1414, "Q1KListTop",
+                             "ListEnd.wav", "vrbTopOfList",       "",   true};
+  Entries[BottomOfListEntry] = {1413,          FeedbackMode::Spoken, 1413, "Q1KListBot",
+                                "ListEnd.wav", "vrbBotOfList",       "",   true};
+  Entries[ListPositionEntry] = {3025, FeedbackMode::Silent, 3026, "", "", "vrbListPos", "", false};
 }
 
 void VerbosityTable::ApplySetting(std::string_view key, std::string_view value) {
@@ -16,13 +16,13 @@ void VerbosityTable::ApplySetting(std::string_view key, std::string_view value) 
   if (!hasMode || (value.size() > 1 && value[1] != ' ')) return;
   for (VerbosityEntry& entry : Entries) {
     if (entry.SettingKey != key || entry.SettingKey.empty()) continue;
-    entry.Mode = static_cast<VerbosityMode>(value[0] - '0');
+    entry.Mode = static_cast<FeedbackMode>(value[0] - '0');
     if (value.size() > 2) entry.CustomText = value.substr(2);
   }
 }
 
-std::string VerbosityTable::Text(int index) const {
-  const VerbosityEntry& entry = Entries.at(static_cast<std::size_t>(index));
+std::string VerbosityTable::VerbosityText(int index) const {
+  const VerbosityEntry& entry = Entry(index);
   if (!entry.CustomText.empty()) return entry.CustomText;
   return entry.TextId == 0 ? std::string() : Messages.GetMessage(entry.TextId);
 }

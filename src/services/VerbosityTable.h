@@ -9,7 +9,7 @@
 
 namespace qves {
 
-enum class VerbosityMode { Silent = 0, Spoken = 1, Sound = 2, Spoken3 = 3, Spoken4 = 4 };
+enum class FeedbackMode { Silent = 0, Spoken = 1, Sound = 2, Spoken3 = 3, Spoken4 = 4 };
 
 /// Indexes of the entries in use.
 inline constexpr int TopOfListEntry = 8;
@@ -18,7 +18,7 @@ inline constexpr int ListPositionEntry = 10;
 
 struct VerbosityEntry {
   int LabelId = 0;
-  VerbosityMode Mode = VerbosityMode::Silent;
+  FeedbackMode Mode = FeedbackMode::Silent;
   int TextId = 0;  ///< message of the words; 0 none
   std::string_view EventName;
   std::string_view WaveFile;
@@ -37,9 +37,10 @@ class VerbosityTable {
   /// Anything else is ignored.
   void ApplySetting(std::string_view key, std::string_view value);
   /// `index` is 0 to 29.
-  VerbosityMode Mode(int index) const { return Entries.at(static_cast<std::size_t>(index)).Mode; }
+  FeedbackMode VerbosityMode(int index) const { return Entry(index).Mode; }
   /// The words of an entry; "" for none.
-  std::string Text(int index) const;
+  std::string VerbosityText(int index) const;
+  const VerbosityEntry& Entry(int index) const { return Entries.at(static_cast<std::size_t>(index)); }
 
  private:
   const MessageStore& Messages;

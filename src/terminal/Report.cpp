@@ -11,6 +11,14 @@ const TextBox* FindBox(const Form& form, std::string_view name) {
   return dynamic_cast<const TextBox*>(form.Find(name));
 }
 
+/// What the form shows: the text of its display, or of its reader.
+std::string_view DisplayOf(const Form& form) {
+  if (const TextBox* display = FindBox(form, "txtDisplay")) return display->Text;
+  for (const auto& control : form.Controls())
+    if (const auto* reader = dynamic_cast<const Reader*>(control.get())) return reader->Text;
+  return {};
+}
+
 std::string NameOf(const Control& control) {
   std::string name(control.Name());
   if (control.Index() != NoIndex) name += "(" + std::to_string(control.Index()) + ")";
@@ -23,6 +31,8 @@ Json Describe(const Control& control) {
   const auto* list = dynamic_cast<const ListBox*>(&control);
   if (const auto* box = dynamic_cast<const TextBox*>(&control))
     out["text"] = box->Text;
+  else if (const auto* reader = dynamic_cast<const Reader*>(&control))
+    out["text"] = reader->Text;
   else if (!list)
     out["caption"] = control.Caption;
   out["enabled"] = control.Enabled;
@@ -55,8 +65,7 @@ void ReportForm(JsonLine& report, const Form* form, const std::string& tapeAdded
   const Control* focused = form->FocusedControl();
   report.Name("focus");
   focused ? report.Value(std::string_view(NameOf(*focused))) : report.Value(Json(nullptr));
-  const TextBox* display = FindBox(*form, "txtDisplay");
-  report.Field("display", display ? std::string_view(display->Text) : std::string_view());
+  report.Field("display", DisplayOf(*form));
   if (const TextBox* memory = FindBox(*form, "txtMemory"))
     report.Field("memory", std::string_view(memory->Text));
   if (FindBox(*form, "txtResult")) ReportTape(report, tapeAdded);

@@ -64,11 +64,13 @@ ScriptSession::ScriptSession(const Options& options)
       Random(options.Seed),
       RealSpeech(options.Speech ? LoadSpeech(*options.Speech, Events) : nullptr),
       Speech(Spoken, RealSpeech.get()),
+      Sounds(Files),
       Outside{Speech,      Hook,          Hints,    WindowMessages, Windows, Files,
-              Directories, RegistryStore, TheClock, Events,         Random},
+              Directories, RegistryStore, TheClock, Events,         Random,  Sounds},
       Services_(Outside),
       App(Services_.All, *this) {
   Files.RefuseRelativePaths();  // the messages are those of the program's own folder
+  Services_.All.Sounds.OnPlayed([this](std::string_view eventName) { Played.emplace_back(eventName); });
   App.Main({options.View});
   // The lines report what they do themselves; the start is over.
   Spoken.clear();
@@ -163,10 +165,11 @@ std::string ScriptSession::Answer(std::string_view) {
   return "";
 }
 
-/// No text is being read aloud: every other text counts as finished at once.
 std::string ScriptSession::Heard(std::string_view argument) {
-  const auto count = argument.empty() ? 0 : ToNumber(argument);
-  return count && *count >= 0 ? "" : "heard wants a number of bookmarks, or nothing";
+  const auto count = ToNumber(argument);
+  if (!argument.empty() && (!count || *count < 0)) return "heard wants a number of bookmarks, or nothing";
+  Speech.ReadOn(count);
+  return "";
 }
 
 std::string ScriptSession::State(std::string_view argument) {
@@ -193,12 +196,13 @@ void ScriptSession::Report(int lineNumber, std::string_view line, const std::str
   if (!error.empty()) Line.Field("error", std::string_view(error));
   ReportForm(Line, App.ActiveForm(), TapeAdded);
   ReportSpeech(Line, Spoken);
-  ReportList(Line, "sounds", {});
+  ReportList(Line, "sounds", Played);
   ReportList(Line, "files", Files.TakeWritten());
   if (std::exchange(WantsState, false)) ReportState(Line, App.ActiveForm());
   Line.End('}');
   TapeAdded.clear();
   Spoken.clear();
+  Played.clear();
 }
 
 }  // namespace qves

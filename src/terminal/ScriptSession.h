@@ -16,6 +16,7 @@
 #include "terminal/JsonLine.h"
 #include "terminal/Options.h"
 #include "terminal/RecordingTts.h"
+#include "terminal/SilentSounds.h"
 #include "terminal/TerminalWindows.h"
 
 namespace qves {
@@ -69,12 +70,14 @@ class ScriptSession : private AppObserver, private FormObserver {
   Transcript Spoken;
   std::unique_ptr<TTS> RealSpeech;
   RecordingTts Speech;
+  SilentSounds Sounds;
   Platform Outside;
   ServiceSet Services_;
   CalculatorApp App;
 
   JsonLine Line;
   std::string TapeAdded;
+  std::vector<std::string> Played;  ///< names of the events that sounded
   bool WantsState = false;
   bool Errors = false;
 };

@@ -40,9 +40,4 @@ constexpr int CalcViewOf(int item) {
   return views[item - ScientificItem];
 }
 
-/// The title message of the dialog that a Help item opens.
-constexpr int TitleOfHelp(int item) {
-  return 1300 + 2 * (item - AboutItem);
-}
-
 }  // namespace qves

@@ -61,6 +61,7 @@ std::unique_ptr<Control> View::MakeControl(const ControlSpec& spec) const {
     case ControlKind::CheckBox:
       return std::make_unique<CheckBox>(spec, caption, name, help);
     case ControlKind::ListBox:
+    case ControlKind::Reader:  // stands in dialogs only
       break;
   }
   std::vector<ListItem> items;
@@ -118,6 +119,7 @@ void View::ShutDownSpeech() {
 }
 
 void View::NotifyKeyDown(bool& handled, const KeyEvent& event) {
+  if (!Frame.IsActive(*this)) return;
   const auto target = [&](const KeyRow& row) { return Find(row.Control, IndexFor(row, event)); };
   const KeyRow* row = FindKeyRow(
       Tables.KeyMap, event, [&](const KeyRow& one) { return !one.WhileEnabled || target(one)->Enabled; });
@@ -223,7 +225,7 @@ void View::OnMenu(int id) {
     case AboutItem:
     case HotKeysItem:
     case InverseItem:
-      return SayNotAvailable(TitleOfHelp(id));
+      return Frame.OpenHelp(id);
     default:
       return ChooseView(id);
   }

@@ -19,6 +19,10 @@ class ViewFrame {
   virtual void LeaveKeys() = 0;
   virtual void UnloadHostForm() = 0;
   virtual bool IsSwitching() const = 0;
+  /// Whether the view has the keyboard: no dialog is open above it.
+  virtual bool IsActive(const Form& view) const = 0;
+  /// Opens the dialog of that Help-menu item.
+  virtual void OpenHelp(int menuItem) = 0;
   /// The view has finished its load.
   virtual void ViewLoaded() = 0;
   /// True once: the first view after start-up speaks the welcome.

@@ -51,14 +51,30 @@ struct FakeDirectories : DirectoryManager {
 
 struct FakeRegistry : Registry {
   std::map<std::string, std::string> Values;  ///< key, "|", value name
+  bool ReadOnly = false;
   std::optional<std::string> Read(std::string_view key, std::string_view value) override {
     const auto found = Values.find(std::string(key) + "|" + std::string(value));
     if (found == Values.end()) return std::nullopt;
     return found->second;
   }
-  bool Write(std::string_view key, std::string_view value, std::string_view text, std::string&) override {
-    Values[std::string(key) + "|" + std::string(value)] = text;
-    return true;
+  bool Write(std::string_view key, std::string_view value, std::string_view text,
+             std::string& error) override {
+    error = "Access denied";
+    if (!ReadOnly) Values[std::string(key) + "|" + std::string(value)] = text;
+    return !ReadOnly;
+  }
+};
+
+/// Plays every file that begins as a wave file does.
+struct FakeSounds : SoundPlayer {
+  FakeFiles& Files;
+  std::vector<std::string> Asked;  ///< the paths, " and wait" behind them
+
+  explicit FakeSounds(FakeFiles& files) : Files(files) {}
+  bool Play(const std::string& path, bool wait) override {
+    Asked.push_back(path + (wait ? " and wait" : ""));
+    const auto found = Files.Content.find(path);
+    return found != Files.Content.end() && found->second.starts_with("RIFF");
   }
 };
 
@@ -174,8 +190,9 @@ struct FakePlatform {
   FakeClock TheClock;
   FakeEvents Events;
   FakeRandom Random;
+  FakeSounds Sounds{Files};
   Platform All{Speech,      Keys,          Hints,    WindowMessages, Windows, Files,
-               Directories, RegistryStore, TheClock, Events,         Random};
+               Directories, RegistryStore, TheClock, Events,         Random,  Sounds};
 
   FakePlatform() {
     Files.Content["/program/Messages.txt"] =

@@ -90,11 +90,11 @@ TEST_F(SettingsTest, OwnFileHoldsTheView) {
 TEST_F(SettingsTest, VerbosityEntriesReachTheirTable) {
   Read("\"Settings\"\n\"vrbTopOfList\",\"2\"\n\"vrbListPos\",\"1 item %% of %%\"\n\"vrbBotOfList\",\"9\"\n");
   const VerbosityTable& table = Set->All.Verbosity;
-  EXPECT_EQ(table.Mode(TopOfListEntry), VerbosityMode::Sound);
-  EXPECT_EQ(table.Text(ListPositionEntry), "item %% of %%");
-  EXPECT_EQ(table.Mode(BottomOfListEntry), VerbosityMode::Spoken);
-  EXPECT_EQ(table.Mode(0), VerbosityMode::Silent);
-  EXPECT_EQ(table.Text(0), "");
+  EXPECT_EQ(table.VerbosityMode(TopOfListEntry), FeedbackMode::Sound);
+  EXPECT_EQ(table.VerbosityText(ListPositionEntry), "item %% of %%");
+  EXPECT_EQ(table.VerbosityMode(BottomOfListEntry), FeedbackMode::Spoken);
+  EXPECT_EQ(table.VerbosityMode(0), FeedbackMode::Silent);
+  EXPECT_EQ(table.VerbosityText(0), "");
 }
 
 TEST_F(SettingsTest, DocumentsComeFromTheFirstFolderThatExists) {

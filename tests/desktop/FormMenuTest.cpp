@@ -73,6 +73,18 @@ TEST_F(FormMenuTest, F10HighlightsTheFirstMenuAndEscapeGivesTheFocusBack) {
   EXPECT_THAT(Shown.Take(), IsEmpty());
 }
 
+TEST_F(FormMenuTest, F10AgainOrAClickBesideLeavesTheMenus) {
+  Press(Qt::Key_F10);
+  Press(Qt::Key_F10);
+  EXPECT_THAT(TakeHints(), ElementsAre("File|F|sub", "closed"));
+  EXPECT_TRUE(Find<QLineEdit>("txtDisplay").hasFocus());
+  Press(Qt::Key_F10);
+  QTest::mouseClick(Window.Menus(), Qt::LeftButton, {}, QPoint(Window.Menus()->width() - 2, 8));
+  Settle();
+  EXPECT_THAT(TakeHints(), ElementsAre("File|F|sub", "closed"));
+  EXPECT_TRUE(Find<QLineEdit>("txtDisplay").hasFocus());
+}
+
 TEST_F(FormMenuTest, MouseOverTheBarTakesNoKeys) {
   QTest::mouseMove(Window.Menus(), QPoint(8, 8));
   Settle();

@@ -27,11 +27,21 @@ namespace {
 namespace fs = std::filesystem;
 using Json = nlohmann::ordered_json;
 
+/// The text on one line; of a whole document its two ends.
+std::string OnOneLine(std::string text) {
+  constexpr std::size_t longest = 400, head = 120, tail = 60;
+  const std::size_t size = text.size();
+  if (size > longest)
+    text =
+        text.substr(0, head) + " [...] " + text.substr(size - tail) + " (" + std::to_string(size) + " bytes)";
+  return ReplaceAll(ReplaceAll(text, "\r", "\\r"), "\n", "\\n");
+}
+
 std::string Said(const Json& spoken) {
   std::string out;
   for (const Json& said : spoken) {
     const std::string how = said["how"];
-    const std::string text = ReplaceAll(said.value("text", ""), "\r\n", "\\r\\n");
+    const std::string text = OnOneLine(said.value("text", ""));
     out += how == "stop" ? " stop" : (how == "queued" ? " +[" : " [") + text + "]";
   }
   return out;
@@ -88,7 +98,7 @@ class ScriptRunner {
     for (auto& [name, before] : Before) {
       const Json now = report.value(name, Json());
       if (now == before) continue;
-      out += "  " + name + " " + (now.is_string() ? now.get<std::string>() : "none") + "\n";
+      out += "  " + name + " " + (now.is_string() ? OnOneLine(now.get<std::string>()) : "none") + "\n";
       before = now;
     }
     return out;

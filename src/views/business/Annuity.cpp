@@ -67,8 +67,12 @@ double rtcNPer(double rate, double payment, double presentValue, double futureVa
   if (rate == 0) return Divide(-(presentValue + futureValue), payment);
   if (rate <= -1) throw ArithmeticFault("a rate of -100 % or less");
   const double due = payment * (1 + rate * timing);
-  const double growth = Divide(-rate * (presentValue + futureValue), due + presentValue * rate);
-  return Checked(std::log1p(growth)) / std::log1p(rate);
+  const double start = due + presentValue * rate;
+  const double growth = Divide(-rate * (presentValue + futureValue), start);
+  // Each form keeps the digits where the other would lose them.
+  const double logarithm =
+      std::fabs(growth) < 0.5 ? std::log1p(growth) : std::log((due - futureValue * rate) / start);
+  return Checked(logarithm) / std::log1p(rate);
 }
 
 double rtcRate(double periods, double payment, double presentValue, double futureValue, int timing) {

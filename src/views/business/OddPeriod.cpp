@@ -35,7 +35,10 @@ double SolveRateOdd(const OddPeriodProblem& p) {
     return Checked(std::pow(growth, 1 / (p.WholePeriods + p.Fraction))) - 1;
   }
   double low = 0, high = FirstBound;
-  while (ValueAt(high, p) > p.PresentValue) high = Checked(2 * high);
+  while (ValueAt(high, p) > p.PresentValue) {
+    high = Checked(2 * high);
+    Checked(std::pow(1 + high, p.WholePeriods));  // a bound that is never found ends here
+  }
   double middle = (low + high) * 0.5;
   for (int k = 1; k <= MostHalvings; ++k) {
     const double difference = ValueAt(middle, p) - p.PresentValue;

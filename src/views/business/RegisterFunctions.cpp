@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "engine/Numbers.h"
+#include "model/ArithmeticFault.h"
 #include "views/business/Amortization.h"
 #include "views/business/Bonds.h"
 #include "views/business/BusinessEngine.h"
@@ -77,6 +78,8 @@ double BusinessEngine::FindDecliningBalance(double year) {
 double BusinessEngine::FindAmortization(double payments) {
   FinancialRegisters& r = Registers;
   if (r.N == 0) r.N = std::trunc(SolvedPeriods());
+  if (payments < 0 || payments > r.N)
+    throw ArithmeticFault("more payments than there are, or fewer than none");
   const AmortizedPart part = Amortize(r.I, r.N, r.PV, ToInt16(payments));
   r.N -= payments;
   r.PV -= part.Principal;
@@ -88,6 +91,7 @@ double BusinessEngine::FindAmortization(double payments) {
 double BusinessEngine::FindPrice(double) {
   FinancialRegisters& r = Registers;
   const Bond bond = {FindCoupons(r.BeginDate, r.EndDate), r.PMT, r.FV == 0 ? Par : r.FV};
+  BondValid = 0;
   const double price = qves::BondPrice(bond, r.I);
   r.FV = bond.Redemption;
   BondValid = bond.Coupons.Count;

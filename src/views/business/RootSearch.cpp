@@ -1,5 +1,6 @@
 #include "views/business/RootSearch.h"
 
+#include <algorithm>
 #include <cmath>
 #include <optional>
 
@@ -10,74 +11,120 @@ namespace {
 
 constexpr double Guess = 0.1;
 constexpr double FirstStep = 1e-4;
-constexpr double StepGrowth = 1.1;
+constexpr double StepShare = 0.15;  ///< of the distance from the guess, that a step goes
 constexpr double HighestRate = 1e9;
 constexpr double LowestRate = -1 + 1e-9;
-constexpr double CloseToTotalLoss = 0.9;  ///< below a rate of 0, how far 1 + rate goes down in a step
+constexpr double LossShare = 0.25;  ///< of 1 + rate, that a step towards -1 goes at the most
+constexpr double TinyRate = 1e-9;
+constexpr double TinyShare = 0.3;  ///< of the rate itself, that a step close to 0 goes at the most
+constexpr int DipHalvings = 80;
 
 using Function = std::function<double(double)>;
+
+struct Point {
+  double Rate;
+  double Value;
+};
+
+bool ChangesSign(const Point& a, const Point& b) {
+  return a.Value != 0 && b.Value != 0 && std::signbit(a.Value) != std::signbit(b.Value);
+}
+
+/// The root between two points of different signs, by halving until no double lies between.
+double Halve(const Function& value, Point near, Point far) {
+  for (;;) {
+    // A rate of 0 is tried itself: halving would only come ever closer to it.
+    const double middle = near.Rate * far.Rate < 0 ? 0 : near.Rate + (far.Rate - near.Rate) / 2;
+    if (middle == near.Rate || middle == far.Rate) return middle;
+    const Point point = {middle, value(middle)};
+    if (point.Value == 0) return middle;
+    (ChangesSign(point, near) ? far : near) = point;
+  }
+}
+
+/// Three points of one sign, the one in the middle closest to 0: looks between the outer ones for a point of
+/// the other sign, by golden section. Two roots that lie closer together than a step are found this way.
+std::optional<Point> FindDip(const Function& value, double from, double to, const Point& seen) {
+  const double golden = (std::sqrt(5.0) - 1) / 2;
+  const auto at = [&](double share) {
+    const double rate = from + (to - from) * share;
+    return Point{rate, value(rate)};
+  };
+  Point left = at(1 - golden), right = at(golden);
+  for (int i = 0; i < DipHalvings && from != to; ++i) {
+    for (const Point& point : {left, right})
+      if (point.Value == 0 || ChangesSign(point, seen)) return point;
+    if (std::fabs(left.Value) < std::fabs(right.Value)) {
+      to = right.Rate;
+      right = left;
+      left = at(1 - golden);
+    } else {
+      from = left.Rate;
+      left = right;
+      right = at(golden);
+    }
+  }
+  return std::nullopt;
+}
 
 /// One side of the guess, walked outward step by step.
 class Walk {
  public:
   Walk(const Function& value, double sign, double valueAtGuess)
-      : Value(value), Sign(sign), ValueBefore(valueAtGuess), ValueHere(valueAtGuess) {}
+      : Value(value), Sign(sign), Here{Guess, valueAtGuess}, Seen(Here), Before(Here) {}
 
-  bool AtEnd() const { return Here >= HighestRate || Here <= LowestRate; }
+  bool AtEnd() const { return Here.Rate >= HighestRate || Here.Rate <= LowestRate; }
   /// How far the next step goes from the guess.
   double Reach() const { return std::fabs(Next() - Guess); }
-  /// Goes one step; true when the function has changed its sign since it was last not 0. A 0 alone is no
-  /// change: far out it is only too small for a double.
-  bool Step() {
-    if (ValueHere != 0) {
-      Before = Here;
-      ValueBefore = ValueHere;
+
+  /// Goes one step; gives the root that was passed, if any. A 0 alone is no root: far out it may only be too
+  /// small for a double.
+  std::optional<double> Step() {
+    const double next = Next();
+    Here = {next, Value(next)};
+    if (ChangesSign(Seen, Here)) return Halve(Value, Seen, Here);
+    const bool isDip =
+        std::fabs(Seen.Value) < std::fabs(Before.Value) && std::fabs(Seen.Value) < std::fabs(Here.Value);
+    if (isDip)
+      if (const auto dip = FindDip(Value, Before.Rate, Here.Rate, Seen))
+        return dip->Value == 0 ? dip->Rate : Halve(Value, Before, *dip);
+    if (Here.Value != 0) {
+      Before = Seen;
+      Seen = Here;
     }
-    Here = Next();
-    Distance *= StepGrowth;
-    ValueHere = Value(Here);
-    return ValueHere != 0 && std::signbit(ValueHere) != std::signbit(ValueBefore);
-  }
-  /// The root in the last step, by halving until no double lies between.
-  double Root() const {
-    double near = Before, far = Here;
-    const bool farSign = std::signbit(ValueHere);
-    for (;;) {
-      // A rate of 0 is tried itself: halving would only come ever closer to it.
-      const double middle = near * far < 0 ? 0 : near + (far - near) / 2;
-      if (middle == near || middle == far) return middle;
-      const double value = Value(middle);
-      if (value == 0) return middle;
-      (std::signbit(value) == farSign ? far : near) = middle;
-    }
+    return std::nullopt;
   }
 
  private:
   double Next() const {
-    const double plain = Guess + Sign * Distance;
-    if (Sign > 0 || Here > 0.0) return plain;
-    return std::max(LowestRate, std::max(plain, (1 + Here) * CloseToTotalLoss - 1));
+    const double step = std::max(FirstStep, std::fabs(Here.Rate - Guess) * StepShare);
+    if (Sign > 0) return Here.Rate + step;
+    if (Here.Rate == 0) return -TinyRate;
+    // Rates close to 0 are walked by their own size: over many periods they differ much.
+    const double next = Here.Rate - std::min({step, std::fabs(Here.Rate) * TinyShare + TinyRate,
+                                              (1 + Here.Rate) * LossShare});
+    if (Here.Rate > 0 && next < TinyRate) return 0;
+    return std::max(next, LowestRate);
   }
 
   const Function& Value;
   double Sign;
-  double Distance = FirstStep;
-  double Before = Guess;
-  double Here = Guess;
-  double ValueBefore;
-  double ValueHere;
+  Point Here;
+  Point Seen;    ///< the last point whose value was not 0
+  Point Before;  ///< the one before it
 };
 
 }  // namespace
 
 double NearestRate(const Function& value) {
   const double atGuess = value(Guess);
-  if (atGuess == 0) return Guess;
+  // A 0 with nothing but 0 beside it is only too small for a double.
+  if (atGuess == 0 && (value(Guess + FirstStep) != 0 || value(Guess - FirstStep) != 0)) return Guess;
   Walk up(value, 1, atGuess);
   Walk down(value, -1, atGuess);
   while (!up.AtEnd() || !down.AtEnd()) {
     Walk& next = up.AtEnd() || (!down.AtEnd() && down.Reach() <= up.Reach()) ? down : up;
-    if (next.Step()) return next.Root();
+    if (const auto root = next.Step()) return *root;
   }
   throw ArithmeticFault("no rate of return");
 }

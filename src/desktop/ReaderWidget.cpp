@@ -1,0 +1,132 @@
+#include "desktop/ReaderWidget.h"
+
+#include <QKeyEvent>
+#include <QTextBlock>
+#include <QTextList>
+
+#include "desktop/Appearance.h"
+
+namespace qves {
+namespace {
+
+constexpr int UsualHalfPoints =
+    24;  // of a document; the desktop's font, or the host product's, stands for it
+constexpr int TwipsAPoint = 20;
+constexpr int SmallestColumns = 24;
+constexpr int SmallestLines = 4;
+constexpr int UsualColumns = 60;
+constexpr int UsualLines = 18;
+
+QString FromUtf8(std::string_view text) {
+  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+QTextCharFormat FormatOf(const TextStyle& style, const QFont& usual, bool ownColors) {
+  QTextCharFormat format;
+  format.setFontWeight(style.Bold ? QFont::Bold : usual.weight());
+  format.setFontItalic(style.Italic || usual.italic());
+  format.setFontUnderline(style.Underline);
+  if (usual.pointSizeF() > 0)
+    format.setFontPointSize(usual.pointSizeF() * std::max(style.HalfPoints, 1) / UsualHalfPoints);
+  if (ownColors && style.Color >= 0) format.setForeground(QColor(QRgb(style.Color)));
+  return format;
+}
+
+QTextBlockFormat FormatOf(const Paragraph& paragraph) {
+  QTextBlockFormat format;
+  format.setLeftMargin(static_cast<double>(paragraph.LeftIndent) / TwipsAPoint);
+  if (!paragraph.Bullet) format.setTextIndent(static_cast<double>(paragraph.FirstIndent) / TwipsAPoint);
+  return format;
+}
+
+}  // namespace
+
+ReaderView::ReaderView(Reader& reader, ControlHost& host, const AppSettings& settings, QWidget* parent)
+    : QTextEdit(parent), Model(reader), Host(host), Settings(settings) {
+  setReadOnly(true);
+  setUndoRedoEnabled(false);
+  setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+  setContextMenuPolicy(Qt::NoContextMenu);
+  setFrameStyle(QFrame::Box | QFrame::Plain);
+  setLineWidth(OutlineWidth);
+  NameForScreenReader(*this, reader);
+}
+
+void ReaderView::Restyle() {
+  ApplyAppearance(*this, TextRole::Tape, Settings);
+  ShowDocument();
+}
+
+/// Bullets are marks of the list format, not of the text: places in the text stay those of the form's.
+void ReaderView::ShowDocument() {
+  clear();
+  QTextCursor cursor(document());
+  bool isFirst = true;
+  for (const Paragraph& paragraph : Model.Document.Paragraphs) {
+    if (!std::exchange(isFirst, false)) cursor.insertBlock();
+    cursor.setBlockFormat(FormatOf(paragraph));
+    for (const TextRun& run : paragraph.Runs)
+      cursor.insertText(FromUtf8(run.Text), FormatOf(run.Style, font(), !Settings.HostFileFound));
+    if (paragraph.Bullet) cursor.createList(QTextListFormat::ListDisc);
+  }
+}
+
+QTextCursor ReaderView::CursorAt(std::size_t start, std::size_t length) const {
+  const std::string_view text = Model.Text;
+  const auto from = static_cast<int>(FromUtf8(text.substr(0, start)).size());
+  const auto size = static_cast<int>(FromUtf8(text.substr(std::min(start, text.size()), length)).size());
+  const int last = document()->characterCount() - 1;
+  QTextCursor cursor(document());
+  cursor.setPosition(std::min(from, last));
+  cursor.setPosition(std::min(from + size, last), QTextCursor::KeepAnchor);
+  return cursor;
+}
+
+void ReaderView::Refresh() {
+  setEnabled(Model.Enabled);
+  QList<ExtraSelection> spoken;
+  if (Model.SpokenLength > 0) {
+    ExtraSelection sentence;
+    sentence.cursor = CursorAt(Model.SpokenStart, Model.SpokenLength);
+    sentence.format.setForeground(palette().highlightedText());
+    sentence.format.setBackground(palette().highlight());
+    spoken.append(sentence);
+  }
+  setExtraSelections(spoken);
+  // Its end first, then its start: a long sentence shows from its beginning.
+  setTextCursor(CursorAt(Model.Caret + Model.SpokenLength, 0));
+  setTextCursor(CursorAt(Model.Caret, 0));
+}
+
+QSize ReaderView::SizeOf(int columns, int lines) const {
+  const QFontMetrics metrics = fontMetrics();
+  const int around = 2 * (frameWidth() + static_cast<int>(document()->documentMargin()));
+  return {metrics.averageCharWidth() * columns + around, metrics.lineSpacing() * lines + around};
+}
+
+QSize ReaderView::minimumSizeHint() const {
+  return SizeOf(SmallestColumns, SmallestLines);
+}
+
+QSize ReaderView::sizeHint() const {
+  return SizeOf(UsualColumns, UsualLines);
+}
+
+bool ReaderView::event(QEvent* event) {
+  return PaintFrame(*this, *event) || QTextEdit::event(event);
+}
+
+void ReaderView::focusInEvent(QFocusEvent* event) {
+  QTextEdit::focusInEvent(event);
+  Host.ControlFocused(Model);
+}
+
+void ReaderView::keyPressEvent(QKeyEvent* event) {
+  // The form moves the caret and reads; a copy is the toolkit's.
+  if (event->matches(QKeySequence::Copy))
+    QTextEdit::keyPressEvent(event);
+  else
+    event->ignore();
+}
+
+}  // namespace qves

@@ -1,0 +1,202 @@
+#include "dialogs/ReadingDialog.h"
+
+#include "dialogs/RichText.h"
+#include "services/Text.h"
+
+namespace qves {
+namespace {
+
+constexpr int OkMessage = 1205;
+constexpr int OkHelpMessage = 1264;
+constexpr int KeyF5 = KeyF1 + 4;
+constexpr int LinesOfAPage = 10;
+
+ControlSpec MakeReaderSpec(const ReadingDialogSpec& spec) {
+  return {.Name = spec.ReaderName,
+          .Kind = ControlKind::Reader,
+          .NameMessage = spec.TitleMessage,
+          .HelpMessage = spec.HelpMessage};
+}
+
+ControlSpec MakeOkSpec() {
+  return {.Name = "lcbOK",
+          .CaptionMessage = OkMessage,
+          .HelpMessage = OkHelpMessage,
+          .Cell = {1, 0, 0},
+          .Traits = DefaultButton | CancelButton};
+}
+
+}  // namespace
+
+ReadingDialog::ReadingDialog(const ReadingDialogSpec& spec, const std::string& document, Services& services,
+                             DialogFrame& frame)
+    : Form(std::string(spec.FormName), services.Messages.GetMessage(spec.TitleMessage)),
+      ReaderSpec(MakeReaderSpec(spec)),
+      OkSpec(MakeOkSpec()),
+      Services_(services),
+      Frame(frame) {
+  const MessageStore& messages = services.Messages;
+  const std::string& ok = messages.GetMessage(OkMessage);
+  Document = static_cast<Reader*>(&Add(std::make_unique<Reader>(
+      ReaderSpec, "", messages.GetMessage(spec.TitleMessage), messages.GetMessage(spec.HelpMessage))));
+  Add(std::make_unique<Button>(OkSpec, ok, ReplaceAll(ok, "&", ""), messages.GetMessage(OkHelpMessage)));
+  ShowDocument(document);
+}
+
+void ReadingDialog::ShowDocument(const std::string& path) {
+  std::string error;
+  const auto source = Services_.Outside.Files.Read(path, error);
+  Document->Document = ReadRichText(source.value_or(""));
+  for (const Paragraph& paragraph : Document->Document.Paragraphs) {
+    if (&paragraph != &Document->Document.Paragraphs.front()) Document->Text += '\n';
+    Document->Text += PlainText(paragraph);
+  }
+  Sentences = FindSentences(Document->Text);
+}
+
+void ReadingDialog::Form_Load() {
+  if (!Services_.Settings.DontSpeak) Services_.Speech.AttachSpeakingControls(*this, Services_.Verbosity);
+  PlaceFocus(*Document);
+  ReadOn();
+}
+
+void ReadingDialog::Form_Unload() {
+  Frame.SetReadingTarget(nullptr);
+  Services_.Speech.StopSpeech();
+  Services_.Speech.DetachSpeakingControls(*this);
+}
+
+/// From the sentence where the reading stopped; a document that has been read to its end begins anew.
+void ReadingDialog::ReadOn() {
+  if (Sentences.empty() || Document->Speaking.Quiescent) return;
+  if (Sentence >= Sentences.size()) Sentence = 0;
+  Frame.SetReadingTarget(this);
+  Reading = true;
+  const std::size_t start = Sentences[Sentence].Start;
+  std::vector<BookMark> marks;
+  for (std::size_t i = Sentence + 1; i < Sentences.size(); ++i)
+    marks.push_back({Sentences[i].Start - start, static_cast<std::int32_t>(i)});
+  ShowSentence();
+  Services_.Speech.ReadAloud(std::string_view(Document->Text).substr(start), marks);
+}
+
+void ReadingDialog::ShowSentence() {
+  Document->SpokenStart = Document->Caret = Sentences[Sentence].Start;
+  Document->SpokenLength = Sentences[Sentence].Length;
+  ReaderMoved(*Document);
+}
+
+void ReadingDialog::StopReading() {
+  if (!Reading) return;
+  Reading = false;
+  Services_.Speech.StopSpeech();
+}
+
+/// A mark of a reading that has been stopped may still be on its way: it moves nothing.
+void ReadingDialog::NotifyBookMark(int bookMark, TtsSpeaker&) {
+  const auto sentence = static_cast<std::size_t>(bookMark);
+  if (!Reading || bookMark < 0 || sentence >= Sentences.size() || sentence <= Sentence) return;
+  Sentence = sentence;
+  ShowSentence();
+}
+
+void ReadingDialog::NotifySpeechStopped(TtsSpeaker&) {
+  if (!Reading) return;
+  Frame.SetReadingTarget(nullptr);
+  Reading = false;
+  Sentence = Sentences.size();
+  Document->SpokenLength = 0;
+  ReaderMoved(*Document);
+}
+
+void ReadingDialog::OnClick(Control& control) {
+  if (&control != Document) Frame.CloseDialog(*this);
+}
+
+void ReadingDialog::OnGotFocus(Control& control) {
+  if (control.Speaking.Quiescent) return;
+  Reading = false;  // its words silence the reading
+  Services_.Speech.SpeakText(control.SpokenName);
+}
+
+bool ReadingDialog::OnControlKey(Control& control, const KeyEvent& event) {
+  const bool isReader = &control == Document;
+  if (isReader) StopReading();  // as any key does
+  if (event.Code == KeyF1 || event.Code == KeyF7) {
+    Services_.Speech.SpeakText(event.Code == KeyF1 ? control.HelpText : control.SpokenName);
+    return true;
+  }
+  return isReader && ReaderKey(event);
+}
+
+bool ReadingDialog::ReaderKey(const KeyEvent& event) {
+  if (event.Code == KeyF5) {
+    ReadOn();
+    return true;
+  }
+  return event.Shift == NoShift && !Document->Text.empty() && MoveCaret(event.Code);
+}
+
+bool ReadingDialog::MoveCaret(int keyCode) {
+  std::size_t& caret = Document->Caret;
+  const std::string& text = Document->Text;
+  const TextSpan line = LineAround(text, caret);
+  switch (keyCode) {
+    case KeyLeft:
+      caret = PreviousCharacter(text, caret);
+      break;
+    case KeyRight:
+      caret = NextCharacter(text, caret);
+      break;
+    case KeyHome:
+      caret = line.Start;
+      break;
+    case KeyEnd:
+      caret = PreviousCharacter(text, line.Start + line.Length);
+      break;
+    case KeyUp:
+    case qves::KeyDown:
+    case KeyPageUp:
+    case KeyPageDown: {
+      const int step = keyCode == KeyUp || keyCode == qves::KeyDown ? 1 : LinesOfAPage;
+      MoveLines(keyCode == KeyUp || keyCode == KeyPageUp ? -step : step);
+      SayLine();
+      ReaderMoved(*Document);
+      return true;
+    }
+    default:
+      return false;
+  }
+  SayCharacter();
+  ReaderMoved(*Document);
+  return true;
+}
+
+/// To the start of a line so many further; to the first or the last where there are fewer.
+void ReadingDialog::MoveLines(int lines) {
+  const std::string& text = Document->Text;
+  TextSpan line = LineAround(text, Document->Caret);
+  for (; lines > 0 && line.Start + line.Length < text.size(); --lines)
+    line = LineAround(text, line.Start + line.Length + 1);
+  for (; lines < 0 && line.Start > 0; ++lines) line = LineAround(text, line.Start - 1);
+  Document->Caret = line.Start;
+}
+
+void ReadingDialog::SayLine() {
+  const TextSpan line = LineAround(Document->Text, Document->Caret);
+  const std::string text = Document->Text.substr(line.Start, line.Length);
+  // An empty line has to be heard too.
+  Services_.Speech.SpeakText(text.empty() ? Services_.Speech.SpeakableChar("\r") : text);
+}
+
+void ReadingDialog::SayCharacter() {
+  const std::string& text = Document->Text;
+  const std::size_t at = Document->Caret;
+  if (at >= text.size() || text[at] == '\n')
+    return Services_.Speech.SpeakText(Services_.Speech.SpeakableChar("\r"));
+  const std::size_t next = NextCharacter(text, at);
+  Services_.Speech.SpeakText(
+      Services_.Speech.SpeakableChar(text.substr(at, next == at ? std::string::npos : next - at)));
+}
+
+}  // namespace qves

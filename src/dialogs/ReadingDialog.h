@@ -1,0 +1,59 @@
+// A dialog that shows a document and reads it aloud: a reader and an OK button.
+#pragma once
+
+#include <array>
+#include <string_view>
+#include <vector>
+
+#include "dialogs/DialogFrame.h"
+#include "dialogs/Sentences.h"
+#include "model/Form.h"
+#include "services/Services.h"
+
+namespace qves {
+
+/// What tells one of these dialogs from another.
+struct ReadingDialogSpec {
+  std::string_view FormName;
+  std::string_view ReaderName;
+  int TitleMessage = 0;
+  int HelpMessage = 0;
+};
+
+class ReadingDialog : public Form {
+ public:
+  /// `document` is the path of a rich-text file; one that cannot be read shows nothing.
+  ReadingDialog(const ReadingDialogSpec& spec, const std::string& document, Services& services,
+                DialogFrame& frame);
+
+  void Form_Load() override;
+  void Form_Unload() override;
+  void NotifyBookMark(int bookMark, TtsSpeaker& speaker) override;
+  void NotifySpeechStopped(TtsSpeaker& speaker) override;
+
+ private:
+  void OnClick(Control& control) override;
+  void OnGotFocus(Control& control) override;
+  bool OnControlKey(Control& control, const KeyEvent& event) override;
+
+  void ShowDocument(const std::string& path);
+  bool ReaderKey(const KeyEvent& event);
+  void ReadOn();
+  void StopReading();
+  void ShowSentence();
+  bool MoveCaret(int keyCode);
+  void SayCharacter();
+  void SayLine();
+  void MoveLines(int lines);
+
+  const ControlSpec ReaderSpec;
+  const ControlSpec OkSpec;
+  Services& Services_;
+  DialogFrame& Frame;
+  Reader* Document = nullptr;
+  std::vector<TextSpan> Sentences;
+  std::size_t Sentence = 0;  ///< the one that is being read, or was when the reading stopped
+  bool Reading = false;
+};
+
+}  // namespace qves

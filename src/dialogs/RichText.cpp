@@ -1,0 +1,55 @@
+#include "dialogs/RichText.h"
+
+#include <algorithm>
+
+#include "dialogs/RichTextReader.h"
+#include "services/Text.h"
+
+namespace qves {
+namespace {
+
+bool IsRich(std::string_view source) {
+  constexpr std::string_view mark = "{\\rtf";
+  if (!source.starts_with(mark)) return false;
+  return source.size() == mark.size() || !IsAsciiLetter(source[mark.size()]);
+}
+
+bool IsPlain(std::string_view source) {
+  const auto isControl = [](char c) {
+    const auto byte = static_cast<unsigned char>(c);
+    return byte == 0x7F || (byte < 0x20 && c != '\t' && c != '\r' && c != '\n');
+  };
+  if (!IsUtf8(source) || std::any_of(source.begin(), source.end(), isControl)) return false;
+  for (std::size_t at = source.find('\xC2'); at != std::string_view::npos; at = source.find('\xC2', at + 1))
+    if (static_cast<unsigned char>(source[at + 1]) < 0xA0) return false;
+  return true;
+}
+
+RichText ReadPlainText(std::string_view source) {
+  std::string text(source);
+  for (const std::string_view lineEnd : {"\r\n", "\r", "\u2028", "\u2029"})
+    text = ReplaceAll(text, lineEnd, "\n");
+  RichTextBuilder document;
+  ForEachLine(text, [&](int, std::string_view line) {
+    document.Append(line, {}, {});
+    document.EndParagraph({});
+  });
+  return document.Finish();
+}
+
+}  // namespace
+
+RichText ReadRichText(std::string_view source) {
+  if (source.starts_with("\xEF\xBB\xBF")) source.remove_prefix(3);
+  const std::size_t start = std::min(source.find_first_not_of(" \t\r\n"), source.size());
+  if (IsRich(source.substr(start))) return RichTextReader(source.substr(start)).Read();
+  return IsPlain(source) ? ReadPlainText(source) : RichText();
+}
+
+std::string PlainText(const Paragraph& paragraph) {
+  std::string text;
+  for (const TextRun& run : paragraph.Runs) text += run.Text;
+  return text;
+}
+
+}  // namespace qves

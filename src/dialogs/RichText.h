@@ -1,0 +1,20 @@
+// A rich text (RTF) as paragraphs of runs: what a dialog shows and reads aloud.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "model/RichText.h"
+
+namespace qves {
+
+/// Never fails: what it does not know it skips, and of a broken text it gives what was readable. A text that
+/// is no rich text at all is taken as plain text, a paragraph to a line, when it is valid UTF-8 without
+/// control characters; else the document is empty. A line break inside a paragraph begins a new one that goes
+/// on at the left indent, without a bullet.
+RichText ReadRichText(std::string_view source);
+
+/// The text of a paragraph without its looks.
+std::string PlainText(const Paragraph& paragraph);
+
+}  // namespace qves

@@ -1,0 +1,58 @@
+#include "dialogs/Sentences.h"
+
+#include <algorithm>
+
+namespace qves {
+namespace {
+
+constexpr std::string_view Blanks = " \t\n";
+constexpr std::string_view Ends = ".?!";
+
+bool IsInsideCharacter(char byte) {
+  return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
+}
+
+/// Just behind the sentence that begins there.
+std::size_t EndOfSentence(std::string_view text, std::size_t start) {
+  for (std::size_t i = start; i < text.size(); ++i) {
+    if (text[i] == '\n') return i;
+    const bool isEnd = Ends.find(text[i]) != std::string_view::npos;
+    if (isEnd && (i + 1 == text.size() || Blanks.find(text[i + 1]) != std::string_view::npos)) return i + 1;
+  }
+  return text.size();
+}
+
+}  // namespace
+
+std::vector<TextSpan> FindSentences(std::string_view text) {
+  std::vector<TextSpan> sentences;
+  for (std::size_t start = 0;;) {
+    start = text.find_first_not_of(Blanks, start);
+    if (start == std::string_view::npos) return sentences;
+    const std::size_t end = EndOfSentence(text, start);
+    sentences.push_back({start, end - start});
+    start = end;
+  }
+}
+
+TextSpan LineAround(std::string_view text, std::size_t at) {
+  at = std::min(at, text.size());
+  const std::size_t before = at == 0 ? std::string_view::npos : text.rfind('\n', at - 1);
+  const std::size_t start = before == std::string_view::npos ? 0 : before + 1;
+  return {start, std::min(text.find('\n', at), text.size()) - start};
+}
+
+std::size_t NextCharacter(std::string_view text, std::size_t at) {
+  std::size_t next = at + 1;
+  while (next < text.size() && IsInsideCharacter(text[next])) ++next;
+  return next < text.size() ? next : at;
+}
+
+std::size_t PreviousCharacter(std::string_view text, std::size_t at) {
+  if (at == 0) return 0;
+  std::size_t previous = at - 1;
+  while (previous > 0 && IsInsideCharacter(text[previous])) --previous;
+  return previous;
+}
+
+}  // namespace qves
