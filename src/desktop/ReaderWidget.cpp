@@ -34,8 +34,9 @@ QTextCharFormat FormatOf(const TextStyle& style, const QFont& usual, bool ownCol
 
 QTextBlockFormat FormatOf(const Paragraph& paragraph) {
   QTextBlockFormat format;
+  if (paragraph.Bullet) return format;  // a list has an indent of its own
   format.setLeftMargin(static_cast<double>(paragraph.LeftIndent) / TwipsAPoint);
-  if (!paragraph.Bullet) format.setTextIndent(static_cast<double>(paragraph.FirstIndent) / TwipsAPoint);
+  format.setTextIndent(static_cast<double>(paragraph.FirstIndent) / TwipsAPoint);
   return format;
 }
 

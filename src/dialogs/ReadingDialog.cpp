@@ -36,10 +36,11 @@ ReadingDialog::ReadingDialog(const ReadingDialogSpec& spec, const std::string& d
       Services_(services),
       Frame(frame) {
   const MessageStore& messages = services.Messages;
-  const std::string& ok = messages.GetMessage(OkMessage);
+  // Its mnemonic is no key here: all keys belong to the reading.
+  const std::string ok = ReplaceAll(messages.GetMessage(OkMessage), "&", "");
   Document = static_cast<Reader*>(&Add(std::make_unique<Reader>(
       ReaderSpec, "", messages.GetMessage(spec.TitleMessage), messages.GetMessage(spec.HelpMessage))));
-  Add(std::make_unique<Button>(OkSpec, ok, ReplaceAll(ok, "&", ""), messages.GetMessage(OkHelpMessage)));
+  Add(std::make_unique<Button>(OkSpec, ok, ok, messages.GetMessage(OkHelpMessage)));
   ShowDocument(document);
 }
 
