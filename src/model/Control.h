@@ -136,10 +136,10 @@ class Reader : public Control {
  public:
   using Control::Control;
   RichText Document;
-  std::string Text;               ///< the document's paragraphs, a line each
-  std::size_t Caret = 0;          ///< where the user has moved to
-  std::size_t SpokenStart = 0;    ///< the sentence that is being read
-  std::size_t SpokenLength = 0;   ///< 0: none is
+  std::string Text;              ///< the document's paragraphs, a line each
+  std::size_t Caret = 0;         ///< where the user has moved to
+  std::size_t SpokenStart = 0;   ///< the sentence that is being read
+  std::size_t SpokenLength = 0;  ///< 0: none is
 };
 
 }  // namespace qves

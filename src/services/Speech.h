@@ -35,8 +35,8 @@ class SpeechService {
   void SpeakText(std::string_view text);
   /// Says the text after what is being spoken.
   void SpeakTextQueued(std::string_view text);
-  /// Silences what is being spoken and reads a long text, with marks that are told when they are reached. It is
-  /// not what LastSpokenText repeats.
+  /// Silences what is being spoken and reads a long text, with marks that are told when they are reached. It
+  /// is not what LastSpokenText repeats.
   void ReadAloud(std::string_view text, std::span<const BookMark> marks);
   void StopSpeech();
   /// The last text handed to SpeakText or SpeakTextQueued while there was a speaker.

@@ -78,9 +78,9 @@ double BusinessEngine::FindDecliningBalance(double year) {
 double BusinessEngine::FindAmortization(double payments) {
   FinancialRegisters& r = Registers;
   if (r.N == 0) r.N = std::trunc(SolvedPeriods());
-  if (payments < 0 || payments > r.N)
-    throw ArithmeticFault("more payments than there are, or fewer than none");
-  const AmortizedPart part = Amortize(r.I, r.N, r.PV, ToInt16(payments));
+  const auto count = ToInt16(payments);
+  if (count > r.N) throw ArithmeticFault("more payments than there are");
+  const AmortizedPart part = Amortize(r.I, r.N, r.PV, count);
   r.N -= payments;
   r.PV -= part.Principal;
   AmortPrincipal = -part.Principal;
