@@ -3,7 +3,6 @@
 #include <cmath>
 
 #include "engine/Numbers.h"
-#include "model/ArithmeticFault.h"
 #include "views/business/Amortization.h"
 #include "views/business/Bonds.h"
 #include "views/business/BusinessEngine.h"
@@ -78,9 +77,7 @@ double BusinessEngine::FindDecliningBalance(double year) {
 double BusinessEngine::FindAmortization(double payments) {
   FinancialRegisters& r = Registers;
   if (r.N == 0) r.N = std::trunc(SolvedPeriods());
-  const auto count = ToInt16(payments);
-  if (count > r.N) throw ArithmeticFault("more payments than there are");
-  const AmortizedPart part = Amortize(r.I, r.N, r.PV, count);
+  const AmortizedPart part = Amortize(r.I, r.N, r.PV, ToInt16(payments));
   r.N -= payments;
   r.PV -= part.Principal;
   AmortPrincipal = -part.Principal;
