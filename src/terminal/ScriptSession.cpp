@@ -82,6 +82,7 @@ ScriptSession::~ScriptSession() {
 }
 
 const std::string& ScriptSession::Run(int lineNumber, std::string_view line) {
+  if (RealSpeech) Events.ProcessEvents(0);  // what it has told since the line before
   const std::string error = IsUtf8(line) ? Perform(Trim(line)) : "the line is not UTF-8";
   Errors = Errors || !error.empty();
   Events.ProcessEvents(0);
