@@ -1,5 +1,7 @@
 #include "dialogs/HelpDialogs.h"
 
+#include <array>
+
 namespace qves {
 namespace {
 

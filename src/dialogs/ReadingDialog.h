@@ -1,7 +1,7 @@
 // A dialog that shows a document and reads it aloud: a reader and an OK button.
 #pragma once
 
-#include <array>
+#include <string>
 #include <string_view>
 #include <vector>
 
