@@ -1,10 +1,12 @@
 #include "app/CalculatorApp.h"
 
 #include "dialogs/HelpDialogs.h"
+#include "dialogs/ResultDialog.h"
 #include "views/MenuIds.h"
 #include "views/business/frmBusiness.h"
 #include "views/scientific/frmScientific.h"
 #include "views/standard/frmStandard.h"
+#include "views/statistics/frmStatistics.h"
 
 namespace qves {
 namespace {
@@ -18,8 +20,9 @@ std::unique_ptr<Form> Make(Services& services, ViewFrame& frame) {
   return std::make_unique<ViewForm>(services, frame);
 }
 
-/// By CalcView; null for a view that is not built yet.
-constexpr ViewMaker ViewMakers[] = {Make<frmScientific>, nullptr, Make<frmStandard>, Make<frmBusiness>};
+/// By CalcView.
+constexpr ViewMaker ViewMakers[] = {Make<frmScientific>, Make<frmStatistics>, Make<frmStandard>,
+                                    Make<frmBusiness>};
 
 bool IsCalcView(int number) {
   return number >= ScientificView && number <= BusinessView;
@@ -45,12 +48,8 @@ bool CalculatorApp::Main(const StartOptions& options) {
   Services_.SettingsStore.ReadSettings();
   const int calcView = options.View.value_or(Services_.Settings.CalcView);
   // No fallback for a number that is no view: the program then runs without a window, as wanted.
-  if (IsCalcView(calcView)) ShowView(HasView(calcView) ? calcView : int{StandardView});
+  if (IsCalcView(calcView)) ShowView(calcView);
   return true;
-}
-
-bool CalculatorApp::HasView(int calcView) const {
-  return IsCalcView(calcView) && ViewMakers[calcView] != nullptr;
 }
 
 void CalculatorApp::ShowView(int calcView) {
@@ -105,13 +104,21 @@ void CalculatorApp::LoadHostForm(Form& keyTarget) {
 }
 
 void CalculatorApp::OpenHelp(int menuItem) {
-  const HelpDialog which = menuItem == AboutItem     ? HelpDialog::About
-                           : menuItem == HotKeysItem ? HelpDialog::HotKeys
-                                                     : HelpDialog::Inverse;
-  Dialogs.push_back(MakeHelpDialog(which, Services_.Settings.CalcView, Services_, *this));
-  Form& dialog = *Dialogs.back();
-  Observer.FormShown(dialog);
-  dialog.Form_Load();
+  HelpDialog which = HelpDialog::Inverse;
+  if (menuItem == AboutItem || menuItem == AboutStatisticsItem) which = HelpDialog::About;
+  if (menuItem == HotKeysItem || menuItem == StatisticsHotKeysItem) which = HelpDialog::HotKeys;
+  OpenDialog(MakeHelpDialog(which, Services_.Settings.CalcView, Services_, *this));
+}
+
+void CalculatorApp::OpenResult() {
+  OpenDialog(MakeResultDialog(Services_, *this));
+}
+
+void CalculatorApp::OpenDialog(std::unique_ptr<Form> dialog) {
+  Dialogs.push_back(std::move(dialog));
+  Form& opened = *Dialogs.back();
+  Observer.FormShown(opened);
+  opened.Form_Load();
 }
 
 void CalculatorApp::CloseDialog(Form& dialog) {

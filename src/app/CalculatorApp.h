@@ -51,7 +51,6 @@ class CalculatorApp : private ViewFrame, private DialogFrame {
 
  private:
   // ViewFrame
-  bool HasView(int calcView) const override;
   void SwitchView(int calcView) override;
   void Exit() override;
   void LoadHostForm(Form& keyTarget) override;
@@ -60,6 +59,7 @@ class CalculatorApp : private ViewFrame, private DialogFrame {
   bool IsSwitching() const override { return ViewSwitching; }
   bool IsActive(const Form& view) const override { return &view == ActiveForm(); }
   void OpenHelp(int menuItem) override;
+  void OpenResult() override;
   void ViewLoaded() override { ViewSwitching = false; }
   bool TakeWelcome() override { return std::exchange(WelcomeDue, false); }
 
@@ -68,6 +68,7 @@ class CalculatorApp : private ViewFrame, private DialogFrame {
   void SetReadingTarget(Form* form) override;
 
   void ShowView(int calcView);
+  void OpenDialog(std::unique_ptr<Form> dialog);
   void UnloadView();
 
   Services& Services_;

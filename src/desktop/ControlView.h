@@ -18,7 +18,7 @@ class ControlHost {
   /// The widget has the keyboard focus now, for whatever reason.
   virtual void ControlFocused(Control&) = 0;
   /// An item of a list, clicked with the mouse or selected by a screen reader.
-  virtual void ItemChosen(ListBox&, int item) = 0;
+  virtual void ItemChosen(ListControl&, int item) = 0;
 };
 
 class ControlView {
@@ -29,6 +29,8 @@ class ControlView {
   virtual void Refresh() = 0;
   /// Shows the part of the text from that byte on; what was before is shown already.
   virtual void Append(std::size_t /*from*/) { Refresh(); }
+  /// From the item `from` on, `removed` items have gone and `added` ones have come in their place.
+  virtual void ItemsChanged(int /*from*/, int /*removed*/, int /*added*/) { Refresh(); }
   /// The desktop's font or colours changed.
   virtual void Restyle() {}
 };

@@ -83,6 +83,10 @@ void FormWindow::TextAppended(Form&, TextBox& box, std::size_t from) {
   if (ControlView* view = ViewOf(box)) view->Append(from);
 }
 
+void FormWindow::ItemsChanged(Form&, ListView& list, int from, int removed, int added) {
+  if (ControlView* view = ViewOf(list)) view->ItemsChanged(from, removed, added);
+}
+
 void FormWindow::FocusChanged(Form&) {
   // A key may move the focus there and back again: a screen reader is to hear of where it ends alone.
   if (std::exchange(FocusDue, true)) return;
@@ -109,7 +113,7 @@ void FormWindow::ControlFocused(Control& control) {
   if (Shown->FocusedControl() != &control) Shown->FocusByUser(control);
 }
 
-void FormWindow::ItemChosen(ListBox& list, int item) {
+void FormWindow::ItemChosen(ListControl& list, int item) {
   if (!Shown || !ViewOf(list)) return;
   Shown->FocusByUser(list);
   Shown->Choose(list, item);

@@ -42,11 +42,12 @@ class FormWindow : public QMainWindow, private FormObserver, private ControlHost
   // FormObserver
   void ControlChanged(Form& form, Control& control) override;
   void TextAppended(Form& form, TextBox& box, std::size_t from) override;
+  void ItemsChanged(Form&, ListView& list, int from, int removed, int added) override;
   void FocusChanged(Form& form) override;
   // ControlHost
   void ControlPressed(Control& control) override;
   void ControlFocused(Control& control) override;
-  void ItemChosen(ListBox& list, int item) override;
+  void ItemChosen(ListControl& list, int item) override;
 
   ControlView* ViewOf(const Control& control) const;
   void BuildMenus();

@@ -62,6 +62,7 @@ void ReaderView::Restyle() {
 void ReaderView::ShowDocument() {
   clear();
   QTextCursor cursor(document());
+  cursor.beginEditBlock();
   bool isFirst = true;
   for (const Paragraph& paragraph : Model.Document.Paragraphs) {
     if (!std::exchange(isFirst, false)) cursor.insertBlock();
@@ -70,6 +71,7 @@ void ReaderView::ShowDocument() {
       cursor.insertText(FromUtf8(run.Text), FormatOf(run.Style, font(), !Settings.HostFileFound));
     if (paragraph.Bullet) cursor.createList(QTextListFormat::ListDisc);
   }
+  cursor.endEditBlock();
 }
 
 QTextCursor ReaderView::CursorAt(std::size_t start, std::size_t length) const {

@@ -14,6 +14,7 @@
 #include "desktop/DesktopShell.h"
 #include "desktop/LateTts.h"
 #include "desktop/Options.h"
+#include "desktop/QtFileDialog.h"
 #include "desktop/SessionEnd.h"
 #include "posix/BaseDirectories.h"
 #include "posix/IniRegistry.h"
@@ -23,6 +24,7 @@
 #include "services/ServiceSet.h"
 #include "sounds/ModuleSounds.h"
 #include "speech/SpeechModule.h"
+#include "spreadsheet/InverseT.h"
 
 namespace qves {
 namespace {
@@ -71,8 +73,10 @@ int RunCalculator(const Options& options, QtEventPump& events, LateTts& speech) 
   DesktopWindows windows(options.Home.empty() ? RuntimeFolder() : directories.Home(),
                          QGuiApplication::platformName() == "xcb");
   ModuleSounds sounds(events);
-  Platform platform{speech,      keys,     hints, windowMessages, windows, files,
-                    directories, registry, clock, events,         random,  sounds};
+  QtFileDialog fileDialog;
+  InverseT inverseT;
+  Platform platform{speech,   keys,  hints,  windowMessages, windows, files,      directories,
+                    registry, clock, events, random,         sounds,  fileDialog, inverseT};
   ServiceSet services(platform);
 
   DesktopShell shell({services.All.Settings, hints, windowMessages, windows, events});

@@ -28,9 +28,10 @@ ControlSpec MakeOkSpec() {
 
 }  // namespace
 
-ReadingDialog::ReadingDialog(const ReadingDialogSpec& spec, const std::string& document, Services& services,
+ReadingDialog::ReadingDialog(const ReadingDialogSpec& spec, ReadingMatter matter, Services& services,
                              DialogFrame& frame)
     : Form(std::string(spec.FormName), services.Messages.GetMessage(spec.TitleMessage)),
+      SaysHelpFirst(spec.SaysHelpFirst),
       ReaderSpec(MakeReaderSpec(spec)),
       OkSpec(MakeOkSpec()),
       Services_(services),
@@ -41,24 +42,19 @@ ReadingDialog::ReadingDialog(const ReadingDialogSpec& spec, const std::string& d
   Document = static_cast<Reader*>(&Add(std::make_unique<Reader>(
       ReaderSpec, "", messages.GetMessage(spec.TitleMessage), messages.GetMessage(spec.HelpMessage))));
   Add(std::make_unique<Button>(OkSpec, ok, ok, messages.GetMessage(OkHelpMessage)));
-  ShowDocument(document);
-}
-
-void ReadingDialog::ShowDocument(const std::string& path) {
-  std::string error;
-  const auto source = Services_.Outside.Files.Read(path, error);
-  Document->Document = ReadRichText(source.value_or(""));
-  for (const Paragraph& paragraph : Document->Document.Paragraphs) {
-    if (&paragraph != &Document->Document.Paragraphs.front()) Document->Text += '\n';
-    Document->Text += PlainText(paragraph);
-  }
+  Document->Document = std::move(matter.Document);
+  Document->Text = std::move(matter.Text);
   Sentences = FindSentences(Document->Text);
 }
 
 void ReadingDialog::Form_Load() {
   if (!Services_.Settings.DontSpeak) Services_.Speech.AttachSpeakingControls(*this, Services_.Verbosity);
   PlaceFocus(*Document);
-  ReadOn();
+  if (SaysHelpFirst)
+    Services_.Speech.SpeakText(Document->HelpText);
+  else if (Sentences.empty())
+    OnGotFocus(*Document);  // without it nothing at all would be heard
+  ReadOn(SaysHelpFirst);
 }
 
 void ReadingDialog::Form_Unload() {
@@ -68,7 +64,7 @@ void ReadingDialog::Form_Unload() {
 }
 
 /// From the sentence where the reading stopped; a document that has been read to its end begins anew.
-void ReadingDialog::ReadOn() {
+void ReadingDialog::ReadOn(bool queued) {
   if (Sentences.empty() || Document->Speaking.Quiescent) return;
   if (Sentence >= Sentences.size()) Sentence = 0;
   Frame.SetReadingTarget(this);
@@ -78,7 +74,7 @@ void ReadingDialog::ReadOn() {
   for (std::size_t i = Sentence + 1; i < Sentences.size(); ++i)
     marks.push_back({Sentences[i].Start - start, static_cast<std::int32_t>(i)});
   ShowSentence();
-  Services_.Speech.ReadAloud(std::string_view(Document->Text).substr(start), marks);
+  Services_.Speech.ReadAloud(std::string_view(Document->Text).substr(start), marks, queued);
 }
 
 void ReadingDialog::ShowSentence() {
@@ -101,11 +97,12 @@ void ReadingDialog::NotifyBookMark(int bookMark, TtsSpeaker&) {
   ShowSentence();
 }
 
+/// Before the last sentence the voice has failed: the reading goes on from there when it is back.
 void ReadingDialog::NotifySpeechStopped(TtsSpeaker&) {
   if (!Reading) return;
   Frame.SetReadingTarget(nullptr);
   Reading = false;
-  Sentence = Sentences.size();
+  if (Sentence + 1 == Sentences.size()) Sentence = Sentences.size();
   Document->SpokenLength = 0;
   ReaderMoved(*Document);
 }
@@ -132,7 +129,7 @@ bool ReadingDialog::OnControlKey(Control& control, const KeyEvent& event) {
 
 bool ReadingDialog::ReaderKey(const KeyEvent& event) {
   if (event.Code == KeyF5) {
-    ReadOn();
+    ReadOn(false);
     return true;
   }
   return event.Shift == NoShift && !Document->Text.empty() && MoveCaret(event.Code);
@@ -187,13 +184,14 @@ void ReadingDialog::SayLine() {
   const TextSpan line = LineAround(Document->Text, Document->Caret);
   const std::string text = Document->Text.substr(line.Start, line.Length);
   // An empty line has to be heard too.
-  Services_.Speech.SpeakText(text.empty() ? Services_.Speech.SpeakableChar("\r") : text);
+  const bool isBlank = text.find_first_not_of(" \t") == std::string::npos;
+  Services_.Speech.SpeakText(isBlank ? Services_.Speech.SpeakableChar("\r") : text);
 }
 
 void ReadingDialog::SayCharacter() {
   const std::string& text = Document->Text;
   const std::size_t at = Document->Caret;
-  if (at >= text.size() || text[at] == '\n')
+  if (at >= text.size() || text[at] == '\n' || text[at] == '\r')
     return Services_.Speech.SpeakText(Services_.Speech.SpeakableChar("\r"));
   const std::size_t next = NextCharacter(text, at);
   Services_.Speech.SpeakText(

@@ -18,13 +18,18 @@ struct ReadingDialogSpec {
   std::string_view ReaderName;
   int TitleMessage = 0;
   int HelpMessage = 0;
+  bool SaysHelpFirst = false;  ///< the reader's help introduces the document
+};
+
+/// What a dialog shows and reads.
+struct ReadingMatter {
+  RichText Document;
+  std::string Text;  ///< the document's paragraphs, a line each
 };
 
 class ReadingDialog : public Form {
  public:
-  /// `document` is the path of a rich-text file; one that cannot be read shows nothing.
-  ReadingDialog(const ReadingDialogSpec& spec, const std::string& document, Services& services,
-                DialogFrame& frame);
+  ReadingDialog(const ReadingDialogSpec& spec, ReadingMatter matter, Services& services, DialogFrame& frame);
 
   void Form_Load() override;
   void Form_Unload() override;
@@ -36,9 +41,9 @@ class ReadingDialog : public Form {
   void OnGotFocus(Control& control) override;
   bool OnControlKey(Control& control, const KeyEvent& event) override;
 
-  void ShowDocument(const std::string& path);
   bool ReaderKey(const KeyEvent& event);
-  void ReadOn();
+  /// After what is being spoken, or at once.
+  void ReadOn(bool queued);
   void StopReading();
   void ShowSentence();
   bool MoveCaret(int keyCode);
@@ -46,6 +51,7 @@ class ReadingDialog : public Form {
   void SayLine();
   void MoveLines(int lines);
 
+  const bool SaysHelpFirst;
   const ControlSpec ReaderSpec;
   const ControlSpec OkSpec;
   Services& Services_;

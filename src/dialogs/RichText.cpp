@@ -25,7 +25,10 @@ bool IsPlain(std::string_view source) {
   return true;
 }
 
+}  // namespace
+
 RichText ReadPlainText(std::string_view source) {
+  if (!IsPlain(source)) return {};
   std::string text(source);
   for (const std::string_view lineEnd : {"\r\n", "\r", "\u2028", "\u2029"})
     text = ReplaceAll(text, lineEnd, "\n");
@@ -37,13 +40,11 @@ RichText ReadPlainText(std::string_view source) {
   return document.Finish();
 }
 
-}  // namespace
-
 RichText ReadRichText(std::string_view source) {
   if (source.starts_with("\xEF\xBB\xBF")) source.remove_prefix(3);
   const std::size_t start = std::min(source.find_first_not_of(" \t\r\n"), source.size());
   if (IsRich(source.substr(start))) return RichTextReader(source.substr(start)).Read();
-  return IsPlain(source) ? ReadPlainText(source) : RichText();
+  return ReadPlainText(source);
 }
 
 std::string PlainText(const Paragraph& paragraph) {

@@ -14,6 +14,10 @@ namespace qves {
 /// on at the left indent, without a bullet.
 RichText ReadRichText(std::string_view source);
 
+/// A plain text, a paragraph to a line (LF or CR LF). One that is no valid UTF-8 without control characters
+/// gives nothing.
+RichText ReadPlainText(std::string_view source);
+
 /// The text of a paragraph without its looks.
 std::string PlainText(const Paragraph& paragraph);
 

@@ -10,6 +10,10 @@ void Announcer::Say(std::string_view text) {
   HasSpoken = true;
 }
 
+void Announcer::SayMessage(int id, std::string_view numberText) {
+  Say(FillPlaceholders(Messages.GetMessage(id), {Speech.SpeechFormatNumber(numberText)}));
+}
+
 void Announcer::SayMore(std::string_view text) {
   if (HasSpoken)
     Speech.SpeakTextQueued(text);

@@ -19,6 +19,8 @@ class Announcer {
   /// Says the key's echo or name at once.
   void Say(std::string_view text);
   void SayMessage(int id) { Say(Messages.GetMessage(id)); }
+  /// Says the message with a number text, as it is spoken, in its placeholder.
+  void SayMessage(int id, std::string_view numberText);
   /// Says it at once, or after what the key has said already.
   void SayMore(std::string_view text);
   /// The same for a number text, after a lead-in ("" for none).

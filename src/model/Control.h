@@ -14,7 +14,7 @@ namespace qves {
 class TtsEngine;
 class TtsSpeaker;
 
-enum class ControlKind { Button, TextBox, CheckBox, ListBox, Reader };
+enum class ControlKind { Button, TextBox, CheckBox, ListBox, ListView, Reader };
 
 /// Where a control stands: a panel of the window, and the cell inside the panel's own grid.
 struct GridCell {
@@ -118,17 +118,43 @@ struct ListItem {
   std::string SpokenText;
 };
 
-/// A list of fixed items, of which one is chosen.
-class ListBox : public Control {
+inline constexpr int NoItem = -1;
+
+/// A list of which one item is chosen.
+class ListControl : public Control {
+ public:
+  using Control::Control;
+  int ListIndex = NoItem;  ///< of the chosen item, from 0
+
+  virtual int ItemCount() const = 0;
+  /// What the list shows of that item.
+  virtual const std::string& ItemText(int item) const = 0;
+};
+
+/// A list of fixed items.
+class ListBox : public ListControl {
  public:
   ListBox(const ControlSpec& spec, std::string caption, std::string spokenName, std::string helpText,
           std::vector<ListItem> items)
-      : Control(spec, std::move(caption), std::move(spokenName), std::move(helpText)),
-        Items(std::move(items)) {}
+      : ListControl(spec, std::move(caption), std::move(spokenName), std::move(helpText)),
+        Items(std::move(items)) {
+    ListIndex = 0;
+  }
   const std::vector<ListItem> Items;
-  int ListIndex = 0;  ///< of the chosen item, from 0
 
+  int ItemCount() const override { return static_cast<int>(Items.size()); }
+  const std::string& ItemText(int item) const override { return Items[static_cast<std::size_t>(item)].Text; }
   const ListItem& Chosen() const { return Items[static_cast<std::size_t>(ListIndex)]; }
+};
+
+/// A list of data that grows and shrinks.
+class ListView : public ListControl {
+ public:
+  using ListControl::ListControl;
+  std::vector<std::string> Items;
+
+  int ItemCount() const override { return static_cast<int>(Items.size()); }
+  const std::string& ItemText(int item) const override { return Items[static_cast<std::size_t>(item)]; }
 };
 
 /// A read-only document that reads itself aloud. Places are counted in bytes of `Text`.

@@ -5,6 +5,31 @@
 #include "model/ArithmeticFault.h"
 
 namespace qves {
+namespace {
+
+constexpr int ItemsOfAPage = 10;
+
+/// How far a key moves the choice in a list of so many items.
+int ListStep(int keyCode, int count) {
+  switch (keyCode) {
+    case KeyUp:
+      return -1;
+    case KeyDown:
+      return 1;
+    case KeyPageUp:
+      return -ItemsOfAPage;
+    case KeyPageDown:
+      return ItemsOfAPage;
+    case KeyHome:
+      return -count - 1;
+    case KeyEnd:
+      return count + 1;
+    default:
+      return 0;
+  }
+}
+
+}  // namespace
 
 Form::Form(std::string name, std::string title) : FormName(std::move(name)), FormTitle(std::move(title)) {}
 
@@ -35,8 +60,8 @@ void Form::Click(Control& control) {
   Guarded([&] { OnClick(control); });
 }
 
-void Form::Choose(ListBox& list, int item) {
-  if (!list.Enabled || item == list.ListIndex || item < 0 || item >= std::ssize(list.Items)) return;
+void Form::Choose(ListControl& list, int item) {
+  if (!list.Enabled || item == list.ListIndex || item < 0 || item >= list.ItemCount()) return;
   PlaceChoice(list, item);
   Guarded([&] { OnChoose(list); });
 }
@@ -84,34 +109,23 @@ bool Form::KeyDown(const KeyEvent& event) {
 bool Form::PressSpace() {
   const bool pressable = dynamic_cast<Button*>(Focused) || dynamic_cast<CheckBox*>(Focused);
   if (pressable) Click(*Focused);
-  return pressable || dynamic_cast<ListBox*>(Focused);
+  return pressable || dynamic_cast<ListControl*>(Focused);
 }
 
 /// The keys from Page Up to Down. On a button or a check box they would move the focus in some toolkits; here
 /// only Tab does.
 bool Form::MoveInList(const KeyEvent& event) {
   if (dynamic_cast<TextBox*>(Focused) || dynamic_cast<Reader*>(Focused)) return false;
-  auto* list = dynamic_cast<ListBox*>(Focused);
-  if (!list) return Focused != nullptr;
-  switch (event.Code) {
-    case qves::KeyUp:
-      Choose(*list, list->ListIndex - 1);
-      break;
-    case qves::KeyDown:
-      Choose(*list, list->ListIndex + 1);
-      break;
-    case KeyHome:
-    case KeyPageUp:
-      Choose(*list, 0);
-      break;
-    case KeyEnd:
-    case KeyPageDown:
-      Choose(*list, static_cast<int>(list->Items.size()) - 1);
-      break;
-    default:
-      break;
-  }
-  return true;
+  auto* list = dynamic_cast<ListControl*>(Focused);
+  if (list) MoveChoice(*list, ListStep(event.Code, list->ItemCount()));
+  return Focused != nullptr;
+}
+
+void Form::MoveChoice(ListControl& list, int step) {
+  if (step == 0) return;
+  const int item = std::clamp(list.ListIndex + step, 0, std::max(list.ItemCount() - 1, 0));
+  if (item == list.ListIndex || list.ItemCount() == 0) return OnListEnd(list, step);
+  Choose(list, item);
 }
 
 bool Form::PressEnter() {
@@ -183,9 +197,30 @@ void Form::SetChecked(CheckBox& box, bool checked) {
   Tell([&](FormObserver& observer) { observer.ControlChanged(*this, box); });
 }
 
-void Form::PlaceChoice(ListBox& list, int item) {
+void Form::PlaceChoice(ListControl& list, int item) {
   list.ListIndex = item;
   Tell([&](FormObserver& observer) { observer.ControlChanged(*this, list); });
+}
+
+void Form::AppendItems(ListView& list, std::span<const std::string> items) {
+  if (items.empty()) return;
+  const int from = list.ItemCount();
+  list.Items.insert(list.Items.end(), items.begin(), items.end());
+  if (list.ListIndex == NoItem) list.ListIndex = 0;
+  Tell([&](FormObserver& observer) {
+    observer.ItemsChanged(*this, list, from, 0, static_cast<int>(items.size()));
+  });
+}
+
+void Form::RemoveItems(ListView& list, int from, int count) {
+  if (count == 0) return;
+  const auto first = list.Items.begin() + from;
+  list.Items.erase(first, first + count);
+  if (list.ListIndex >= from + count)
+    list.ListIndex -= count;
+  else if (list.ListIndex >= from)
+    list.ListIndex = std::min(from, list.ItemCount() - 1);
+  Tell([&](FormObserver& observer) { observer.ItemsChanged(*this, list, from, count, 0); });
 }
 
 void Form::SetEnabled(Control& control, bool enabled) {

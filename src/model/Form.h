@@ -2,6 +2,7 @@
 #pragma once
 
 #include <memory>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -23,6 +24,8 @@ class FormObserver {
   virtual void ControlChanged(Form&, Control&) {}
   /// The box's text grew at its end; `from` is where the new part begins (bytes).
   virtual void TextAppended(Form&, TextBox&, std::size_t /*from*/) {}
+  /// From the item `from` on, `removed` items have gone and `added` ones have come in their place.
+  virtual void ItemsChanged(Form&, ListView&, int /*from*/, int /*removed*/, int /*added*/) {}
   /// The form's focused control changed.
   virtual void FocusChanged(Form&) {}
 };
@@ -60,7 +63,7 @@ class Form {
   void Click(Control& control);
   /// Chooses a list's item, by key or by mouse: the one way to the list's handler. Choosing the chosen one,
   /// or one that the list has not, is nothing. A fault of the handler ends here, in OnFault.
-  void Choose(ListBox& list, int item);
+  void Choose(ListControl& list, int item);
   /// What a mouse click, or a screen reader's press, does: the focus, then the click.
   void MouseClick(Control& control);
   /// The user went to the control, with Tab, the mouse or a screen reader. From then on Enter presses it.
@@ -97,7 +100,11 @@ class Form {
   void SelectAll(TextBox& box);
   void SetChecked(CheckBox& box, bool checked);
   /// Sets the chosen item without a word and without the list's handler.
-  void PlaceChoice(ListBox& list, int item);
+  void PlaceChoice(ListControl& list, int item);
+  /// Puts items at the end of a list, or takes its items from `from` on; both without a word. The first item
+  /// of all becomes the chosen one; where the chosen one goes, the one that takes its place or the last is.
+  void AppendItems(ListView& list, std::span<const std::string> items);
+  void RemoveItems(ListView& list, int from, int count);
   void SetEnabled(Control& control, bool enabled);
   /// Places in the reader's document have changed.
   void ReaderMoved(Reader& reader);
@@ -107,7 +114,9 @@ class Form {
   void EnterPressesDefault() { EnterPressesFocused = false; }
 
   virtual void OnClick(Control&) {}
-  virtual void OnChoose(ListBox&) {}
+  virtual void OnChoose(ListControl&) {}
+  /// A key would have moved the choice beyond the first item (step below 0) or the last.
+  virtual void OnListEnd(ListControl&, int /*step*/) {}
   virtual void OnGotFocus(Control&) {}
   /// The focused control's own keys (help, name, copy). True when used.
   virtual bool OnControlKey(Control&, const KeyEvent&) { return false; }
@@ -124,6 +133,7 @@ class Form {
   bool PressSpace();
   bool PressEnter();
   bool MoveInList(const KeyEvent& event);
+  void MoveChoice(ListControl& list, int step);
   Control* DefaultControl() const;
   void MoveFocus(int step);
   template <class Notify>

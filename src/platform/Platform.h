@@ -2,9 +2,11 @@
 #pragma once
 
 #include "platform/FileStore.h"
+#include "platform/FixedSizeFileDialog.h"
 #include "platform/Notifiers.h"
 #include "platform/Outside.h"
 #include "platform/SoundPlayer.h"
+#include "platform/Spreadsheet.h"
 #include "platform/TTS.h"
 #include "platform/WindowSystem.h"
 
@@ -23,6 +25,8 @@ struct Platform {
   EventPump& Events;
   RandomSource& Random;
   SoundPlayer& Sounds;
+  FixedSizeFileDialog& FileDialog;
+  qves::Spreadsheet& Spreadsheet;
 };
 
 }  // namespace qves

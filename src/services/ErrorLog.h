@@ -13,6 +13,8 @@ namespace qves {
 inline constexpr int SettingsErrorCode = 1;  ///< a settings file
 inline constexpr int MessageErrorCode = 2;   ///< a message file
 inline constexpr int RegistryErrorCode = 3;  ///< the registry
+inline constexpr int ReportErrorCode = 4;    ///< the statistics report
+inline constexpr int ImportErrorCode = 5;    ///< a file of data to import
 inline constexpr int OverflowErrorCode = 6;  ///< a count beyond its integer range
 
 class ErrorLog {

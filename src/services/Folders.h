@@ -13,6 +13,8 @@ struct Folders {
   std::string DocumentsFolder;
   std::string TemporaryFolder;  ///< the error log and the report; made when something is first written there
   std::string SoundsFolder;
+
+  std::string ReportFile() const { return TemporaryFolder + "/Result.txt"; }  ///< of the statistics
 };
 
 }  // namespace qves

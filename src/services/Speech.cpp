@@ -117,8 +117,12 @@ void SpeechService::SpeakTextQueued(std::string_view text) {
   LastText = text;
 }
 
-void SpeechService::ReadAloud(std::string_view text, std::span<const BookMark> marks) {
-  if (PrimarySpeaker) PrimarySpeaker->SpeakNow(text, marks);
+void SpeechService::ReadAloud(std::string_view text, std::span<const BookMark> marks, bool queued) {
+  if (!PrimarySpeaker) return;
+  if (queued)
+    PrimarySpeaker->SpeakQueued(text, marks);
+  else
+    PrimarySpeaker->SpeakNow(text, marks);
 }
 
 void SpeechService::StopSpeech() {

@@ -35,9 +35,9 @@ class SpeechService {
   void SpeakText(std::string_view text);
   /// Says the text after what is being spoken.
   void SpeakTextQueued(std::string_view text);
-  /// Silences what is being spoken and reads a long text, with marks that are told when they are reached. It
-  /// is not what LastSpokenText repeats.
-  void ReadAloud(std::string_view text, std::span<const BookMark> marks);
+  /// Reads a long text, with marks that are told when they are reached: after what is being spoken, or
+  /// silencing that. It is not what LastSpokenText repeats.
+  void ReadAloud(std::string_view text, std::span<const BookMark> marks, bool queued);
   void StopSpeech();
   /// The last text handed to SpeakText or SpeakTextQueued while there was a speaker.
   const std::string& LastSpokenText() const { return LastText; }

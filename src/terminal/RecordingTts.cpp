@@ -18,6 +18,7 @@ class RecordingSpeaker : public TtsSpeaker {
   }
   void SpeakQueued(std::string_view text, std::span<const BookMark> marks) override {
     Note("queued", text);
+    if (!marks.empty()) Begin(marks);
     if (Real) Real->SpeakQueued(text, marks);
   }
   void Stop() override {

@@ -28,7 +28,7 @@ std::string NameOf(const Control& control) {
 Json Describe(const Control& control) {
   Json out = {{"name", control.Name()}};
   if (control.Index() != NoIndex) out["index"] = control.Index();
-  const auto* list = dynamic_cast<const ListBox*>(&control);
+  const auto* list = dynamic_cast<const ListControl*>(&control);
   if (const auto* box = dynamic_cast<const TextBox*>(&control))
     out["text"] = box->Text;
   else if (const auto* reader = dynamic_cast<const Reader*>(&control))
@@ -39,7 +39,7 @@ Json Describe(const Control& control) {
   if (const auto* box = dynamic_cast<const CheckBox*>(&control)) out["checked"] = box->Checked;
   if (list) {
     out["items"] = Json::array();
-    for (const ListItem& item : list->Items) out["items"].push_back(item.Text);
+    for (int item = 0; item < list->ItemCount(); ++item) out["items"].push_back(list->ItemText(item));
     out["selected"] = list->ListIndex;
   }
   return out;

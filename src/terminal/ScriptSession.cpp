@@ -1,6 +1,7 @@
 #include "terminal/ScriptSession.h"
 
 #include <charconv>
+#include <filesystem>
 #include <optional>
 
 #include "services/Text.h"
@@ -65,8 +66,8 @@ ScriptSession::ScriptSession(const Options& options)
       RealSpeech(options.Speech ? LoadSpeech(*options.Speech, Events) : nullptr),
       Speech(Spoken, RealSpeech.get()),
       Sounds(Files),
-      Outside{Speech,      Hook,          Hints,    WindowMessages, Windows, Files,
-              Directories, RegistryStore, TheClock, Events,         Random,  Sounds},
+      Outside{Speech,        Hook,     Hints,  WindowMessages, Windows, Files,      Directories,
+              RegistryStore, TheClock, Events, Random,         Sounds,  FileDialog, TheInverseT},
       Services_(Outside),
       App(Services_.All, *this) {
   Files.RefuseRelativePaths();  // the messages are those of the program's own folder
@@ -148,9 +149,9 @@ std::string ScriptSession::Select(std::string_view argument) {
   if (name.empty() || !item) return "a list's name is wanted, and the index of the item";
   Form* form = App.ActiveForm();
   if (!form) return "";
-  auto* list = dynamic_cast<ListBox*>(form->Find(name));
+  auto* list = dynamic_cast<ListControl*>(form->Find(name));
   if (!list) return Quoted(name) + " is no list of this form";
-  if (*item < 0 || *item >= std::ssize(list->Items)) return "the list has no item " + std::string(argument);
+  if (*item < 0 || *item >= list->ItemCount()) return "the list has no item " + std::string(argument);
   form->Choose(*list, *item);
   return "";
 }
@@ -162,7 +163,8 @@ std::string ScriptSession::ChooseMenu(std::string_view argument) {
   return !form || form->ChooseMenu(*id) ? "" : "the form has no menu item " + std::to_string(*id);
 }
 
-std::string ScriptSession::Answer(std::string_view) {
+std::string ScriptSession::Answer(std::string_view argument) {
+  FileDialog.Answer = argument.empty() ? "" : std::filesystem::absolute(argument).string();
   return "";
 }
 

@@ -13,6 +13,8 @@
 #include "posix/SeededRandom.h"
 #include "posix/SystemClock.h"
 #include "services/ServiceSet.h"
+#include "spreadsheet/InverseT.h"
+#include "terminal/AnsweredFileDialog.h"
 #include "terminal/JsonLine.h"
 #include "terminal/Options.h"
 #include "terminal/RecordingTts.h"
@@ -71,6 +73,8 @@ class ScriptSession : private AppObserver, private FormObserver {
   std::unique_ptr<TTS> RealSpeech;
   RecordingTts Speech;
   SilentSounds Sounds;
+  AnsweredFileDialog FileDialog;
+  InverseT TheInverseT;
   Platform Outside;
   ServiceSet Services_;
   CalculatorApp App;

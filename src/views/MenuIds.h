@@ -10,6 +10,7 @@ namespace qves {
 enum MenuId : int {
   FileMenu = 300,
   ViewMenu = 301,
+  ImportItem = 302,
   ExitItem = 303,
   ScientificItem = 304,
   StatisticsItem = 305,
@@ -19,15 +20,16 @@ enum MenuId : int {
   AboutItem = 351,
   HotKeysItem = 352,
   InverseItem = 353,
+  AboutStatisticsItem = 354,
+  StatisticsHotKeysItem = 355,
 };
-
-inline constexpr int NotAvailableMessage = 399;
 
 struct MenuSpec {
   int Title;
   std::array<int, 4> Items;  ///< 0 for none
 };
 
+/// The menus of a view that has nothing of its own in them.
 inline constexpr MenuSpec MenuTable[] = {
     {FileMenu, {ExitItem}},
     {ViewMenu, {ScientificItem, StatisticsItem, StandardItem, BusinessItem}},

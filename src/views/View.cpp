@@ -5,7 +5,6 @@
 #include "model/ArithmeticFault.h"
 #include "services/WindowActivation.h"
 #include "views/LockKeys.h"
-#include "views/MenuIds.h"
 
 namespace qves {
 namespace {
@@ -60,6 +59,8 @@ std::unique_ptr<Control> View::MakeControl(const ControlSpec& spec) const {
       return std::make_unique<TextBox>(spec, caption, name, help);
     case ControlKind::CheckBox:
       return std::make_unique<CheckBox>(spec, caption, name, help);
+    case ControlKind::ListView:
+      return std::make_unique<ListView>(spec, caption, name, help);
     case ControlKind::ListBox:
     case ControlKind::Reader:  // stands in dialogs only
       break;
@@ -72,7 +73,7 @@ std::unique_ptr<Control> View::MakeControl(const ControlSpec& spec) const {
 }
 
 void View::AddMenus() {
-  for (const MenuSpec& menu : MenuTable) {
+  for (const MenuSpec& menu : Tables.Menus) {
     Menu shown{menu.Title, Message(menu.Title), {}};
     for (const int item : menu.Items)
       if (item != NoMessage) shown.Items.push_back({item, Message(item)});
@@ -158,9 +159,9 @@ void View::OnClick(Control& control) {
   row->Operation(*Engine, {control.Caption, control.SpokenName, control.HelpText});
 }
 
-void View::OnChoose(ListBox& list) {
+void View::OnChoose(ListControl& list) {
   Says.BeginKey();
-  Says.Say(list.Chosen().SpokenText);
+  Says.Say(ChosenWords(list));
   OnNewChoice(list);
 }
 
@@ -180,11 +181,11 @@ void View::SayOf(const Control& control, bool queued) {
     Services_.Speech.SpeakText(text);
 }
 
-/// What a control says of itself: the display its value, a box of several lines all of them, the memory
-/// indicator its name and its mark, a list its chosen item, any other its name.
+/// The display says its value, a box of several lines all of them, the memory indicator its name and its
+/// mark, a list its chosen item, any other control its name.
 std::string View::Announcement(const Control& control) {
   if (&control == MemoryBox && !MemoryBox->Text.empty()) return control.SpokenName + " " + MemoryBox->Text;
-  if (const auto* list = dynamic_cast<const ListBox*>(&control)) return list->Chosen().SpokenText;
+  if (const auto* list = dynamic_cast<const ListControl*>(&control)) return ChosenWords(*list);
   if (control.Has(MultiLine))
     return Services_.Speech.SpeechFormatNumber(static_cast<const TextBox&>(control).Text);
   if (&control != Display) return control.SpokenName;
@@ -192,6 +193,11 @@ std::string View::Announcement(const Control& control) {
   if (Engine->InError()) return Message(ErrorMessage);
   return FillPlaceholders(Message(CurrentValueMessage),
                           {Services_.Speech.SpeechFormatNumber(Engine->DisplayText())});
+}
+
+std::string View::ChosenWords(const ListControl& list) const {
+  const auto* fixed = dynamic_cast<const ListBox*>(&list);
+  return fixed ? fixed->Chosen().SpokenText : "";
 }
 
 bool View::OnControlKey(Control& control, const KeyEvent& event) {
@@ -225,6 +231,8 @@ void View::OnMenu(int id) {
     case AboutItem:
     case HotKeysItem:
     case InverseItem:
+    case AboutStatisticsItem:
+    case StatisticsHotKeysItem:
       return Frame.OpenHelp(id);
     default:
       return ChooseView(id);
@@ -235,15 +243,8 @@ void View::ChooseView(int id) {
   const int calcView = CalcViewOf(id);
   if (calcView == Tables.CalcView)
     Services_.Speech.SpeakText(Message(id));
-  else if (Frame.HasView(calcView))
-    Frame.SwitchView(calcView);
   else
-    SayNotAvailable(id);
-}
-
-void View::SayNotAvailable(int titleMessage) {
-  Services_.Speech.SpeakText(Message(titleMessage));
-  Services_.Speech.SpeakTextQueued(Message(NotAvailableMessage));
+    Frame.SwitchView(calcView);
 }
 
 }  // namespace qves

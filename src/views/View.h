@@ -11,6 +11,7 @@
 #include "model/KeyMap.h"
 #include "services/Services.h"
 #include "views/ClickHandlers.h"
+#include "views/MenuIds.h"
 #include "views/ViewFrame.h"
 
 namespace qves {
@@ -23,6 +24,7 @@ struct ViewTables {
   std::span<const ControlSpec> Controls;
   std::span<const PanelSpec> Panels;
   std::span<const KeyRow> KeyMap;
+  std::span<const MenuSpec> Menus = MenuTable;
   std::span<const ClickRow> Clicks = {};  ///< of the controls that this view has alone
   std::string_view RestingControl = {};   ///< where the focus goes, without a word, after a key has acted
 };
@@ -47,7 +49,12 @@ class View : public Form, protected EngineHost {
   void ShowMemory(std::string_view indicator) override { SetText(*MemoryBox, indicator); }
 
   /// The user has chosen another item; it has been spoken.
-  virtual void OnNewChoice(ListBox&) {}
+  virtual void OnNewChoice(ListControl&) {}
+  /// What a control says of itself.
+  virtual std::string Announcement(const Control& control);
+  /// What is spoken of a list's chosen item.
+  virtual std::string ChosenWords(const ListControl& list) const;
+  void OnMenu(int id) override;
 
   Services& Services_;
   Announcer Says;
@@ -55,10 +62,9 @@ class View : public Form, protected EngineHost {
  private:
   // Form
   void OnClick(Control& control) override;
-  void OnChoose(ListBox& list) override;
+  void OnChoose(ListControl& list) override;
   void OnGotFocus(Control& control) override;
   bool OnControlKey(Control& control, const KeyEvent& event) override;
-  void OnMenu(int id) override;
   void OnFault() override { Engine->FailAloud(); }
 
   void AddControls();
@@ -68,10 +74,8 @@ class View : public Form, protected EngineHost {
   void ShutDownSpeech();
   void PressByKey(Control& control);
   void SayOf(const Control& control, bool queued);
-  std::string Announcement(const Control& control);
   bool TextBoxKey(TextBox& box, const KeyEvent& event);
   void ChooseView(int id);
-  void SayNotAvailable(int titleMessage);
   const std::string& Message(int id) const { return Services_.Messages.GetMessage(id); }
 
   const ViewTables& Tables;

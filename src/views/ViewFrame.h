@@ -8,7 +8,6 @@ class Form;
 class ViewFrame {
  public:
   virtual ~ViewFrame() = default;
-  virtual bool HasView(int calcView) const = 0;
   /// Unloads the current view and shows the one of that CalcView.
   virtual void SwitchView(int calcView) = 0;
   /// Unloads the current view; the program ends.
@@ -23,6 +22,8 @@ class ViewFrame {
   virtual bool IsActive(const Form& view) const = 0;
   /// Opens the dialog of that Help-menu item.
   virtual void OpenHelp(int menuItem) = 0;
+  /// Opens the dialog that reads the report of the statistics.
+  virtual void OpenResult() = 0;
   /// The view has finished its load.
   virtual void ViewLoaded() = 0;
   /// True once: the first view after start-up speaks the welcome.

@@ -178,6 +178,25 @@ struct FakeTts : TTS {
   void SetListener(TtsListener* listener) override { Listener = listener; }
 };
 
+struct FakeFileDialog : FixedSizeFileDialog {
+  std::string Answer;
+  FileDialogSpec Asked;
+  std::string Show(const FileDialogSpec& spec) override {
+    Asked = spec;
+    return Answer;
+  }
+};
+
+/// A spreadsheet that knows one value.
+struct FakeSpreadsheet : Spreadsheet {
+  std::optional<double> Value = 2.5;
+  int Calls = 0;
+  std::optional<double> TInv(double, double) override {
+    ++Calls;
+    return Value;
+  }
+};
+
 struct FakePlatform {
   FakeTts Speech;
   KeyCapture Keys;
@@ -191,8 +210,10 @@ struct FakePlatform {
   FakeEvents Events;
   FakeRandom Random;
   FakeSounds Sounds{Files};
-  Platform All{Speech,      Keys,          Hints,    WindowMessages, Windows, Files,
-               Directories, RegistryStore, TheClock, Events,         Random,  Sounds};
+  FakeFileDialog FileDialog;
+  FakeSpreadsheet TheSpreadsheet;
+  Platform All{Speech,        Keys,     Hints,  WindowMessages, Windows, Files,      Directories,
+               RegistryStore, TheClock, Events, Random,         Sounds,  FileDialog, TheSpreadsheet};
 
   FakePlatform() {
     Files.Content["/program/Messages.txt"] =
@@ -201,8 +222,9 @@ struct FakePlatform {
         "off\n"
         "99\t2000\n402\tnew line\n1208\t times \n3026\t%% of %%\n";
     Files.Content["/program/CalcMsg.txt"] =
-        "100\tQVES\n101\tWelcome.\n303\tE&xit\n304\tScientific View\n306\tStandard View\n399\tnot "
-        "yet\n1073\tpoint\n"
+        "100\tQVES\n101\tWelcome.\n303\tE&xit\n304\tScientific View\n305\tStatistics View\n306\tStandard "
+        "View\n"
+        "1073\tpoint\n"
         "1081\t.\n1202\tError\n1204\t minus \n1413\tbottom\n1414\ttop\n4038\tampersand\n";
   }
 

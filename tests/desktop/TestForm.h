@@ -65,8 +65,8 @@ class TestForm : public Form {
     Log.push_back("click " + std::string(control.Name()));
     if (control.Name() == "txtDisplay") Select("txtDisplay");
   }
-  void OnChoose(ListBox& list) override {
-    Log.push_back("choose " + std::string(list.Name()) + list.Chosen().Text);
+  void OnChoose(ListControl& list) override {
+    Log.push_back("choose " + std::string(list.Name()) + list.ItemText(list.ListIndex));
   }
   void OnGotFocus(Control& control) override {
     Log.push_back("focus " + std::string(control.Name()));

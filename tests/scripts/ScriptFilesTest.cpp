@@ -3,11 +3,12 @@
 //   said     every spoken text in order: [now], +[queued], stop
 //   tape     a line added to the tape
 //   display, memory, focus   when they differ from before
+//   sounds   the events that sounded
 //   error    when the line is no command
 // "== title" starts a new calculator; right below it, "view NAME" is the view that it opens, and lines
-// "host KEY,VALUE" are its host settings file.
-// QVES_UPDATE_SCRIPTS=1 rewrites the scripts from what the calculator does: read the difference before you
-// keep it.
+// "host KEY,VALUE" are its host settings file. "file NAME TEXT" writes a file of the user's, with \n in the
+// text for a line end; "~" in a command is the folder of such files. QVES_UPDATE_SCRIPTS=1 rewrites the
+// scripts from what the calculator does: read the difference before you keep it.
 #include <gtest/gtest.h>
 
 #include <cstdlib>
@@ -61,6 +62,8 @@ class ScriptRunner {
         SetView(StartOptions, line.substr(5));
       else if (line.starts_with("host "))
         HostSettings += line.substr(5) + "\n";
+      else if (line.starts_with("file "))
+        WriteFile(line.substr(5));
       else if (!line.empty() && line[0] != '#')
         out += Perform(line);
     }
@@ -73,7 +76,6 @@ class ScriptRunner {
     Home = std::make_unique<TemporaryFolder>();
     HostSettings.clear();
     StartOptions = {};
-    Before = {{"display", "0"}, {"memory", ""}, {"focus", "txtDisplay"}};
   }
 
   void Start() {
@@ -85,16 +87,25 @@ class ScriptRunner {
     StartOptions.Seed = 1;
     StartOptions.Today = Date{2026, 1, 31};
     Session = std::make_unique<ScriptSession>(StartOptions);
+    const Json atStart = Json::parse(Session->Run(1, "state"));
+    for (const char* name : {"display", "memory", "focus"}) Before[name] = atStart.value(name, Json());
+  }
+
+  void WriteFile(const std::string& nameAndText) {
+    const std::size_t blank = nameAndText.find(' ');
+    std::ofstream(Home->Path / nameAndText.substr(0, blank))
+        << ReplaceAll(ReplaceAll(nameAndText.substr(blank + 1), "\\n", "\n"), "\\r", "\r");
   }
 
   std::string Perform(const std::string& line) {
     if (!Session) Start();
-    const Json report = Json::parse(Session->Run(1, line));
+    const Json report = Json::parse(Session->Run(1, ReplaceAll(line, "~", Home->Path.string())));
     std::string out;
     if (report.contains("error")) out += "  error " + report["error"].get<std::string>() + "\n";
     if (!report["spoken"].empty()) out += "  said" + Said(report["spoken"]) + "\n";
     for (const Json& tape : report.value("tape", Json::array()))
       out += "  tape " + tape.get<std::string>() + "\n";
+    for (const Json& sound : report["sounds"]) out += "  sounds " + sound.get<std::string>() + "\n";
     for (auto& [name, before] : Before) {
       const Json now = report.value(name, Json());
       if (now == before) continue;

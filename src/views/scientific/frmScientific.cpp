@@ -42,7 +42,7 @@ frmScientific::frmScientific(Services& services, ViewFrame& frame)
   SetBaseButtons(NumberBase::Decimal);
 }
 
-void frmScientific::OnNewChoice(ListBox& list) {
+void frmScientific::OnNewChoice(ListControl& list) {
   if (&list != NumBases) return;
   SetBaseButtons(list.ListIndex);
   Scientific->ChangeBase(list.ListIndex);

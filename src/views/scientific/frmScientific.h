@@ -19,7 +19,7 @@ class frmScientific : public View, private ScientificHost {
   int TrigMode() const override { return TrigModes->ListIndex; }
   double NextRandom() override { return Services_.Outside.Random.Next(); }
 
-  void OnNewChoice(ListBox& list) override;
+  void OnNewChoice(ListControl& list) override;
   void SetBaseButtons(int base);
 
   CheckBox* Inv;

@@ -1,0 +1,22 @@
+// The dialog in which the user chooses a file.
+#pragma once
+
+#include <string>
+
+namespace qves {
+
+struct FileDialogSpec {
+  std::string Title;
+  std::string Filter;            ///< pairs of a name and a pattern, with "|" between: "Text Files|*.txt"
+  std::string DefaultExtension;  ///< without the point
+  std::string InitialFolder;
+};
+
+class FixedSizeFileDialog {
+ public:
+  virtual ~FixedSizeFileDialog() = default;
+  /// Shows the dialog until it is left: the path chosen, "" when it was cancelled.
+  virtual std::string Show(const FileDialogSpec& spec) = 0;
+};
+
+}  // namespace qves

@@ -1,0 +1,93 @@
+#include "views/statistics/FreeFormat.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "engine/Numbers.h"
+#include "model/ArithmeticFault.h"
+
+namespace qves {
+namespace {
+
+constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
+constexpr std::string_view LineEnds = "\r\n";
+constexpr std::string_view Gaps = " \t\r\n";
+constexpr std::string_view FieldEnds = " \t\r\n,";
+constexpr std::size_t LongestQuoted = 40;
+
+class FreeFormatReader {
+ public:
+  explicit FreeFormatReader(std::string_view text) : Rest(text) {
+    if (Rest.starts_with(ByteOrderMark)) Rest.remove_prefix(ByteOrderMark.size());
+  }
+
+  /// The next field, "" for an empty one between two commas; nothing at the end.
+  std::optional<std::string_view> NextField() {
+    for (SkipGap(); Rest.starts_with(','); SkipGap()) {
+      Take(1);
+      if (std::exchange(HadComma, true)) return "";
+    }
+    if (Rest.empty()) return std::nullopt;
+    HadComma = false;
+    return Rest.front() == '"' ? TakeQuoted() : Take(Rest.find_first_of(FieldEnds));
+  }
+
+  int Line = 1;
+  bool Broken = false;  ///< the field at hand is no number whatever its text
+
+ private:
+  std::string_view Take(std::size_t length) {
+    const std::string_view taken = Rest.substr(0, length);
+    Rest.remove_prefix(taken.size());
+    return taken;
+  }
+
+  void SkipGap() {
+    const std::string_view gap = Take(std::min(Rest.find_first_not_of(Gaps), Rest.size()));
+    for (std::size_t i = 0; i < gap.size(); ++i)
+      if (LineEnds.find(gap[i]) != std::string_view::npos && !gap.substr(i).starts_with(LineEnds)) ++Line;
+  }
+
+  /// What stands between the quotes: nothing, a quote that is never closed, or one that something follows
+  /// breaks the field.
+  std::string_view TakeQuoted() {
+    Take(1);
+    const std::string_view field = Take(Rest.find('"'));
+    Broken = field.empty() || Rest.empty();
+    Take(1);
+    Broken = Broken || (!Rest.empty() && FieldEnds.find(Rest.front()) == std::string_view::npos);
+    return field;
+  }
+
+  std::string_view Rest;
+  bool HadComma = false;  ///< a comma, and no field since
+};
+
+/// The value of a field; nothing when it has none.
+std::optional<double> ValueOf(std::string_view field) {
+  if (field.empty()) return 0;
+  try {
+    return ParseNumber(field);
+  } catch (const ArithmeticFault&) {
+    return std::nullopt;  // it is beyond a double
+  }
+}
+
+std::string NoNumber(std::string_view field) {
+  return "\"" + std::string(field.substr(0, LongestQuoted)) + "\" is no number that can be kept";
+}
+
+}  // namespace
+
+std::optional<FreeFormatFault> ReadFreeFormat(std::string_view text,
+                                              const std::function<bool(double)>& take) {
+  FreeFormatReader reader(text);
+  while (const auto field = reader.NextField()) {
+    const auto value = reader.Broken ? std::nullopt : ValueOf(*field);
+    if (!value) return FreeFormatFault{reader.Line, NoNumber(*field)};
+    if (!take(*value)) return FreeFormatFault{reader.Line, "there is no room for more numbers"};
+  }
+  return std::nullopt;
+}
+
+}  // namespace qves

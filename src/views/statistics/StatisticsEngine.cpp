@@ -1,0 +1,85 @@
+#include "views/statistics/StatisticsEngine.h"
+
+#include "model/ArithmeticFault.h"
+
+namespace qves {
+namespace {
+
+using enum qves::LastAction;
+
+constexpr int ClearEntryMessage = 1077;
+constexpr int DegreesSetMessage = 1446;
+constexpr int AlphaSetMessage = 1447;
+
+constexpr OperatorRow SignOperator[] = {{"+/-", Arity::Unary, ChangeSign}};
+
+/// What is said of a list.
+struct ListWords {
+  int Added;
+  int Removed;
+  int Cleared;
+  int Empty;
+};
+
+const ListWords& WordsOf(DataList list) {
+  static constexpr ListWords words[] = {{1401, 1404, 1407, 1411}, {1433, 1434, 1435, 1431}};
+  return words[static_cast<int>(list)];
+}
+
+}  // namespace
+
+StatisticsEngine::StatisticsEngine(EngineHost& host, StatisticsHost& data, Announcer& announcer)
+    : EntryEngine(SignOperator, host, announcer), Data(data) {}
+
+void StatisticsEngine::Add(const PressedKey&) {
+  LastAction = Equal;
+  // The text alone counts, so "0." is added; and the sentence is no message. Both are wanted.
+  if (Data.IgnoresZero() && EntryText == "0") return Says.Say("data points of Zero will be ignored");
+  const DataList list = Data.TargetList();
+  if (std::ssize(Data.Items(list)) >= MostPoints) throw ArithmeticFault("the list is full");
+  Data.AddItem(list, EntryText);
+  Says.SayMessage(WordsOf(list).Added, EntryText);
+}
+
+void StatisticsEngine::Remove(const PressedKey&) {
+  LastAction = Equal;
+  const DataList list = Data.TargetList();
+  const int item = Data.SelectedItem(list);
+  if (item < 0) return Says.SayMessage(WordsOf(list).Empty);
+  Says.SayMessage(WordsOf(list).Removed, Data.Items(list)[static_cast<std::size_t>(item)]);
+  Data.RemoveItem(list, item);
+}
+
+void StatisticsEngine::Clear(const PressedKey&) {
+  LastAction = Equal;
+  const DataList list = Data.TargetList();
+  Data.ClearItems(list);
+  Says.SayMessage(WordsOf(list).Cleared);
+}
+
+void StatisticsEngine::Run(const PressedKey&) {
+  LastAction = Equal;
+  if (!Data.Items(DataList::Main).empty()) Data.Report(DegreesOfFreedom, Alpha);
+}
+
+void StatisticsEngine::SetParameter(const PressedKey& key) {
+  if (ErrorState) {
+    ErrorState = false;
+    EntryText = "0";
+    Show();
+    return Says.SayMessage(ClearEntryMessage);
+  }
+  const bool isAlpha = key.Caption == "alpha";
+  (isAlpha ? Alpha : DegreesOfFreedom) = ValueOf(DisplayText());
+  Says.SayMessage(isAlpha ? AlphaSetMessage : DegreesSetMessage, DisplayText());
+  LastAction = Equal;
+}
+
+StateFields StatisticsEngine::Fields() const {
+  StateFields fields = EntryEngine::Fields();
+  const StateField own[] = {{"DegreesOfFreedom", DegreesOfFreedom}, {"Alpha", Alpha}};
+  fields.insert(fields.end(), std::begin(own), std::end(own));
+  return fields;
+}
+
+}  // namespace qves

@@ -1,0 +1,52 @@
+// The engine of the Statistics view: an entry for two lists of data, and what is asked of them.
+#pragma once
+
+#include <span>
+#include <string>
+
+#include "engine/EntryEngine.h"
+
+namespace qves {
+
+/// The most points that a list of data holds.
+inline constexpr int MostPoints = 32767;
+
+enum class DataList { Main, Second };
+
+/// Where the data are, and what is done with them all.
+class StatisticsHost {
+ public:
+  virtual ~StatisticsHost() = default;
+  /// The list that keys add to and take from.
+  virtual DataList TargetList() const = 0;
+  virtual bool IgnoresZero() const = 0;
+  virtual std::span<const std::string> Items(DataList list) const = 0;
+  /// Of the selected item, from 0; below 0 when none is.
+  virtual int SelectedItem(DataList list) const = 0;
+  virtual void AddItem(DataList list, const std::string& text) = 0;
+  virtual void RemoveItem(DataList list, int item) = 0;
+  virtual void ClearItems(DataList list) = 0;
+  /// Computes the statistics, writes their report and opens the dialog that reads it.
+  virtual void Report(double degreesOfFreedom, double alpha) = 0;
+};
+
+class StatisticsEngine : public EntryEngine {
+ public:
+  StatisticsEngine(EngineHost& host, StatisticsHost& data, Announcer& announcer);
+
+  void Add(const PressedKey& key);
+  void Remove(const PressedKey& key);
+  void Clear(const PressedKey& key);
+  void Run(const PressedKey& key);
+  /// "df" or "alpha", by the caption.
+  void SetParameter(const PressedKey& key);
+
+  StateFields Fields() const override;
+
+ private:
+  StatisticsHost& Data;
+  double DegreesOfFreedom = 0;
+  double Alpha = 0;
+};
+
+}  // namespace qves

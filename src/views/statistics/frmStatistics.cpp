@@ -1,0 +1,138 @@
+#include "views/statistics/frmStatistics.h"
+
+#include "engine/Numbers.h"
+#include "model/ArithmeticFault.h"
+#include "services/AppSettings.h"
+#include "views/statistics/FreeFormat.h"
+#include "views/statistics/StatisticsControls.h"
+#include "views/statistics/StatisticsKeyMap.h"
+#include "views/statistics/StatisticsReport.h"
+#include "views/statistics/StatisticsRun.h"
+
+namespace qves {
+namespace {
+
+constexpr int ImportTitleMessage = 400;
+constexpr int ImportFilterMessage = 401;
+constexpr int EmptyMessages[] = {1411, 1431};
+
+constexpr MenuSpec Menus[] = {
+    {FileMenu, {ImportItem, ExitItem}},
+    {ViewMenu, {ScientificItem, StatisticsItem, StandardItem, BusinessItem}},
+    {HelpMenu, {AboutStatisticsItem, StatisticsHotKeysItem, InverseItem}},
+};
+
+constexpr ClickRow Clicks[] = {
+    {"cmdSign", Do<EntryEngine, &EntryEngine::UnaryOperator>, FocusRule::Stays},
+    {"cmdAdd", Do<StatisticsEngine, &StatisticsEngine::Add>, FocusRule::Stays},
+    {"cmdRemove", Do<StatisticsEngine, &StatisticsEngine::Remove>, FocusRule::Moves},
+    {"cmdClear", Do<StatisticsEngine, &StatisticsEngine::Clear>, FocusRule::Moves},
+    {"cmdRun", Do<StatisticsEngine, &StatisticsEngine::Run>, FocusRule::Moves},
+    {"cmdStat", Do<StatisticsEngine, &StatisticsEngine::SetParameter>, FocusRule::Stays},
+};
+
+constexpr ViewTables StatisticsTables = {
+    .FormName = "frmStatistics",
+    .CalcView = StatisticsView,
+    .NameMessage = StatisticsItem,
+    .Controls = statistics::Controls,
+    .Panels = statistics::Panels,
+    .KeyMap = statistics::KeyMap,
+    .Menus = Menus,
+    .Clicks = Clicks,
+    .RestingControl = "cmdAdd",
+};
+
+}  // namespace
+
+frmStatistics::frmStatistics(Services& services, ViewFrame& frame)
+    : View(StatisticsTables, services, frame),
+      Frame(frame),
+      Lists{static_cast<ListView*>(Find("lvwData")), static_cast<ListView*>(Find("lvwData2"))},
+      IgnoreZero(static_cast<CheckBox*>(Find("cbIgnoreZero"))),
+      UseList2(static_cast<CheckBox*>(Find("cbUseList2"))) {
+  EngineHost& host = *this;
+  StatisticsHost& data = *this;
+  UseEngine(std::make_unique<StatisticsEngine>(host, data, Says));
+}
+
+std::string frmStatistics::Announcement(const Control& control) {
+  const auto* list = dynamic_cast<const ListView*>(&control);
+  if (!list) return View::Announcement(control);
+  if (list->ItemCount() > 0) return list->SpokenName + ", " + ChosenWords(*list);
+  return list->SpokenName + "," + Services_.Messages.GetMessage(EmptyMessages[list == Lists[1]]);
+}
+
+/// The item, and its place in the list where the user wants to hear that.
+std::string frmStatistics::ChosenWords(const ListControl& list) const {
+  if (list.ListIndex == NoItem) return "";
+  const std::string item = Services_.Speech.SpeechFormatNumber(list.ItemText(list.ListIndex));
+  const std::string place = Services_.Sounds.VerbosityAnnounce(ListPositionEntry, false);
+  if (place.empty()) return item;
+  return item + " " +
+         FillPlaceholders(place, {std::to_string(list.ListIndex + 1), std::to_string(list.ItemCount())});
+}
+
+void frmStatistics::OnListEnd(ListControl&, int step) {
+  const std::string words =
+      Services_.Sounds.VerbosityAnnounce(step < 0 ? TopOfListEntry : BottomOfListEntry, false);
+  if (!words.empty()) Services_.Speech.SpeakText(words);
+}
+
+void frmStatistics::OnMenu(int id) {
+  if (id == ImportItem)
+    Import();
+  else
+    View::OnMenu(id);
+}
+
+/// A fault ends the calculation without a word, and the dialog reads the report of the run before. Both are
+/// wanted.
+void frmStatistics::Report(double degreesOfFreedom, double alpha) {
+  const std::string path = Services_.FolderLocations.ReportFile();
+  try {
+    const StatisticsResult result = RunStatistics(
+        {Items(DataList::Main), Items(DataList::Second), IgnoresZero(), degreesOfFreedom, alpha},
+        Services_.Outside.Spreadsheet);
+    std::string error;
+    if (!Services_.Outside.Files.Write(path, WriteReport(result, Services_.Messages), error))
+      Services_.Log.WriteErrorLog(ReportErrorCode, "The report " + path + " cannot be written: " + error +
+                                                       "; the one of before is read");
+  } catch (const ArithmeticFault&) {
+  }
+  Frame.OpenResult();
+}
+
+void frmStatistics::Import() {
+  const MessageStore& messages = Services_.Messages;
+  const std::string path = Services_.Outside.FileDialog.Show({messages.GetMessage(ImportTitleMessage),
+                                                              messages.GetMessage(ImportFilterMessage), "txt",
+                                                              Services_.FolderLocations.DocumentsFolder});
+  if (!path.empty()) ImportFile(path);
+}
+
+/// The list is emptied when the file is open, before anything is read: what a broken file loses is wanted so.
+void frmStatistics::ImportFile(const std::string& path) {
+  const auto log = [&](const std::string& what) {
+    Services_.Log.WriteErrorLog(ImportErrorCode, path + ": " + what);
+  };
+  std::string error;
+  const auto text = Services_.Outside.Files.Read(path, error);
+  if (!text) return log(error + "; nothing is imported");
+  ListView& list = ListOf(TargetList());
+  RemoveItems(list, 0, list.ItemCount());
+  std::vector<std::string> items;
+  const auto take = [&](double value) {
+    if (value == 0 && IgnoresZero()) return true;
+    if (std::ssize(items) == MostPoints) return false;
+    items.push_back(NumberToText(value));
+    return true;
+  };
+  const auto fault = ReadFreeFormat(*text, take);
+  AppendItems(list, items);
+  if (fault)
+    log("line " + std::to_string(fault->Line) + ": " + fault->Reason + "; the import ends after " +
+        std::to_string(items.size()) + " points");
+}
+
+}  // namespace qves

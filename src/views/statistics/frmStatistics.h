@@ -1,0 +1,42 @@
+// The Statistics view: two lists of data, their statistics, and the import of a list.
+#pragma once
+
+#include <array>
+
+#include "views/View.h"
+#include "views/statistics/StatisticsEngine.h"
+
+namespace qves {
+
+class frmStatistics : public View, private StatisticsHost {
+ public:
+  frmStatistics(Services& services, ViewFrame& frame);
+
+ private:
+  // View
+  std::string Announcement(const Control& control) override;
+  std::string ChosenWords(const ListControl& list) const override;
+  void OnListEnd(ListControl& list, int step) override;
+  void OnMenu(int id) override;
+
+  // StatisticsHost
+  DataList TargetList() const override { return UseList2->Checked ? DataList::Second : DataList::Main; }
+  bool IgnoresZero() const override { return IgnoreZero->Checked; }
+  std::span<const std::string> Items(DataList list) const override { return ListOf(list).Items; }
+  int SelectedItem(DataList list) const override { return ListOf(list).ListIndex; }
+  void AddItem(DataList list, const std::string& text) override { AppendItems(ListOf(list), {&text, 1}); }
+  void RemoveItem(DataList list, int item) override { RemoveItems(ListOf(list), item, 1); }
+  void ClearItems(DataList list) override { RemoveItems(ListOf(list), 0, ListOf(list).ItemCount()); }
+  void Report(double degreesOfFreedom, double alpha) override;
+
+  ListView& ListOf(DataList list) const { return *Lists[static_cast<std::size_t>(list)]; }
+  void Import();
+  void ImportFile(const std::string& path);
+
+  ViewFrame& Frame;
+  std::array<ListView*, 2> Lists;
+  CheckBox* IgnoreZero;
+  CheckBox* UseList2;
+};
+
+}  // namespace qves
