@@ -3,14 +3,17 @@
 
 #include "FakePlatform.h"
 #include "app/CalculatorApp.h"
+#include "engine/Numbers.h"
 #include "model/ArithmeticFault.h"
 #include "services/AppSettings.h"
 #include "services/ServiceSet.h"
+#include "views/MenuIds.h"
 #include "views/business/Amortization.h"
 #include "views/business/Annuity.h"
 #include "views/business/Bonds.h"
 #include "views/business/CashFlows.h"
 #include "views/scientific/NumberBases.h"
+#include "views/statistics/StatisticsEngine.h"
 
 namespace qves {
 namespace {
@@ -117,6 +120,53 @@ void YieldOfALongBond(benchmark::State& state) {
   }
 }
 BENCHMARK(YieldOfALongBond)->Unit(benchmark::kMillisecond);
+
+/// The Statistics view with both lists full.
+struct FullLists : Calculator {
+  FullLists() : Calculator(StatisticsView) {
+    std::string& text = Outside.Files.Content["/points.txt"];
+    for (int i = 0; i < MostPoints; ++i) text += NumberToText(i * 1.0009765625 + 0.1) + "\r\n";
+    Outside.FileDialog.Answer = "/points.txt";
+    for (int list = 0; list < 2; ++list) {
+      View = App.ActiveForm();
+      Import();
+      View->MouseClick(*View->Find("cbUseList2"));
+    }
+  }
+  void Import() {
+    View->ChooseMenu(ImportItem);
+    Outside.Speech.Said.clear();
+  }
+  Form* View = nullptr;
+};
+
+void ImportOfAFullList(benchmark::State& state) {
+  FullLists calculator;
+  for (auto _ : state) calculator.Import();
+}
+BENCHMARK(ImportOfAFullList)->Unit(benchmark::kMillisecond);
+
+/// The figures, the report and the dialog that reads it, until it has begun to speak; and its end.
+void RunOfFullLists(benchmark::State& state) {
+  FullLists calculator;
+  for (auto _ : state) {
+    calculator.Press({'U', NoShift, U'u'});
+    calculator.Press(Escape);
+    calculator.Press({KeyEnter, NoShift, 0});
+  }
+}
+BENCHMARK(RunOfFullLists)->Unit(benchmark::kMillisecond);
+
+void RemoveFromTheMiddleAndAdd(benchmark::State& state) {
+  FullLists calculator;
+  auto& list = dynamic_cast<ListView&>(*calculator.View->Find("lvwData"));
+  for (auto _ : state) {
+    calculator.View->Choose(list, MostPoints / 2);
+    calculator.Press({'R', NoShift, U'r'});
+    calculator.Press({'A', NoShift, U'a'});
+  }
+}
+BENCHMARK(RemoveFromTheMiddleAndAdd)->Unit(benchmark::kMicrosecond);
 
 void StartAndLeave(benchmark::State& state) {
   for (auto _ : state) {

@@ -124,8 +124,9 @@ void SpeechWorker::Run(State& state) {
       continue;
     }
     PlayControl control(state.Wake, text->Ticket, state.Quit);
-    if (!control.Interrupted() && !state.Player->Play(*text, control) && !state.Quit)
-      state.GiveBack(*std::move(text));
+    if (control.Interrupted() || state.Player->Play(*text, control) || state.Quit) continue;
+    text->DropFront(control.Spoken);
+    state.GiveBack(*std::move(text));
   }
   state.Player.reset();
   const std::lock_guard lock(state.Mutex);

@@ -41,7 +41,8 @@ class PlayControl {
       : Wake(wake), Ticket(ticket), Quit(quit) {}
   /// True when the text is to be silenced.
   bool Interrupted() const { return Quit || Ticket.Outdated(); }
-  Signal& Wake;  ///< notified whenever Interrupted() may have changed
+  Signal& Wake;            ///< notified whenever Interrupted() may have changed
+  std::size_t Spoken = 0;  ///< how many bytes of the text another back end need not speak
 
  private:
   const SpeechTicket& Ticket;

@@ -41,4 +41,10 @@ SpeechTicket& SpeechTicket::operator=(SpeechTicket&& other) noexcept {
   return *this;
 }
 
+void Utterance::DropFront(std::size_t length) {
+  Text.erase(0, length);
+  std::erase_if(Marks, [length](const BookMark& mark) { return mark.Offset < length; });
+  for (BookMark& mark : Marks) mark.Offset -= length;
+}
+
 }  // namespace qves

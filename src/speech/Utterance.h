@@ -73,6 +73,9 @@ struct Utterance {
   std::shared_ptr<const Voice> Speaking;
   VoiceSettings Settings;
   SpeechTicket Ticket;
+
+  /// So many bytes have been spoken: what is left is the rest, with its marks.
+  void DropFront(std::size_t length);
 };
 
 }  // namespace qves

@@ -71,6 +71,7 @@ EspeakPlayer::Output EspeakPlayer::ChooseOutput() {
       return Library.Use(EspeakLibrary::Mode::Synthesis, StreamPlayback::Receive) ? Output::Stream
                                                                                   : Output::Nothing;
     case PulseStream::Link::NoServer:
+      if (!DeviceThere) NextLook = {};  // there is nothing that looking with each text could delay
       return OutputWithoutStream();
     case PulseStream::Link::NoAnswer:
       break;  // the library's own output would hang on the same server

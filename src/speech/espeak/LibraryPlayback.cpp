@@ -25,7 +25,7 @@ bool LibraryPlayback::Run(const Utterance& text, PlayControl& control) {
   }
   if (!Over()) espeak_Cancel();
   const std::lock_guard lock(Mutex);
-  if (!control.Interrupted()) Marks->HeardAll();
+  if (HasBegun && !control.Interrupted()) Marks->HeardAll();
   Marks.reset();
   return HasBegun || control.Interrupted();
 }

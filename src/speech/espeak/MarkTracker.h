@@ -12,7 +12,8 @@
 namespace qves {
 
 /// The library loses marks in markup that lie between two sentences, so the marks are found by the positions
-/// of the words. They are reported in order and none is lost: at the latest, when the text is over.
+/// of the words. They are reported in order and none is lost: at the latest, when all of the text has been
+/// heard.
 class MarkTracker {
  public:
   explicit MarkTracker(const Utterance& text);

@@ -37,8 +37,10 @@ bool StreamPlayback::Run(milliseconds pauseBefore) {
   WriteAll(pause);
   espeak_Synth(Text.Text.c_str(), Text.Text.size() + 1, 0, POS_CHARACTER, 0, espeakCHARS_UTF8, nullptr, this);
   const bool heard = WaitUntilHeard();
-  if (Control.Interrupted() || !heard) Stream.Flush();
-  if (!Control.Interrupted()) Marks.HeardAll();
+  if (Control.Interrupted() || !heard)
+    Stream.Flush();
+  else
+    Marks.HeardAll();
   return heard;
 }
 

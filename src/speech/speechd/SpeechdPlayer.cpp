@@ -128,6 +128,7 @@ bool SpeechdPlayer::Play(const Utterance& text, PlayControl& control) {
       Failures = 0;
       return false;
     }
+    control.Spoken += piece.Text.size();
   }
   return true;
 }
