@@ -1,6 +1,5 @@
 #include "desktop/ChoiceWidgets.h"
 
-#include <QItemSelectionModel>
 #include <QKeyEvent>
 #include <QStyleOptionButton>
 #include <QStylePainter>
@@ -63,86 +62,6 @@ void CheckBoxView::paintEvent(QPaintEvent*) {
   painter.drawItemText(beside, Qt::AlignLeft | Qt::AlignVCenter | Qt::TextShowMnemonic, palette(),
                        isEnabled(), text(), QPalette::WindowText);
   PaintOutline(*this);
-}
-
-/// A selection that only the form changes. What others want to select, an accessibility client with the
-/// toolkit's own steps of it, goes to the host.
-class FollowingSelection : public QItemSelectionModel {
- public:
-  FollowingSelection(ListBox& list, ControlHost& host, QListWidget& widget)
-      : QItemSelectionModel(widget.model(), &widget), Model(list), Host(host) {}
-
-  void Show(int row) {
-    const QModelIndex index = model()->index(row, 0);
-    QItemSelectionModel::select(QItemSelection(index, index), ClearAndSelect);
-    QItemSelectionModel::setCurrentIndex(index, NoUpdate);
-  }
-
-  using QItemSelectionModel::select;
-  void select(const QItemSelection& wanted, SelectionFlags command) override {
-    if (command.testFlag(Select) && !wanted.isEmpty()) Host.ItemChosen(Model, wanted.first().top());
-  }
-  void setCurrentIndex(const QModelIndex& index, SelectionFlags command) override { select(index, command); }
-
- private:
-  ListBox& Model;
-  ControlHost& Host;
-};
-
-ListBoxView::ListBoxView(ListBox& list, ControlHost& host, QWidget* parent)
-    : QListWidget(parent), Model(list), Host(host) {
-  AddItems();
-  QItemSelectionModel* toolkits = selectionModel();
-  Selection = new FollowingSelection(list, host, *this);
-  setSelectionModel(Selection);
-  delete toolkits;
-  setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  setTextElideMode(Qt::ElideNone);
-  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
-  setFocusPolicy(Qt::StrongFocus);
-  setContextMenuPolicy(Qt::NoContextMenu);
-  setFrameStyle(QFrame::Box | QFrame::Plain);
-  setLineWidth(OutlineWidth);
-  NameForScreenReader(*this, list);
-}
-
-/// The texts begin with a blank, which is for the ear.
-void ListBoxView::AddItems() {
-  for (const ListItem& item : Model.Items) {
-    auto* shown = new QListWidgetItem(QString::fromStdString(item.Text).trimmed(), this);
-    shown->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
-  }
-}
-
-void ListBoxView::Refresh() {
-  setEnabled(Model.Enabled);
-  Selection->Show(Model.ListIndex);
-}
-
-QSize ListBoxView::sizeHint() const {
-  const int around = 2 * frameWidth();
-  return {sizeHintForColumn(0) + around, count() * sizeHintForRow(0) + around};
-}
-
-bool ListBoxView::event(QEvent* event) {
-  return PaintFrame(*this, *event) || QListWidget::event(event);
-}
-
-void ListBoxView::focusInEvent(QFocusEvent* event) {
-  QListWidget::focusInEvent(event);
-  Host.ControlFocused(Model);
-}
-
-void ListBoxView::keyPressEvent(QKeyEvent* event) {
-  // Arrows act through the form, and letters belong to the calculator.
-  event->ignore();
-}
-
-void ListBoxView::mouseReleaseEvent(QMouseEvent* event) {
-  if (!IsPrimaryClick(*event, *viewport())) return;
-  if (const QModelIndex at = indexAt(event->position().toPoint()); at.isValid())
-    Host.ItemChosen(Model, at.row());
 }
 
 }  // namespace qves

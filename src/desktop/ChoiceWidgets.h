@@ -1,8 +1,7 @@
-// The widgets of what is chosen with: check boxes and lists. What they show is the form's choice alone.
+// The widget of a check box. What it shows is the form's state alone.
 #pragma once
 
 #include <QCheckBox>
-#include <QListWidget>
 
 #include "desktop/ControlView.h"
 
@@ -29,35 +28,6 @@ class CheckBoxView : public QCheckBox, public ControlView {
 
   CheckBox& Model;
   ControlHost& Host;
-};
-
-class FollowingSelection;
-
-/// A list that shows all of its items, of which one is chosen.
-class ListBoxView : public QListWidget, public ControlView {
- public:
-  ListBoxView(ListBox& list, ControlHost& host, QWidget* parent);
-  QWidget& Widget() override { return *this; }
-  void Refresh() override;
-  QSize sizeHint() const override;
-  QSize minimumSizeHint() const override { return sizeHint(); }
-
- protected:
-  bool event(QEvent* event) override;
-  void focusInEvent(QFocusEvent* event) override;
-  void keyPressEvent(QKeyEvent* event) override;
-  // Of the mouse only the end of a click acts; the toolkit's presses would drag, sweep and edit.
-  void mousePressEvent(QMouseEvent*) override {}
-  void mouseMoveEvent(QMouseEvent*) override {}
-  void mouseDoubleClickEvent(QMouseEvent*) override {}
-  void mouseReleaseEvent(QMouseEvent* event) override;
-
- private:
-  void AddItems();
-
-  ListBox& Model;
-  ControlHost& Host;
-  FollowingSelection* Selection;
 };
 
 }  // namespace qves

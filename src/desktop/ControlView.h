@@ -33,6 +33,8 @@ class ControlView {
   virtual void ItemsChanged(int /*from*/, int /*removed*/, int /*added*/) { Refresh(); }
   /// The desktop's font or colours changed.
   virtual void Restyle() {}
+  /// The control is about to be destroyed; the widget stays for a while.
+  virtual void Drop() {}
 };
 
 /// Gives the widget the control's name and help as a screen reader's name and description.

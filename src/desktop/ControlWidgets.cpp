@@ -5,6 +5,7 @@
 #include <algorithm>
 
 #include "desktop/ChoiceWidgets.h"
+#include "desktop/ListWidgets.h"
 #include "desktop/ReaderWidget.h"
 
 namespace qves {
@@ -209,6 +210,8 @@ ControlView* MakeControlView(Control& control, ControlHost& host, const AppSetti
     view = new CheckBoxView(*check, host, parent);
   else if (auto* list = dynamic_cast<ListBox*>(&control))
     view = new ListBoxView(*list, host, parent);
+  else if (auto* data = dynamic_cast<ListView*>(&control))
+    view = new ListViewWidget(*data, host, settings, parent);
   else if (auto* reader = dynamic_cast<Reader*>(&control))
     view = new ReaderView(*reader, host, settings, parent);
   if (!view) return nullptr;

@@ -17,18 +17,16 @@ DesktopShell::~DesktopShell() {
 
 void DesktopShell::Attach(CalculatorApp& app) {
   App = &app;
+  To.FileDialog.Owner = [this] { return TopWindow(); };
   Keys = std::make_unique<KeyFilter>(KeyFilter::Receivers{
-      .KeyDown =
-          [this](const KeyEvent& event) {
-            To.Windows.NoteKeyPress(event.Code);
-            return App->KeyDown(event);
-          },
+      .KeyDown = [this](const KeyEvent& event) { return App->KeyDown(event); },
       .KeyUp = [this](int keyCode) { App->KeyUp(keyCode); },
+      .NotePress = [this](int keyCode) { To.Windows.NoteKeyPress(keyCode); },
       .SettleMenus =
           [this] {
             if (FormMenuBar* menus = TopMenus()) menus->Settle();
           },
-      .IsForeignPopup = [this] { return IsForeignPopup(); },
+      .IsForeign = [this] { return To.FileDialog.IsOpen() || IsForeignPopup(); },
       .HighlightFirstMenu =
           [this] {
             if (FormMenuBar* menus = TopMenus()) menus->HighlightFirst();
@@ -107,8 +105,9 @@ void DesktopShell::Raise(const std::string& token) {
 }
 
 void DesktopShell::EndSession() {
-  // Not in the middle of a view's unloading, whose wait lets events run.
-  if (To.Events.IsWaiting()) {
+  // Not in the middle of a view's unloading, whose wait lets events run, and not inside its file dialog.
+  if (To.FileDialog.IsOpen()) To.FileDialog.CloseFront();
+  if (To.FileDialog.IsOpen() || To.Events.IsWaiting()) {
     QTimer::singleShot(RetryMilliseconds, [this] { EndSession(); });
     return;
   }

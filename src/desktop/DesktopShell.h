@@ -9,6 +9,7 @@
 #include "desktop/FormWindow.h"
 #include "desktop/KeyFilter.h"
 #include "desktop/QtEventPump.h"
+#include "desktop/QtFileDialog.h"
 
 namespace qves {
 
@@ -21,6 +22,7 @@ class DesktopShell : public AppObserver {
     AppWMSpy& WindowMessages;
     DesktopWindows& Windows;
     QtEventPump& Events;
+    QtFileDialog& FileDialog;
   };
 
   explicit DesktopShell(Parts parts) : To(parts) {}

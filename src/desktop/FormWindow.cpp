@@ -29,6 +29,7 @@ void FormWindow::DropForm() {
   if (!Shown) return;
   Shown->RemoveObserver(*this);
   Shown = nullptr;
+  for (const auto& [control, view] : Views) view->Drop();
   Views.clear();
 }
 

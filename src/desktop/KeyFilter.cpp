@@ -32,7 +32,8 @@ KeyFilter::~KeyFilter() {
 }
 
 bool KeyFilter::eventFilter(QObject* watched, QEvent* event) {
-  if (event->type() == QEvent::ShortcutOverride && IsMnemonic(*static_cast<QKeyEvent*>(event))) {
+  if (event->type() == QEvent::ShortcutOverride && IsMnemonic(*static_cast<QKeyEvent*>(event)) &&
+      !To.IsForeign()) {
     // Comes as a key press then, which the calculator sees before the menus do.
     event->accept();
     return true;
@@ -46,9 +47,11 @@ bool KeyFilter::eventFilter(QObject* watched, QEvent* event) {
 
 bool KeyFilter::Press(const QKeyEvent& event) {
   To.SettleMenus();
-  if (To.IsForeignPopup()) return false;
   const KeyEvent key = TranslateKey(CaptureKey(event));
-  if (IsRepetition(event, key.Code) && ActsOnceWhileHeld(key.Code)) return true;
+  const bool isRepetition = IsRepetition(event, key.Code);
+  if (!isRepetition) To.NotePress(key.Code);
+  if (To.IsForeign()) return false;
+  if (isRepetition && ActsOnceWhileHeld(key.Code)) return true;
   const bool used = To.KeyDown(key) || OpensMenu(key);
   To.KeyDone();
   return used;

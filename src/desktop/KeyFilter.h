@@ -14,9 +14,12 @@ class KeyFilter : public QObject {
   struct Receivers {
     std::function<bool(const KeyEvent&)> KeyDown;  ///< true: the key is used, no widget is to see it
     std::function<void(int keyCode)> KeyUp;
-    /// True while a pop-up that is not the calculator's concern has the keyboard (a context menu).
+    /// A key goes down that was up.
+    std::function<void(int keyCode)> NotePress = [](int) {};
     std::function<void()> SettleMenus = [] {};
-    std::function<bool()> IsForeignPopup = [] { return false; };
+    /// True while the keyboard belongs to a window that is not the calculator's concern (a context menu, the
+    /// file dialog).
+    std::function<bool()> IsForeign = [] { return false; };
     /// A press of F10 that the calculator did not use.
     std::function<void()> HighlightFirstMenu = [] {};
     /// A key press has been dealt with.

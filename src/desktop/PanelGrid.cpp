@@ -22,11 +22,12 @@ bool FillsRows(const Control& control) {
   return control.Spec.Kind == ControlKind::Button || control.Spec.Kind == ControlKind::CheckBox;
 }
 
-/// How a control's row grows, in rows of buttons. A box of one line and a list stay as high as their text.
+/// How a control's row grows, in rows of buttons. A box of one line and a list of few items stay as high as
+/// their text.
 int RowWeight(const Control& control) {
   if (FillsRows(control)) return 1;
   if (control.Spec.Kind == ControlKind::Reader) return ReaderWeight;
-  return control.Has(MultiLine) ? TapeWeight : 0;
+  return control.Has(MultiLine) || control.Spec.Kind == ControlKind::ListView ? TapeWeight : 0;
 }
 
 }  // namespace

@@ -14,7 +14,6 @@
 #include "desktop/DesktopShell.h"
 #include "desktop/LateTts.h"
 #include "desktop/Options.h"
-#include "desktop/QtFileDialog.h"
 #include "desktop/SessionEnd.h"
 #include "posix/BaseDirectories.h"
 #include "posix/IniRegistry.h"
@@ -79,7 +78,8 @@ int RunCalculator(const Options& options, QtEventPump& events, LateTts& speech) 
                     registry, clock, events, random,         sounds,  fileDialog, inverseT};
   ServiceSet services(platform);
 
-  DesktopShell shell({services.All.Settings, hints, windowMessages, windows, events});
+  DesktopShell shell({services.All.Settings, hints, windowMessages, windows, events, fileDialog});
+  fileDialog.Speak = [&services](const std::string& text) { services.All.Speech.SpeakText(text); };
   CalculatorApp app(services.All, shell);
   shell.Attach(app);
   if (!app.Main({options.View})) return 0;

@@ -22,21 +22,14 @@ constexpr HelpRow HelpTable[] = {
     {{"frmInv", "lraInv", 1302, 1303}, {"Inv.rtf", "Inv.rtf", "Inv.rtf", "Inv.rtf"}},
 };
 
-/// They only tell where a word may be divided: a voice might name them.
-void DropSoftHyphens(Paragraph& paragraph) {
-  for (TextRun& run : paragraph.Runs) run.Text = ReplaceAll(run.Text, "\u00AD", "");
-}
-
-/// A document that cannot be read is empty.
-ReadingMatter ReadDocument(const std::string& path, FileStore& files) {
+/// A document that cannot be read is empty. Soft hyphens, which only tell where a word may be divided, are
+/// left out: a voice might name them.
+RichText ReadDocument(const std::string& path, FileStore& files) {
   std::string error;
-  ReadingMatter matter{ReadRichText(files.Read(path, error).value_or("")), ""};
-  for (Paragraph& paragraph : matter.Document.Paragraphs) {
-    if (&paragraph != &matter.Document.Paragraphs.front()) matter.Text += '\n';
-    DropSoftHyphens(paragraph);
-    matter.Text += PlainText(paragraph);
-  }
-  return matter;
+  RichText document = ReadRichText(files.Read(path, error).value_or(""));
+  for (Paragraph& paragraph : document.Paragraphs)
+    for (TextRun& run : paragraph.Runs) run.Text = ReplaceAll(run.Text, "\u00AD", "");
+  return document;
 }
 
 }  // namespace

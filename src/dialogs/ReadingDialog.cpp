@@ -28,7 +28,7 @@ ControlSpec MakeOkSpec() {
 
 }  // namespace
 
-ReadingDialog::ReadingDialog(const ReadingDialogSpec& spec, ReadingMatter matter, Services& services,
+ReadingDialog::ReadingDialog(const ReadingDialogSpec& spec, RichText document, Services& services,
                              DialogFrame& frame)
     : Form(std::string(spec.FormName), services.Messages.GetMessage(spec.TitleMessage)),
       SaysHelpFirst(spec.SaysHelpFirst),
@@ -42,8 +42,8 @@ ReadingDialog::ReadingDialog(const ReadingDialogSpec& spec, ReadingMatter matter
   Document = static_cast<Reader*>(&Add(std::make_unique<Reader>(
       ReaderSpec, "", messages.GetMessage(spec.TitleMessage), messages.GetMessage(spec.HelpMessage))));
   Add(std::make_unique<Button>(OkSpec, ok, ok, messages.GetMessage(OkHelpMessage)));
-  Document->Document = std::move(matter.Document);
-  Document->Text = std::move(matter.Text);
+  Document->Document = std::move(document);
+  Document->Text = PlainText(Document->Document);
   Sentences = FindSentences(Document->Text);
 }
 
@@ -191,7 +191,7 @@ void ReadingDialog::SayLine() {
 void ReadingDialog::SayCharacter() {
   const std::string& text = Document->Text;
   const std::size_t at = Document->Caret;
-  if (at >= text.size() || text[at] == '\n' || text[at] == '\r')
+  if (at >= text.size() || text[at] == '\n')
     return Services_.Speech.SpeakText(Services_.Speech.SpeakableChar("\r"));
   const std::size_t next = NextCharacter(text, at);
   Services_.Speech.SpeakText(

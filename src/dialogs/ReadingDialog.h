@@ -21,15 +21,9 @@ struct ReadingDialogSpec {
   bool SaysHelpFirst = false;  ///< the reader's help introduces the document
 };
 
-/// What a dialog shows and reads.
-struct ReadingMatter {
-  RichText Document;
-  std::string Text;  ///< the document's paragraphs, a line each
-};
-
 class ReadingDialog : public Form {
  public:
-  ReadingDialog(const ReadingDialogSpec& spec, ReadingMatter matter, Services& services, DialogFrame& frame);
+  ReadingDialog(const ReadingDialogSpec& spec, RichText document, Services& services, DialogFrame& frame);
 
   void Form_Load() override;
   void Form_Unload() override;

@@ -11,11 +11,8 @@ constexpr ReadingDialogSpec ResultSpec = {"frmStatResult", "lraResult", 1306, 13
 
 std::unique_ptr<Form> MakeResultDialog(Services& services, DialogFrame& frame) {
   std::string error;
-  std::string report = services.Outside.Files.Read(services.FolderLocations.ReportFile(), error).value_or("");
-  RichText document = ReadPlainText(report);
-  if (document.Paragraphs.empty()) report.clear();
-  return std::make_unique<ReadingDialog>(ResultSpec, ReadingMatter{std::move(document), std::move(report)},
-                                         services, frame);
+  const auto report = services.Outside.Files.Read(services.FolderLocations.ReportFile(), error);
+  return std::make_unique<ReadingDialog>(ResultSpec, ReadPlainText(report.value_or("")), services, frame);
 }
 
 }  // namespace qves

@@ -7,7 +7,7 @@
 
 namespace qves {
 
-/// Introduces itself, then reads the report as it stands in its file; without one it is empty.
+/// Introduces itself, then reads the report out of its file; without one it is empty.
 std::unique_ptr<Form> MakeResultDialog(Services& services, DialogFrame& frame);
 
 }  // namespace qves

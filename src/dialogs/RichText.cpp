@@ -53,4 +53,11 @@ std::string PlainText(const Paragraph& paragraph) {
   return text;
 }
 
+std::string PlainText(const RichText& document) {
+  std::string text;
+  for (const Paragraph& paragraph : document.Paragraphs)
+    text += (&paragraph == &document.Paragraphs.front() ? "" : "\n") + PlainText(paragraph);
+  return text;
+}
+
 }  // namespace qves

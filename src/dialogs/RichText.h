@@ -18,7 +18,8 @@ RichText ReadRichText(std::string_view source);
 /// gives nothing.
 RichText ReadPlainText(std::string_view source);
 
-/// The text of a paragraph without its looks.
+/// The text of a paragraph, or of a document with a line for each, without its looks.
 std::string PlainText(const Paragraph& paragraph);
+std::string PlainText(const RichText& document);
 
 }  // namespace qves

@@ -17,11 +17,10 @@ struct TextSpan {
 /// blank follows, and at the end of a line; blank stretches are none.
 std::vector<TextSpan> FindSentences(std::string_view text);
 
-/// The line around that byte, without its end. A line ends with LF or CR LF.
+/// The line around that byte, without its end.
 TextSpan LineAround(std::string_view text, std::size_t at);
 
-/// The byte at which the next or the one before of the characters (UTF-8) begins; the same at the ends. CR LF
-/// is one character.
+/// The byte at which the next or the one before of the characters (UTF-8) begins; the same at the ends.
 std::size_t NextCharacter(std::string_view text, std::size_t at);
 std::size_t PreviousCharacter(std::string_view text, std::size_t at);
 

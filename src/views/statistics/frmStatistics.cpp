@@ -59,8 +59,9 @@ frmStatistics::frmStatistics(Services& services, ViewFrame& frame)
 std::string frmStatistics::Announcement(const Control& control) {
   const auto* list = dynamic_cast<const ListView*>(&control);
   if (!list) return View::Announcement(control);
-  if (list->ItemCount() > 0) return list->SpokenName + ", " + ChosenWords(*list);
-  return list->SpokenName + "," + Services_.Messages.GetMessage(EmptyMessages[list == Lists[1]]);
+  return list->SpokenName + ", " +
+         (list->ItemCount() > 0 ? ChosenWords(*list)
+                                : Services_.Messages.GetMessage(EmptyMessages[list == Lists[1]]));
 }
 
 /// The item, and its place in the list where the user wants to hear that.
