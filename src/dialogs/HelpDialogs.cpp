@@ -3,6 +3,7 @@
 #include <array>
 
 #include "dialogs/RichText.h"
+#include "dialogs/Sentences.h"
 #include "services/Text.h"
 
 namespace qves {
@@ -22,11 +23,19 @@ constexpr HelpRow HelpTable[] = {
     {{"frmInv", "lraInv", 1302, 1303}, {"Inv.rtf", "Inv.rtf", "Inv.rtf", "Inv.rtf"}},
 };
 
+/// Cuts off what is beyond any help document: a window would be busy with it for minutes.
+void CutShort(std::string& source) {
+  constexpr std::size_t largest = 4'000'000;
+  if (source.size() > largest) source.resize(PreviousCharacter(source, largest + 1));
+}
+
 /// A document that cannot be read is empty. Soft hyphens, which only tell where a word may be divided, are
 /// left out: a voice might name them.
 RichText ReadDocument(const std::string& path, FileStore& files) {
   std::string error;
-  RichText document = ReadRichText(files.Read(path, error).value_or(""));
+  std::string source = files.Read(path, error).value_or("");
+  CutShort(source);
+  RichText document = ReadRichText(source);
   for (Paragraph& paragraph : document.Paragraphs)
     for (TextRun& run : paragraph.Runs) run.Text = ReplaceAll(run.Text, "\u00AD", "");
   return document;

@@ -73,6 +73,8 @@ void ReadingDialog::ReadOn(bool queued) {
   std::vector<BookMark> marks;
   for (std::size_t i = Sentence + 1; i < Sentences.size(); ++i)
     marks.push_back({Sentences[i].Start - start, static_cast<std::int32_t>(i)});
+  // One at the end, which moves nothing: it tells a reading from other texts where a single sentence is left.
+  marks.push_back({Document->Text.size() - start, static_cast<std::int32_t>(Sentences.size())});
   ShowSentence();
   Services_.Speech.ReadAloud(std::string_view(Document->Text).substr(start), marks, queued);
 }
@@ -150,7 +152,7 @@ bool ReadingDialog::MoveCaret(int keyCode) {
       caret = line.Start;
       break;
     case KeyEnd:
-      caret = PreviousCharacter(text, line.Start + line.Length);
+      caret = line.Length == 0 ? line.Start : PreviousCharacter(text, line.Start + line.Length);
       break;
     case KeyUp:
     case qves::KeyDown:

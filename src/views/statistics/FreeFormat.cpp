@@ -21,14 +21,14 @@ class FreeFormatReader {
     if (Rest.starts_with(ByteOrderMark)) Rest.remove_prefix(ByteOrderMark.size());
   }
 
-  /// The next field, "" for an empty one between two commas; nothing at the end.
+  /// The next field, "" for an empty one before a comma; nothing at the end.
   std::optional<std::string_view> NextField() {
     for (SkipGap(); Rest.starts_with(','); SkipGap()) {
       Take(1);
-      if (std::exchange(HadComma, true)) return "";
+      if (!std::exchange(AfterField, false)) return "";
     }
     if (Rest.empty()) return std::nullopt;
-    HadComma = false;
+    AfterField = true;
     return Rest.front() == '"' ? TakeQuoted() : Take(Rest.find_first_of(FieldEnds));
   }
 
@@ -45,7 +45,10 @@ class FreeFormatReader {
   void SkipGap() {
     const std::string_view gap = Take(std::min(Rest.find_first_not_of(Gaps), Rest.size()));
     for (std::size_t i = 0; i < gap.size(); ++i)
-      if (LineEnds.find(gap[i]) != std::string_view::npos && !gap.substr(i).starts_with(LineEnds)) ++Line;
+      if (LineEnds.find(gap[i]) != std::string_view::npos && !gap.substr(i).starts_with(LineEnds)) {
+        ++Line;
+        AfterField = false;
+      }
   }
 
   /// What stands between the quotes: nothing, a quote that is never closed, or one that something follows
@@ -60,7 +63,7 @@ class FreeFormatReader {
   }
 
   std::string_view Rest;
-  bool HadComma = false;  ///< a comma, and no field since
+  bool AfterField = false;  ///< a comma would only end the field before it
 };
 
 /// The value of a field; nothing when it has none.
