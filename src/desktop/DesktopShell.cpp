@@ -94,7 +94,7 @@ void DesktopShell::CloseWindow(FormWindow& window) {
 }
 
 void DesktopShell::Raise(const std::string& token) {
-  FormWindow* window = TopWindow();
+  QWidget* window = To.FileDialog.IsOpen() ? QApplication::activeModalWidget() : TopWindow();
   if (!window) return;
   if (!token.empty()) qputenv("XDG_ACTIVATION_TOKEN", QByteArray::fromStdString(token));
   window->setWindowState(window->windowState() & ~Qt::WindowMinimized);

@@ -5,24 +5,35 @@ namespace qves {
 ListItems::ListItems(const ListControl& list, QObject* parent)
     : QAbstractListModel(parent), List(&list), Rows(list.ItemCount()) {}
 
+int ListItems::ItemOf(int row) const {
+  if (row < Pending.From) return row;
+  if (row < Pending.From + Pending.Removed) return NoItem;
+  return row - Pending.Removed + Pending.Added;
+}
+
 /// The texts of some lists begin with a blank, which is for the ear.
 QVariant ListItems::data(const QModelIndex& index, int role) const {
-  const bool isThere = List && index.isValid() && index.row() < List->ItemCount();
-  if (role != Qt::DisplayRole || !isThere) return {};
-  return QString::fromStdString(List->ItemText(index.row())).trimmed();
+  if (role != Qt::DisplayRole || !List || !index.isValid()) return {};
+  const int item = ItemOf(index.row());
+  if (item == NoItem || item >= List->ItemCount()) return {};
+  return QString::fromStdString(List->ItemText(item)).trimmed();
 }
 
 void ListItems::Change(int from, int removed, int added) {
+  Pending = {from, removed, added};
   if (removed > 0) {
     beginRemoveRows({}, from, from + removed - 1);
     Rows -= removed;
+    Pending.Removed = 0;
     endRemoveRows();
   }
   if (added > 0) {
     beginInsertRows({}, from, from + added - 1);
     Rows += added;
+    Pending.Added = 0;
     endInsertRows();
   }
+  Pending = {};
 }
 
 void ListItems::Drop() {

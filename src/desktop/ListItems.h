@@ -22,8 +22,18 @@ class ListItems : public QAbstractListModel {
   void Drop();
 
  private:
+  struct ListChange {
+    int From = 0;
+    int Removed = 0;
+    int Added = 0;
+  };
+
+  /// Where the list has the row now; NoItem: it has gone.
+  int ItemOf(int row) const;
+
   const ListControl* List;
-  int Rows;  ///< as the toolkit knows them: it hears of a change after the list has changed
+  int Rows;            ///< as the toolkit knows them: it hears of a change after the list has changed
+  ListChange Pending;  ///< what the toolkit has not yet heard of
 };
 
 /// A selection that only the form changes. What others want to select, an accessibility client with the

@@ -11,7 +11,7 @@ namespace qves {
 namespace {
 
 constexpr int CaptionMargin = 2;  // pixels above and below the caption
-constexpr int SmallestColumns = 8;
+constexpr int SmallestColumns = 12;
 constexpr int SmallestLines = 3;
 constexpr int Columns = 22;  // the longest number
 constexpr int Lines = 6;
@@ -36,6 +36,7 @@ ListWidget::ListWidget(ListControl& list, ControlHost& host, QWidget* parent)
   setFrameStyle(QFrame::Box | QFrame::Plain);
   setLineWidth(OutlineWidth);
   NameForScreenReader(*this, list);
+  MakeRoomForCaption();
 }
 
 void ListWidget::Refresh() {
@@ -50,7 +51,12 @@ void ListWidget::ItemsChanged(int from, int removed, int added) {
   Selection->Show(Model.ListIndex);
 }
 
-void ListWidget::Restyle() {
+void ListWidget::changeEvent(QEvent* event) {
+  QListView::changeEvent(event);
+  if (event->type() == QEvent::FontChange) MakeRoomForCaption();
+}
+
+void ListWidget::MakeRoomForCaption() {
   setViewportMargins(0, QFontMetrics(CaptionFont()).height() + 2 * CaptionMargin, 0, 0);
 }
 
@@ -125,7 +131,6 @@ ListViewWidget::ListViewWidget(ListView& list, ControlHost& host, const AppSetti
 
 void ListViewWidget::Restyle() {
   ApplyAppearance(*this, TextRole::Tape, Settings);
-  ListWidget::Restyle();
 }
 
 QSize ListViewWidget::SizeOfText(int columns, int lines) const {

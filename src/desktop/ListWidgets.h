@@ -15,12 +15,12 @@ class ListWidget : public QListView, public ControlView {
   QWidget& Widget() override { return *this; }
   void Refresh() override;
   void ItemsChanged(int from, int removed, int added) override;
-  void Restyle() override;
   void Drop() override { Items->Drop(); }
 
  protected:
-  /// The room for so many lines of text of that width, with all that is around them.
+  /// The list's size with so much room for the items.
   QSize SizeOf(int width, int height) const;
+  void changeEvent(QEvent* event) override;
   bool event(QEvent* event) override;
   void focusInEvent(QFocusEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
@@ -33,6 +33,7 @@ class ListWidget : public QListView, public ControlView {
 
  private:
   QFont CaptionFont() const;
+  void MakeRoomForCaption();
   void PaintCaption();
 
   ListControl& Model;

@@ -4,6 +4,7 @@
 #include <QAccessible>
 #include <QApplication>
 #include <QFileDialog>
+#include <QMessageBox>
 #include <utility>
 
 namespace qves {
@@ -28,12 +29,22 @@ QString ExistingFolder(const std::string& folder) {
 }
 
 /// What a screen reader would say of the widget: its name, and what it shows or has chosen.
-QString WordsFor(QWidget& widget) {
+QStringList WordsFor(QWidget& widget) {
   QAccessibleInterface* read = QAccessible::queryAccessibleInterface(&widget);
   if (!read) return {};
   QStringList words{read->text(QAccessible::Name), read->text(QAccessible::Value)};
   if (const auto* view = qobject_cast<QAbstractItemView*>(&widget))
     words << view->currentIndex().data().toString();
+  return words;
+}
+
+/// And of a window that comes to the front.
+QStringList WordsForWindow(const QWidget& window) {
+  const auto* message = qobject_cast<const QMessageBox*>(&window);
+  return {window.windowTitle(), message ? message->text() : QString()};
+}
+
+QString Sentence(QStringList words) {
   words.removeAll(QString());
   words.removeDuplicates();
   return words.join(", ");
@@ -46,10 +57,10 @@ std::string QtFileDialog::Show(const FileDialogSpec& spec) {
   QFileDialog dialog(Owner(), QString::fromStdString(spec.Title), ExistingFolder(spec.InitialFolder));
   // The toolkit's own widgets, which every screen reader can read, and which change no file.
   dialog.setOptions(QFileDialog::DontUseNativeDialog | QFileDialog::ReadOnly);
+  dialog.setViewMode(QFileDialog::List);
   dialog.setFileMode(QFileDialog::ExistingFile);
   dialog.setNameFilters(NameFilters(spec.Filter));
   dialog.setDefaultSuffix(QString::fromStdString(spec.DefaultExtension));
-  dialog.setWindowModality(Qt::WindowModal);
   Dialog = &dialog;
   SpeakMoves();
   const bool isChosen = dialog.exec() == QDialog::Accepted;
@@ -58,17 +69,18 @@ std::string QtFileDialog::Show(const FileDialogSpec& spec) {
 }
 
 void QtFileDialog::SpeakMoves() {
-  const auto speak = [this](const QString& words) {
-    if (!words.isEmpty()) Speak(words.toStdString());
+  const auto speak = [this](const QStringList& words) {
+    if (const QString all = Sentence(words); !all.isEmpty()) Speak(all.toStdString());
   };
+  const QWidget* before = nullptr;
   QObject::connect(qApp, &QApplication::focusChanged, Dialog,
-                   [speak, title = Dialog->windowTitle()](QWidget*, QWidget* now) mutable {
-                     if (!now) return;
-                     const QString opening = std::exchange(title, QString());
-                     speak(opening.isEmpty() ? WordsFor(*now) : opening + ". " + WordsFor(*now));
+                   [this, speak, before](QWidget*, QWidget* now) mutable {
+                     if (!now || !Dialog || !Dialog->isVisible()) return;
+                     const bool isSameWindow = std::exchange(before, now->window()) == now->window();
+                     speak((isSameWindow ? QStringList() : WordsForWindow(*now->window())) + WordsFor(*now));
                    });
   QObject::connect(Dialog, &QFileDialog::currentChanged,
-                   [speak](const QString& path) { speak(QFileInfo(path).fileName()); });
+                   [speak](const QString& path) { speak({QFileInfo(path).fileName()}); });
 }
 
 void QtFileDialog::CloseFront() {

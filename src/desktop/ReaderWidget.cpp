@@ -1,6 +1,7 @@
 #include "desktop/ReaderWidget.h"
 
 #include <QKeyEvent>
+#include <QScrollBar>
 #include <QTextBlock>
 #include <QTextList>
 
@@ -32,11 +33,28 @@ QTextCharFormat FormatOf(const TextStyle& style, const QFont& usual, bool ownCol
   return format;
 }
 
+/// What has longer words is no writing, and the toolkit would look for their ends for minutes.
+QTextOption::WrapMode WrapFor(std::string_view text) {
+  constexpr std::size_t longestWord = 1000;
+  for (std::size_t start = 0; text.size() - start > longestWord;) {
+    const std::size_t blank = text.substr(start, longestWord).find_last_of(" \t\n");
+    if (blank == std::string_view::npos) return QTextOption::WrapAnywhere;
+    start += blank + 1;
+  }
+  return QTextOption::WrapAtWordBoundaryOrAnywhere;
+}
+
+TextStyle StyleOf(const Paragraph& paragraph) {
+  return paragraph.Runs.empty() ? TextStyle() : paragraph.Runs.front().Style;
+}
+
 QTextBlockFormat FormatOf(const Paragraph& paragraph) {
   QTextBlockFormat format;
   if (paragraph.Bullet) return format;  // a list has an indent of its own
-  format.setLeftMargin(static_cast<double>(paragraph.LeftIndent) / TwipsAPoint);
-  format.setTextIndent(static_cast<double>(paragraph.FirstIndent) / TwipsAPoint);
+  if (paragraph.LeftIndent != 0)
+    format.setLeftMargin(static_cast<double>(paragraph.LeftIndent) / TwipsAPoint);
+  if (paragraph.FirstIndent != 0)
+    format.setTextIndent(static_cast<double>(paragraph.FirstIndent) / TwipsAPoint);
   return format;
 }
 
@@ -50,6 +68,7 @@ ReaderView::ReaderView(Reader& reader, ControlHost& host, const AppSettings& set
   setContextMenuPolicy(Qt::NoContextMenu);
   setFrameStyle(QFrame::Box | QFrame::Plain);
   setLineWidth(OutlineWidth);
+  setCursorWidth(OutlineWidth);
   NameForScreenReader(*this, reader);
 }
 
@@ -58,20 +77,38 @@ void ReaderView::Restyle() {
   ShowDocument();
 }
 
-/// Bullets are marks of the list format, not of the text: places in the text stay those of the form's.
+/// The whole text at once and then its looks, where they are any: a long plain text costs little. Bullets are
+/// marks of the list format, not of the text: places in the text stay those of the form's.
 void ReaderView::ShowDocument() {
-  clear();
+  setWordWrapMode(WrapFor(Model.Text));
+  setPlainText(FromUtf8(Model.Text));
   QTextCursor cursor(document());
   cursor.beginEditBlock();
-  bool isFirst = true;
   for (const Paragraph& paragraph : Model.Document.Paragraphs) {
-    if (!std::exchange(isFirst, false)) cursor.insertBlock();
-    cursor.setBlockFormat(FormatOf(paragraph));
-    for (const TextRun& run : paragraph.Runs)
-      cursor.insertText(FromUtf8(run.Text), FormatOf(run.Style, font(), !Settings.HostFileFound));
-    if (paragraph.Bullet) cursor.createList(QTextListFormat::ListDisc);
+    ApplyLooks(cursor, paragraph);
+    cursor.setPosition(cursor.position() + 1);  // beyond the paragraph's end
   }
   cursor.endEditBlock();
+}
+
+/// From the cursor on; it ends behind the paragraph's last character.
+void ReaderView::ApplyLooks(QTextCursor& cursor, const Paragraph& paragraph) const {
+  const auto formatOf = [this](const TextStyle& style) {
+    return FormatOf(style, font(), !Settings.HostFileFound);
+  };
+  if (const QTextBlockFormat format = FormatOf(paragraph); format != QTextBlockFormat())
+    cursor.setBlockFormat(format);
+  // A bullet's size is the block's own.
+  if (paragraph.Bullet) {
+    cursor.setBlockCharFormat(formatOf(StyleOf(paragraph)));
+    cursor.createList(QTextListFormat::ListDisc);
+  }
+  for (const TextRun& run : paragraph.Runs) {
+    const int end = cursor.position() + static_cast<int>(FromUtf8(run.Text).size());
+    cursor.setPosition(end, QTextCursor::KeepAnchor);
+    if (run.Style != TextStyle()) cursor.setCharFormat(formatOf(run.Style));
+    cursor.setPosition(end);
+  }
 }
 
 QTextCursor ReaderView::CursorAt(std::size_t start, std::size_t length) const {
@@ -97,8 +134,14 @@ void ReaderView::Refresh() {
   }
   setExtraSelections(spoken);
   // Its end first, then its start: a long sentence shows from its beginning.
-  setTextCursor(CursorAt(Model.Caret + Model.SpokenLength, 0));
+  ScrollDownTo(CursorAt(Model.Caret + Model.SpokenLength, 0));
   setTextCursor(CursorAt(Model.Caret, 0));
+}
+
+/// The caret stays, as a screen reader is told of each of its moves.
+void ReaderView::ScrollDownTo(const QTextCursor& place) {
+  const int below = cursorRect(place).bottom() - viewport()->height();
+  if (below > 0) verticalScrollBar()->setValue(verticalScrollBar()->value() + below);
 }
 
 QSize ReaderView::SizeOf(int columns, int lines) const {

@@ -25,6 +25,8 @@ class ReaderView : public QTextEdit, public ControlView {
 
  private:
   void ShowDocument();
+  void ApplyLooks(QTextCursor& cursor, const Paragraph& paragraph) const;
+  void ScrollDownTo(const QTextCursor& place);
   QTextCursor CursorAt(std::size_t start, std::size_t length) const;
   QSize SizeOf(int columns, int lines) const;
 

@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QSessionManager>
+#include <QSettings>
 #include <algorithm>
 #include <cerrno>
 #include <csignal>
@@ -72,6 +73,9 @@ int RunCalculator(const Options& options, QtEventPump& events, LateTts& speech) 
   DesktopWindows windows(options.Home.empty() ? RuntimeFolder() : directories.Home(),
                          QGuiApplication::platformName() == "xcb");
   ModuleSounds sounds(events);
+  // Where the toolkit's file dialog keeps its own state.
+  QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope,
+                     QString::fromStdString(directories.ConfigFolder()));
   QtFileDialog fileDialog;
   InverseT inverseT;
   Platform platform{speech,   keys,  hints,  windowMessages, windows, files,      directories,

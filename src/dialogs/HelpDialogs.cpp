@@ -23,19 +23,25 @@ constexpr HelpRow HelpTable[] = {
     {{"frmInv", "lraInv", 1302, 1303}, {"Inv.rtf", "Inv.rtf", "Inv.rtf", "Inv.rtf"}},
 };
 
-/// Cuts off what is beyond any help document: a window would be busy with it for minutes.
-void CutShort(std::string& source) {
-  constexpr std::size_t largest = 4'000'000;
-  if (source.size() > largest) source.resize(PreviousCharacter(source, largest + 1));
+// A window would be busy with a longer one for too long.
+constexpr std::size_t LongestDocument = 16'000'000;
+
+/// The bytes of the document; what is wrong with them is logged.
+std::string ReadSource(const std::string& path, Services& services) {
+  std::string error;
+  std::string source = services.Outside.Files.Read(path, error).value_or("");
+  if (source.empty())
+    error = (error.empty() ? "it is empty" : error) + "; an empty document is shown";
+  else if (source.size() > LongestDocument)
+    error = "it is too long; its beginning is shown";
+  if (!error.empty()) services.Log.WriteErrorLog(DocumentErrorCode, path + ": " + error);
+  if (source.size() > LongestDocument) source.resize(PreviousCharacter(source, LongestDocument + 1));
+  return source;
 }
 
-/// A document that cannot be read is empty. Soft hyphens, which only tell where a word may be divided, are
-/// left out: a voice might name them.
-RichText ReadDocument(const std::string& path, FileStore& files) {
-  std::string error;
-  std::string source = files.Read(path, error).value_or("");
-  CutShort(source);
-  RichText document = ReadRichText(source);
+/// Soft hyphens, which only tell where a word may be divided, are left out: a voice might name them.
+RichText ReadDocument(const std::string& path, Services& services) {
+  RichText document = ReadRichText(ReadSource(path, services));
   for (Paragraph& paragraph : document.Paragraphs)
     for (TextRun& run : paragraph.Runs) run.Text = ReplaceAll(run.Text, "\u00AD", "");
   return document;
@@ -48,8 +54,7 @@ std::unique_ptr<Form> MakeHelpDialog(HelpDialog which, int calcView, Services& s
   const std::string folder = services.Outside.Directories.ProgramFolder();
   const std::string_view document = row.Documents[static_cast<std::size_t>(calcView)];
   return std::make_unique<ReadingDialog>(
-      row.Dialog, ReadDocument(folder + "/" + std::string(document), services.Outside.Files), services,
-      frame);
+      row.Dialog, ReadDocument(folder + "/" + std::string(document), services), services, frame);
 }
 
 }  // namespace qves

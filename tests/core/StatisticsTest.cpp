@@ -163,12 +163,12 @@ TEST_F(StatisticsViewTest, AFullListTakesNothingMore) {
 }
 
 TEST_F(StatisticsViewTest, TheFileDialogIsAskedInTheUsersFolder) {
-  Import("1 2 x");
+  Import("1 2 x\x01\xFFy");
   const FileDialogSpec& asked = Outside.FileDialog.Asked;
   EXPECT_EQ(asked.DefaultExtension, "txt");
   EXPECT_EQ(asked.InitialFolder, "/home/anna/Documents/QVES");
   EXPECT_EQ(Points(), 2);
-  EXPECT_NE(Outside.ErrorLog().find("\"x\" is no number"), std::string::npos) << Outside.ErrorLog();
+  EXPECT_NE(Outside.ErrorLog().find("\"x??y\" is no number"), std::string::npos) << Outside.ErrorLog();
   Outside.FileDialog.Answer = "/missing.txt";
   App.ActiveForm()->ChooseMenu(302);
   EXPECT_EQ(Points(), 2);

@@ -2,7 +2,7 @@
 #include <QAccessibleTableInterface>
 #include <QApplication>
 #include <QCheckBox>
-#include <QListWidget>
+#include <QListView>
 
 #include "WindowFixture.h"
 
@@ -15,19 +15,19 @@ using testing::IsEmpty;
 class ChoiceWidgetsTest : public WindowFixture {
  protected:
   QCheckBox& Box() { return Find<QCheckBox>("cbInv"); }
-  QListWidget& List() { return Find<QListWidget>("lltMode"); }
+  QListView& List() { return Find<QListView>("lltMode"); }
   /// The rows that the list shows as selected; the current one must be the same.
   std::vector<int> SelectedRows() {
     std::vector<int> rows;
     for (const QModelIndex& index : List().selectionModel()->selectedRows()) rows.push_back(index.row());
-    EXPECT_THAT(rows, ElementsAre(List().currentRow()));
+    EXPECT_THAT(rows, ElementsAre(List().currentIndex().row()));
     return rows;
   }
   void ClickItem(int row, Qt::MouseButton button = Qt::LeftButton) {
-    const QPoint at = List().visualItemRect(List().item(row)).center();
-    QTest::mouseClick(List().viewport(), button, Qt::NoModifier, at);
+    QTest::mouseClick(List().viewport(), button, Qt::NoModifier, RectOf(row).center());
     Settle();
   }
+  QRect RectOf(int row) { return List().visualRect(List().model()->index(row, 0)); }
   void GoTo(std::string_view name) {
     Shown.FocusByUser(*Shown.Find(name));
     Shown.Take();
@@ -78,11 +78,10 @@ TEST_F(ChoiceWidgetsTest, ClickOnAnItemFocusesAndChoosesOnce) {
 }
 
 TEST_F(ChoiceWidgetsTest, SweepChoosesWhereItEnds) {
-  const auto centre = [&](int row) { return List().visualItemRect(List().item(row)).center(); };
-  QTest::mousePress(List().viewport(), Qt::LeftButton, Qt::NoModifier, centre(1));
-  QTest::mouseMove(List().viewport(), centre(2));
+  QTest::mousePress(List().viewport(), Qt::LeftButton, Qt::NoModifier, RectOf(1).center());
+  QTest::mouseMove(List().viewport(), RectOf(2).center());
   EXPECT_THAT(SelectedRows(), ElementsAre(0));
-  QTest::mouseRelease(List().viewport(), Qt::LeftButton, Qt::NoModifier, centre(2));
+  QTest::mouseRelease(List().viewport(), Qt::LeftButton, Qt::NoModifier, RectOf(2).center());
   EXPECT_THAT(Shown.Take(), ElementsAre("focus lltMode", "choose lltMode Grads"));
 }
 
@@ -168,14 +167,14 @@ TEST_F(ChoiceWidgetsTest, WidgetsOutliveTheirForm) {
   Window.ShowForm(*gone);
   Settle();
   auto& box = Find<QCheckBox>("cbInv", *gone);
-  auto& list = Find<QListWidget>("lltMode", *gone);
+  auto& list = Find<QListView>("lltMode", *gone);
   const auto use = [&] {
     QTest::mouseClick(&box, Qt::LeftButton);
     QTest::mouseClick(list.viewport(), Qt::LeftButton);
     Read(list).tableInterface()->selectRow(1);
     list.setFocus();
     EXPECT_FALSE(box.isChecked());
-    EXPECT_EQ(list.currentRow(), 0);
+    EXPECT_EQ(list.model()->rowCount(), 0);
   };
   Window.DropForm();
   gone.reset();
@@ -195,9 +194,10 @@ TEST_F(ChoiceWidgetsTest, LargeFontsFit) {
   QApplication::setFont(large);
   Window.adjustSize();
   Settle();
-  const QRect last = List().visualItemRect(List().item(List().count() - 1));
+  const QRect last = RectOf(List().model()->rowCount() - 1);
   EXPECT_TRUE(List().viewport()->rect().contains(last));
   EXPECT_GE(last.height(), QFontMetrics(large).height());
+  EXPECT_GE(List().viewport()->y(), QFontMetrics(large).height());  // the caption
   EXPECT_GE(Find<QLineEdit>("txtDisplay").fontMetrics().height(), 2 * lineOfDisplay - 2);
   EXPECT_GT(Find<QPushButton>("cmdA").minimumSizeHint().width(), widthOfButtons);
   QApplication::setFont(usual);

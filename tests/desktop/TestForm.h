@@ -8,6 +8,17 @@
 
 namespace qves {
 
+/// Counts what is read of it.
+class CountingList : public ListView {
+ public:
+  using ListView::ListView;
+  const std::string& ItemText(int item) const override {
+    ++Read;
+    return ListView::ItemText(item);
+  }
+  mutable int Read = 0;
+};
+
 class TestForm : public Form {
  public:
   explicit TestForm(const std::string& title = "Test") : Form("frmTest", title) {
@@ -21,6 +32,7 @@ class TestForm : public Form {
         {.Name = "cmdEqual", .Cell = {7, 0, 0}, .Traits = DefaultButton},  // of a panel without a place
         {.Name = "cbInv", .Kind = ControlKind::CheckBox, .Cell = {1, 1, 1}},
         {.Name = "lltMode", .Kind = ControlKind::ListBox, .Cell = {1, 2, 0, 1, 2}},
+        {.Name = "lvwData", .Kind = ControlKind::ListView, .Cell = {1, 3, 0, 1, 2}},
     };
     for (const ControlSpec& spec : specs) Make(spec);
     Find("cmdOff")->Enabled = false;
@@ -37,6 +49,10 @@ class TestForm : public Form {
   ListBox& Mode() { return static_cast<ListBox&>(*Find("lltMode")); }
   void Check(bool checked) { SetChecked(Inv(), checked); }
   void Place(int item) { PlaceChoice(Mode(), item); }
+  CountingList& Data() { return static_cast<CountingList&>(*Find("lvwData")); }
+  void AddItems(const std::vector<std::string>& items) { AppendItems(Data(), items); }
+  void Remove(int from, int count) { RemoveItems(Data(), from, count); }
+  void PlaceData(int item) { PlaceChoice(Data(), item); }
   void Enable(std::string_view name, bool enabled) { SetEnabled(*Find(name), enabled); }
   /// What happened since the last call.
   std::vector<std::string> Take() { return std::exchange(Log, {}); }
@@ -55,6 +71,8 @@ class TestForm : public Form {
     else if (spec.Kind == ControlKind::ListBox)
       control = std::make_unique<ListBox>(
           spec, "", spoken, help, std::vector<ListItem>{{" Degrees", ""}, {" Radians", ""}, {" Grads", ""}});
+    else if (spec.Kind == ControlKind::ListView)
+      control = std::make_unique<CountingList>(spec, "", spoken, help);
     else
       control = std::make_unique<Button>(spec, caption, spoken, help);
     control->Speaking.Quiescent = false;
@@ -66,7 +84,8 @@ class TestForm : public Form {
     if (control.Name() == "txtDisplay") Select("txtDisplay");
   }
   void OnChoose(ListControl& list) override {
-    Log.push_back("choose " + std::string(list.Name()) + list.ItemText(list.ListIndex));
+    const std::string& text = list.ItemText(list.ListIndex);
+    Log.push_back("choose " + std::string(list.Name()) + (text.starts_with(' ') ? "" : " ") + text);
   }
   void OnGotFocus(Control& control) override {
     Log.push_back("focus " + std::string(control.Name()));

@@ -10,6 +10,7 @@
 #include "TestForm.h"
 #include "desktop/FormWindow.h"
 #include "desktop/KeyFilter.h"
+#include "desktop/QtFileDialog.h"
 
 namespace qves {
 
@@ -43,10 +44,12 @@ class WindowFixture : public testing::Test {
   HintNotify Hints;
   TestForm Shown;
   FormWindow Window{Settings, Hints};
+  QtFileDialog FileDialog;
   bool MenuHasKeys = false;
   KeyFilter Keys{KeyFilter::Receivers{
       .KeyDown = [this](const KeyEvent& event) { return !MenuHasKeys && Window.ShownForm()->KeyDown(event); },
       .KeyUp = [](int) {},
+      .IsForeign = [this] { return FileDialog.IsOpen(); },
       .HighlightFirstMenu = [this] { Window.Menus()->HighlightFirst(); },
       .KeyDone = [this] { Window.SettleFocus(); },
       .OpenMenu = [this](int letter) { return Window.Menus()->OpenMenu(letter); },

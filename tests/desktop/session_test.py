@@ -11,129 +11,22 @@ import sys
 import tempfile
 import time
 import unittest
-from pathlib import Path
 
-TOOLS = ["xvfb-run", "Xvfb", "dbus-run-session", "openbox", "xdotool", "xprop", "setxkbmap"]
-INSIDE = "QVES_SESSION_TEST"
-PATIENCE = 10.0  # seconds; what is waited for comes within fractions of one
+sys.dont_write_bytecode = True
+from rig import PATIENCE, Calculator, enter_session, keys, start_manager, wait_for, xdotool  # noqa: E402
 
-PROGRAM = os.path.abspath(sys.argv[1]) if len(sys.argv) > 1 else ""
-
-
-def enter_session():
-    """Replaces this process by one inside a display and a bus, or ends it where that cannot be had."""
-    missing = [tool for tool in TOOLS if not shutil.which(tool)]
-    if subprocess.run([sys.executable, "-c", "import pyatspi"], stderr=subprocess.DEVNULL).returncode:
-        missing.append("pyatspi")
-    if missing:
-        print("skipped, not installed:", *missing)
-        sys.exit(77)
-    os.environ[INSIDE] = "1"
-    command = ["xvfb-run", "-a", "-s", "-screen 0 1280x900x24 -noreset", "dbus-run-session", "--", sys.executable]
-    os.execvp(command[0], command + [os.path.abspath(__file__), PROGRAM])
-
-
-if __name__ == "__main__" and INSIDE not in os.environ:
-    enter_session()
+if __name__ == "__main__":
+    enter_session(tools=["setxkbmap"], modules=["pyatspi"])
 
 import pyatspi  # noqa: E402  (needs the session's bus)
-from gi.repository import GLib  # noqa: E402
 
-
-def wait_for(what, condition, patience=PATIENCE):
-    """The condition's value as soon as it is true; an error of the accessibility bus counts as not yet."""
-    end = time.monotonic() + patience
-    while True:
-        while GLib.MainContext.default().iteration(False):
-            pass
-        try:
-            value = condition()
-        except Exception:  # the tree changes under the reader
-            value = None
-        if value:
-            return value
-        if time.monotonic() > end:
-            raise AssertionError("waited in vain for " + what)
-        time.sleep(0.02)
-
-
-def keys(*names):
-    subprocess.run(["xdotool", "key", "--clearmodifiers", *names], check=True)
-
-
-def xdotool(*arguments):
-    return subprocess.run(["xdotool", *arguments], capture_output=True, text=True).stdout.split()
-
-
-def descendants(node):
-    for child in node:
-        if child is not None:
-            yield child
-            yield from descendants(child)
-
-
-class Calculator:
-    """A running copy with a home folder."""
-
-    def __init__(self, home, *options, environment=None):
-        self.home = Path(home)
-        self.process = subprocess.Popen(
-            [PROGRAM, "--home", str(home), "--speech", "off", *options],
-            env={**os.environ, **(environment or {})}, stderr=subprocess.PIPE, text=True)
-
-    @property
-    def settings(self):
-        return self.home / ".config" / "QVES" / "Settings" / "Calc.ost"
-
-    def window(self):
-        """The window, once it is shown and has the keyboard."""
-        def active():
-            windows = xdotool("search", "--onlyvisible", "--pid", str(self.process.pid))
-            return windows[-1] if windows and xdotool("getactivewindow") == windows[-1:] else None
-        return wait_for("the window", active)
-
-    def tree(self):
-        def application():
-            for node in pyatspi.Registry.getDesktop(0):
-                if node is not None and node.get_process_id() == self.process.pid:
-                    return node
-            return None
-        return wait_for("the program on the accessibility bus", application)
-
-    def nodes(self, role):
-        return [node for node in descendants(self.tree()) if node.getRole() == role]
-
-    def button(self, name):
-        return wait_for("button " + name, lambda: next(
-            node for node in self.nodes(pyatspi.ROLE_PUSH_BUTTON) if node.name == name))
-
-    def display(self):
-        node = self.nodes(pyatspi.ROLE_TEXT)[0]
-        return node.queryText().getText(0, -1)
-
-    def expect_display(self, text):
-        try:
-            wait_for("", lambda: self.display() == text, 4)
-        except AssertionError:
-            raise AssertionError(f"the display shows {self.display()!r}, not {text!r}") from None
-
-    def ended(self):
-        return wait_for("the end of the program", lambda: self.process.poll() is not None) and self.process.returncode
-
-    def kill(self):
-        if self.process.poll() is None:
-            self.process.kill()
-        self.process.wait()
-        self.process.stderr.close()
+PROGRAM = os.path.abspath(sys.argv[1])
 
 
 class SessionTest(unittest.TestCase):
     @classmethod
     def setUpClass(cls):
-        cls.manager = subprocess.Popen(["openbox"], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-        properties = ["xprop", "-root", "_NET_SUPPORTING_WM_CHECK", "_NET_CLIENT_LIST"]
-        wait_for("the window manager", lambda: subprocess.run(
-            properties, capture_output=True, text=True).stdout.count("window id") == 2)
+        cls.manager = start_manager()
 
     @classmethod
     def tearDownClass(cls):
@@ -147,7 +40,7 @@ class SessionTest(unittest.TestCase):
         subprocess.run(["setxkbmap", "us"], check=True)
 
     def start(self, *options, **more):
-        calculator = Calculator(self.home, *options, **more)
+        calculator = Calculator(PROGRAM, self.home, *options, **more)
         self.addCleanup(calculator.kill)
         return calculator
 
@@ -312,6 +205,77 @@ class SessionTest(unittest.TestCase):
         inverse.queryAction().doAction(0)
         wait_for("the mark", lambda: state(inverse, pyatspi.STATE_CHECKED))
 
+    def data_list(self, calculator):
+        """The first list's items, and the chosen one."""
+        items = [(item.name, item.getState().contains(pyatspi.STATE_SELECTED))
+                 for item in calculator.nodes(pyatspi.ROLE_LIST)[0]]
+        return [name for name, _ in items], [name for name, chosen in items if chosen]
+
+    def expect_data(self, calculator, names, chosen):
+        wait_for(f"the points {names}", lambda: self.data_list(calculator) == (names, [chosen]))
+
+    def test_points_and_their_statistics(self):
+        calculator = self.start("--view", "statistics")
+        calculator.window()
+        keys("1", "period", "5", "a", "2", "a", "7", "a", "4", "a")
+        self.expect_data(calculator, ["1.5", "2", "7", "4"], "1.5")
+        lists = calculator.nodes(pyatspi.ROLE_LIST)
+        self.assertEqual([node.name for node in lists], ["Data list", "Data list 2"])
+        keys("ctrl+d", "Down", "Down")
+        self.expect_data(calculator, ["1.5", "2", "7", "4"], "7")
+        keys("r")
+        self.expect_data(calculator, ["1.5", "2", "4"], "4")
+        lists[0][1].queryAction().doAction(0)
+        self.expect_data(calculator, ["1.5", "2", "4"], "2")
+        keys("u")
+        report = wait_for("the report", lambda: next(
+            node for node in calculator.nodes(pyatspi.ROLE_TEXT) if node.name == "Statistics Result"))
+        text = report.queryText().getText(0, -1)
+        for line in ("Count = 3", "Sum = 7.5", "Mean = 2.5", "Median = 2"):
+            self.assertIn(line, text)
+        keys("Escape", "Return", "5")
+        calculator.expect_display("5")
+
+    def open_import(self, calculator):
+        """The keyboard is the file dialog's then."""
+        window = calculator.window()
+        xdotool("key", "--delay", "60", "alt+f", "Return")
+        wait_for("the file dialog", lambda: xdotool("getactivewindow") not in ([], [window]))
+
+    def test_import_through_the_file_dialog(self):
+        calculator = self.start("--view", "statistics")
+        documents = calculator.home / "Documents"
+        documents.mkdir()
+        (documents / "points.txt").write_text("10,20 30\n")
+        window = calculator.window()
+        keys("6", "a", "7")
+        self.open_import(calculator)
+        keys("a", "l", "1", "Control_L", "Caps_Lock", "Caps_Lock")
+        keys("Escape")
+        wait_for("the calculator", lambda: xdotool("getactivewindow") == [window])
+        keys("8")
+        calculator.expect_display("78")
+        self.expect_data(calculator, ["6"], "6")
+        self.open_import(calculator)
+        xdotool("type", "points")
+        keys("Return")
+        self.expect_data(calculator, ["10", "20", "30"], "10")
+        calculator.expect_display("78")
+
+    def test_end_inside_the_file_dialog(self):
+        for name in ("", "nothing.txt"):
+            with self.subTest(name=name):
+                calculator = self.start("--view", "statistics")
+                self.open_import(calculator)
+                if name:  # the message that there is no such file
+                    xdotool("type", name)
+                    keys("Return")
+                    wait_for("the message", lambda: len(
+                        xdotool("search", "--onlyvisible", "--pid", str(calculator.process.pid))) == 3)
+                calculator.process.terminate()
+                self.assertEqual(calculator.ended(), 0)
+                self.assertIn("CalcView", calculator.settings.read_text())
+
     def test_a_screen_reader_hears_of_no_focus_that_comes_back(self):
         calculator = self.start("--view", "scientific")
         calculator.window()
@@ -380,7 +344,7 @@ class SessionTest(unittest.TestCase):
         self.assertEqual(self.start().ended(), 0)
         self.assertEqual(first.window(), window)
         with tempfile.TemporaryDirectory(prefix="qvescalc-test-") as other:
-            elsewhere = Calculator(other)
+            elsewhere = Calculator(PROGRAM, other)
             self.addCleanup(elsewhere.kill)
             elsewhere.window()
         first.process.kill()

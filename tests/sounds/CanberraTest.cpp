@@ -3,9 +3,14 @@
 #include <signal.h>
 #include <sys/stat.h>
 
+#include <filesystem>
 #include <fstream>
 
+#include "FakePlatform.h"
 #include "SpeechRig.h"
+#include "posix/IniRegistry.h"
+#include "posix/PosixFileStore.h"
+#include "services/ServiceSet.h"
 #include "sounds/canberra/CanberraSounds.h"
 
 namespace qves {
@@ -87,6 +92,25 @@ TEST_F(CanberraHeardTest, AServerThatIsStartedAgainIsFound) {
   }));
   Play(SOUND, false);
   EXPECT_TRUE(Played);
+}
+
+TEST_F(CanberraHeardTest, ASoundWhoseFileIsGoneIsReplacedHeardAndAssigned) {
+  FakePlatform fake;
+  PosixFileStore files("", "");
+  IniRegistry registry(files, Desktop.Folder() + "/registry.ini");
+  Platform platform{fake.Speech, fake.Keys,        fake.Hints,      fake.WindowMessages, fake.Windows,
+                    files,       fake.Directories, registry,        fake.TheClock,       fake.Events,
+                    fake.Random, Sounds,           fake.FileDialog, fake.TheSpreadsheet};
+  ServiceSet set(platform);
+  set.All.FolderLocations.SoundsFolder = std::filesystem::path(SOUND).parent_path();
+  set.All.Verbosity.ApplySetting("vrbTopOfList", "2");
+  const std::string key = R"(AppEvents\Schemes\Apps\Quorvane 1000\Q1KListTop\.current)";
+  std::string error;
+  ASSERT_TRUE(registry.Write(key, "", Desktop.Folder() + "/deleted.wav", error)) << error;
+  EXPECT_LT(Server->LoudestOfLast(1s), Loud);
+  EXPECT_EQ(set.All.Sounds.VerbosityAnnounce(TopOfListEntry, true), "");
+  EXPECT_TRUE(ReachedWithin(Pump, 2s, [&] { return Server->LoudestOfLast(2s) > Loud; }));
+  EXPECT_EQ(IniRegistry(files, Desktop.Folder() + "/registry.ini").Read(key, ""), SOUND);
 }
 
 }  // namespace

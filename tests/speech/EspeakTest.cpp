@@ -176,5 +176,25 @@ TEST_F(EspeakHeardTest, ASoundServerThatDiesIsSurvived) {
   EXPECT_TRUE(Idle(6s));
 }
 
+TEST_F(EspeakHeardTest, WhatADyingSoundServerCutsOffIsNotReportedAndTheNextOneIsUsedAtOnce) {
+  if (HasSoundDevice(OwnSoundPlaces())) GTEST_SKIP() << "the sound device stands in for the server";
+  const BookMark marks[] = {{0, 1}, {LongText.size() / 2, 2}};
+  Speaker->SpeakNow(LongText, marks);
+  ASSERT_TRUE(Heard());
+  Sound.Signal(SIGKILL);
+  EXPECT_TRUE(Idle(6s));
+  Pump.ProcessEvents(0);
+  EXPECT_EQ(Listener->Reports, (std::vector<std::string>{"mark 1 of 2", "stopped 2"}));
+  Speaker->SpeakNow("unheard");
+  EXPECT_TRUE(Idle(6s));
+  std::optional<PrivateSound> next;
+  ASSERT_TRUE(ReachedWithin(Pump, 10s, [&] {
+    next.emplace(Desktop);
+    return next->Ready();
+  }));
+  Speaker->SpeakNow("This is heard again.");
+  EXPECT_TRUE(ReachedWithin(Pump, 2s, [&] { return next->LoudestOfLast(300ms) > Loud; }));
+}
+
 }  // namespace
 }  // namespace qves

@@ -96,6 +96,20 @@ TEST_F(SpeechdTest, AServerKilledInMidWordIsReplaced) {
   EXPECT_TRUE(Spoken("once more"));
 }
 
+TEST_F(SpeechdTest, WhoStandsInForADeadServerGoesOnWhereItStopped) {
+  const BookMark marks[] = {{0, 1}, {5, 2}, {10, 3}, {17, 4}};
+  Speaker->SpeakNow("One. Two. Three. Four.", marks);
+  ASSERT_TRUE(Spoken("Two"));
+  ASSERT_TRUE(ReachedWithin(Pump, 2s, [&] { return Listener->Reports.size() == 2; }));
+  Desktop.Environment().Set("SPEECHD_CMD", "/nonexistent/server");
+  Server.Signal(SIGKILL);
+  EXPECT_TRUE(Idle(15s));
+  Pump.ProcessEvents(0);
+  std::erase(Listener->Reports, "list");
+  EXPECT_EQ(Listener->Reports, (std::vector<std::string>{"mark 1 of 2", "mark 2 of 2", "mark 2 of 2",
+                                                         "mark 3 of 2", "mark 4 of 2", "stopped 2"}));
+}
+
 TEST_F(SpeechdTest, AServerThatHangsHoldsNobodyUpAndMayComeBack) {
   Speaker->SpeakNow("before");
   ASSERT_TRUE(Spoken("before"));
