@@ -8,7 +8,7 @@ void NameForScreenReader(QWidget& widget, const Control& control) {
 }
 
 QString CaptionOf(const Control& control) {
-  return QString::fromStdString(control.Caption).replace('&', QLatin1String("&&"));
+  return QString::fromStdString(control.Caption).remove('&');
 }
 
 bool IsPrimaryClick(const QMouseEvent& event, const QWidget& widget) {

@@ -39,7 +39,7 @@ class ControlView {
 
 /// Gives the widget the control's name and help as a screen reader's name and description.
 void NameForScreenReader(QWidget& widget, const Control& control);
-/// The caption for a widget that would take an ampersand for a mnemonic.
+/// The caption without the mark of its mnemonic, which is no key here: all keys belong to the form.
 QString CaptionOf(const Control& control);
 /// Whether the release of a button ends a click on the widget.
 bool IsPrimaryClick(const QMouseEvent& event, const QWidget& widget);

@@ -37,11 +37,10 @@ ReadingDialog::ReadingDialog(const ReadingDialogSpec& spec, RichText document, S
       Services_(services),
       Frame(frame) {
   const MessageStore& messages = services.Messages;
-  // Its mnemonic is no key here: all keys belong to the reading.
-  const std::string ok = ReplaceAll(messages.GetMessage(OkMessage), "&", "");
+  const std::string& ok = messages.GetMessage(OkMessage);
   Document = static_cast<Reader*>(&Add(std::make_unique<Reader>(
       ReaderSpec, "", messages.GetMessage(spec.TitleMessage), messages.GetMessage(spec.HelpMessage))));
-  Add(std::make_unique<Button>(OkSpec, ok, ok, messages.GetMessage(OkHelpMessage)));
+  Add(std::make_unique<Button>(OkSpec, ok, ReplaceAll(ok, "&", ""), messages.GetMessage(OkHelpMessage)));
   Document->Document = std::move(document);
   Document->Text = PlainText(Document->Document);
   Sentences = FindSentences(Document->Text);

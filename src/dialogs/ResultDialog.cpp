@@ -1,6 +1,7 @@
 #include "dialogs/ResultDialog.h"
 
 #include "dialogs/RichText.h"
+#include "services/Text.h"
 
 namespace qves {
 namespace {
@@ -12,7 +13,8 @@ constexpr ReadingDialogSpec ResultSpec = {"frmStatResult", "lraResult", 1306, 13
 std::unique_ptr<Form> MakeResultDialog(Services& services, DialogFrame& frame) {
   std::string error;
   const auto report = services.Outside.Files.Read(services.FolderLocations.ReportFile(), error);
-  return std::make_unique<ReadingDialog>(ResultSpec, ReadPlainText(report.value_or("")), services, frame);
+  const std::string text = MakeReadable(report.value_or(""), "\t\r\n");
+  return std::make_unique<ReadingDialog>(ResultSpec, ReadPlainText(text), services, frame);
 }
 
 }  // namespace qves

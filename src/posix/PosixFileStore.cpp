@@ -24,6 +24,9 @@ bool IsBelow(const std::string& path, const std::string& folder) {
   return !relative.empty() && *relative.begin() != "..";
 }
 
+// No file of the calculator's comes near it; one that is longer would fill the memory.
+constexpr off_t LargestFile = 256 * 1024 * 1024;
+
 class Descriptor {
  public:
   Descriptor(const std::string& path, int flags) : Number(::open(path.c_str(), flags | O_CLOEXEC, 0666)) {}
@@ -79,6 +82,10 @@ std::optional<std::string> PosixFileStore::Read(const std::string& path, std::st
     error = S_ISDIR(status.st_mode) ? "it is a folder" : "it is no plain file";
     return std::nullopt;
   }
+  if (open && status.st_size > LargestFile) {
+    error = "it is too large";
+    return std::nullopt;
+  }
   if (open) content.reserve(static_cast<std::size_t>(status.st_size));
   char buffer[65536];
   for (;;) {
@@ -113,7 +120,7 @@ bool PosixFileStore::Write(const std::string& path, std::string_view content, st
 
 bool PosixFileStore::Append(const std::string& path, std::string_view text, std::string& error) {
   if (!MayWrite(path, error)) return false;
-  const Descriptor file(path, O_WRONLY | O_CREAT | O_APPEND);
+  const Descriptor file(path, O_WRONLY | O_CREAT | O_APPEND | O_NONBLOCK);
   if (file.Number < 0 || !WriteAll(file.Number, text)) return Fail(error);
   Written.push_back(path);
   return true;

@@ -1,7 +1,8 @@
 #include "services/ErrorLog.h"
 
-#include <algorithm>
 #include <iostream>
+
+#include "services/Text.h"
 
 namespace qves {
 
@@ -12,11 +13,10 @@ void ErrorLog::SetFolder(const std::string& temporaryFolder) {
 }
 
 void ErrorLog::WriteErrorLog(int code, std::string_view text) {
-  std::string line = TheClock.LocalDateTime() + "\t" + std::to_string(code) + "\t" + std::string(text);
-  std::replace(line.begin(), line.end(), '\n', ' ');
-  line += '\n';
+  const std::string line = TheClock.LocalDateTime() + "\t" + std::to_string(code) + "\t" +
+                           MakeReadable(ReplaceAll(text, "\n", " ")) + "\n";
   if (Folder.empty())
-    Waiting.push_back(std::move(line));
+    Waiting.push_back(line);
   else
     Append(line);
 }

@@ -20,6 +20,12 @@ std::size_t SequenceLength(std::string_view bytes) {
   return overlong || outside ? 0 : length;
 }
 
+bool IsControl(std::string_view character) {
+  const auto at = [&](std::size_t i) { return static_cast<unsigned char>(character[i]); };
+  if (character.size() == 1) return at(0) < 0x20 || at(0) == 0x7F;
+  return at(0) == 0xC2 && at(1) < 0xA0;
+}
+
 char Lower(char c) {
   return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
 }
@@ -51,6 +57,18 @@ std::string ReplaceAll(std::string_view text, std::string_view from, std::string
   for (std::size_t at; (at = text.find(from)) != std::string_view::npos; text.remove_prefix(at + from.size()))
     out.append(text.substr(0, at)).append(to);
   return out.append(text);
+}
+
+std::string MakeReadable(std::string_view bytes, std::string_view keptControls) {
+  std::string out;
+  while (!bytes.empty()) {
+    const std::size_t length = SequenceLength(bytes);
+    const bool keep = length > 0 && (!IsControl(bytes.substr(0, length)) ||
+                                     keptControls.find(bytes[0]) != std::string_view::npos);
+    keep ? out.append(bytes.substr(0, length)) : out.append(1, '?');
+    bytes.remove_prefix(std::max<std::size_t>(length, 1));
+  }
+  return out;
 }
 
 bool ContainsIgnoringCase(std::string_view text, std::string_view part) {

@@ -17,6 +17,10 @@ void ForEachLine(std::string_view text, const std::function<void(int, std::strin
 /// The text with every occurrence of `from` (not empty) replaced by `to`.
 std::string ReplaceAll(std::string_view text, std::string_view from, std::string_view to);
 
+/// The text with a "?" for every byte that is no well-formed UTF-8 and for every control character but those
+/// kept.
+std::string MakeReadable(std::string_view bytes, std::string_view keptControls = {});
+
 /// True when `text` holds `part`, ASCII letters compared without regard to case.
 bool ContainsIgnoringCase(std::string_view text, std::string_view part);
 

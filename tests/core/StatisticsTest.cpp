@@ -177,13 +177,13 @@ TEST_F(StatisticsViewTest, TheFileDialogIsAskedInTheUsersFolder) {
 
 TEST_F(StatisticsViewTest, AReportThatCannotBeWrittenIsLoggedAndTheDialogOpens) {
   Import("1 2");
-  Outside.Files.Content["/home/anna/Documents/QVES/Temporary/Result.txt"] = "of before";
+  Outside.Files.Content["/home/anna/Documents/QVES/Temporary/Result.txt"] = "of\r\nb\xEF\x01 fore";
   Outside.Files.ReadOnly = true;
   testing::internal::CaptureStderr();
   Press('U');
   EXPECT_NE(testing::internal::GetCapturedStderr().find("Result.txt cannot be written"), std::string::npos);
   ASSERT_EQ(App.ActiveForm()->Name(), "frmStatResult");
-  EXPECT_EQ(dynamic_cast<const Reader&>(*App.ActiveForm()->Find("lraResult")).Text, "of before");
+  EXPECT_EQ(dynamic_cast<const Reader&>(*App.ActiveForm()->Find("lraResult")).Text, "of\nb?? fore");
 }
 
 }  // namespace

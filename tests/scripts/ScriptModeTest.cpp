@@ -156,6 +156,19 @@ TEST_F(ScriptMode, APipeInPlaceOfASettingsFileIsNotWaitedFor) {
   EXPECT_NE(ErrorLog().find("it is no plain file"), std::string::npos);
 }
 
+TEST_F(ScriptMode, AnEndlessFileAndAPipeForALogStopNothing) {
+  const std::filesystem::path home = HomeFolder();
+  std::filesystem::create_directories(home / "Documents/QVES/Temporary");
+  std::ofstream(home / "huge.txt").put('7');
+  std::filesystem::resize_file(home / "huge.txt", std::uintmax_t{1} << 40);  // mostly a hole
+  const std::string import = "keys 5a\nanswer " + (home / "huge.txt").string() + "\nmenu 302\nkey Ctrl+d\n";
+  EXPECT_EQ(Run(import, "--view statistics").Lines.at(3)["spoken"][0]["text"], "Data list, 5");
+  EXPECT_NE(ErrorLog().find("huge.txt: it is too large"), std::string::npos);
+  std::filesystem::remove(home / "Documents/QVES/Temporary/Error Log.txt");
+  ASSERT_EQ(::mkfifo((home / "Documents/QVES/Temporary/Error Log.txt").c_str(), 0600), 0);
+  EXPECT_EQ(Run(import, "--view statistics").Lines.at(3)["focus"], "lvwData");
+}
+
 TEST_F(ScriptMode, WrongOptionsAreRefused) {
   for (const char* options :
        {"--view other", "--today 2026-02-30", "--seed x", "--speech loud", "--nonsense", "--view"})

@@ -77,10 +77,7 @@ std::optional<double> ValueOf(std::string_view field) {
 }
 
 std::string NoNumber(std::string_view field) {
-  std::string shown(field.substr(0, LongestQuoted));
-  for (char& c : shown)
-    if (c < ' ' || c > '~') c = '?';
-  return "\"" + shown + "\" is no number that can be kept";
+  return "\"" + std::string(field.substr(0, LongestQuoted)) + "\" is no number that can be kept";
 }
 
 }  // namespace

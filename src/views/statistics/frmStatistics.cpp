@@ -132,8 +132,8 @@ void frmStatistics::ImportFile(const std::string& path) {
   const auto fault = ReadFreeFormat(*text, take);
   AppendItems(list, items);
   if (fault)
-    log("line " + std::to_string(fault->Line) + ": " + fault->Reason + "; the import ends after " +
-        std::to_string(items.size()) + " points");
+    log("line " + std::to_string(fault->Line) + ": " + fault->Reason + "; the import ends there, with " +
+        std::to_string(items.size()) + " in the list");
 }
 
 }  // namespace qves
