@@ -24,7 +24,7 @@ constexpr HelpRow HelpTable[] = {
 };
 
 // A window would be busy with a longer one for too long.
-constexpr std::size_t LongestDocument = 16'000'000;
+constexpr std::size_t LongestDocument = 12'000'000;
 
 /// The bytes of the document; what is wrong with them is logged.
 std::string ReadSource(const std::string& path, Services& services) {

@@ -177,7 +177,7 @@ class DocumentTest(ReadingTestCase):
             "cut off": (self.good[:len(self.good) // 2], "The Standard View.\n"),
             "groups without end": (b"{\\rtf1 Before.\\par " + b"{\\b " * 1000000, "Before."),
             "one word": (b"x" * 1000000, "xxx"),
-            "too large": (b"{\\rtf1 " + b"This is a sentence.\\par\n" * 2000000 + b"}", "This is a sentence.\n"),
+            "too large": (b"{\\rtf1 " + (b"This is a sentence. " * 40 + b"\\par\n") * 60000 + b"}", "This is a sentence. "),
         }
         for name, (content, beginning) in rows.items():
             with self.subTest(document=name):
