@@ -51,6 +51,7 @@ bool DesktopShell::IsForeignPopup() const {
 FormWindow* DesktopShell::MakeWindow() {
   auto* window = new FormWindow(To.Settings, To.Hints, TopWindow());
   window->OnClose = [this, window] { CloseWindow(*window); };
+  window->IsHeldBack = [this] { return To.FileDialog.IsOpen(); };
   if (TopWindow()) {
     window->setWindowFlag(Qt::Dialog);
     window->setWindowModality(Qt::WindowModal);

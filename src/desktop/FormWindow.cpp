@@ -105,7 +105,7 @@ void FormWindow::SettleFocus() {
 }
 
 void FormWindow::ControlPressed(Control& control) {
-  if (Shown && ViewOf(control)) Shown->MouseClick(control);
+  if (Shown && ViewOf(control) && !IsHeldBack()) Shown->MouseClick(control);
 }
 
 void FormWindow::ControlFocused(Control& control) {
@@ -115,13 +115,13 @@ void FormWindow::ControlFocused(Control& control) {
 }
 
 void FormWindow::ItemChosen(ListControl& list, int item) {
-  if (!Shown || !ViewOf(list)) return;
+  if (!Shown || !ViewOf(list) || IsHeldBack()) return;
   Shown->FocusByUser(list);
   Shown->Choose(list, item);
 }
 
 void FormWindow::ChooseMenu(int id) {
-  if (Shown) Shown->ChooseMenu(id);
+  if (Shown && !IsHeldBack()) Shown->ChooseMenu(id);
 }
 
 void FormWindow::closeEvent(QCloseEvent* event) {

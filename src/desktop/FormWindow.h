@@ -32,6 +32,9 @@ class FormWindow : public QMainWindow, private FormObserver, private ControlHost
 
   /// Called when the user closes the window.
   std::function<void()> OnClose = [] {};
+  /// Whether something above the window has the user: what comes to the window all the same, from an
+  /// accessibility client, is not passed on.
+  std::function<bool()> IsHeldBack = [] { return false; };
 
  protected:
   void closeEvent(QCloseEvent* event) override;

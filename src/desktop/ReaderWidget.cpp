@@ -85,8 +85,9 @@ void ReaderView::ShowDocument() {
   QTextCursor cursor(document());
   cursor.beginEditBlock();
   for (const Paragraph& paragraph : Model.Document.Paragraphs) {
+    const bool isFirst = &paragraph == &Model.Document.Paragraphs.front();
+    if (!isFirst) cursor.setPosition(cursor.position() + 1);  // beyond the end of the one before
     ApplyLooks(cursor, paragraph);
-    cursor.setPosition(cursor.position() + 1);  // beyond the paragraph's end
   }
   cursor.endEditBlock();
 }

@@ -2,8 +2,8 @@
 
 #include <array>
 
+#include "dialogs/DocumentFile.h"
 #include "dialogs/RichText.h"
-#include "dialogs/Sentences.h"
 #include "services/Text.h"
 
 namespace qves {
@@ -23,25 +23,9 @@ constexpr HelpRow HelpTable[] = {
     {{"frmInv", "lraInv", 1302, 1303}, {"Inv.rtf", "Inv.rtf", "Inv.rtf", "Inv.rtf"}},
 };
 
-// A window would be busy with a longer one for too long.
-constexpr std::size_t LongestDocument = 12'000'000;
-
-/// The bytes of the document; what is wrong with them is logged.
-std::string ReadSource(const std::string& path, Services& services) {
-  std::string error;
-  std::string source = services.Outside.Files.Read(path, error).value_or("");
-  if (source.empty())
-    error = (error.empty() ? "it is empty" : error) + "; an empty document is shown";
-  else if (source.size() > LongestDocument)
-    error = "it is too long; its beginning is shown";
-  if (!error.empty()) services.Log.WriteErrorLog(DocumentErrorCode, path + ": " + error);
-  if (source.size() > LongestDocument) source.resize(PreviousCharacter(source, LongestDocument + 1));
-  return source;
-}
-
 /// Soft hyphens, which only tell where a word may be divided, are left out: a voice might name them.
 RichText ReadDocument(const std::string& path, Services& services) {
-  RichText document = ReadRichText(ReadSource(path, services));
+  RichText document = ReadRichText(ReadDocumentFile(path, services));
   for (Paragraph& paragraph : document.Paragraphs)
     for (TextRun& run : paragraph.Runs) run.Text = ReplaceAll(run.Text, "\u00AD", "");
   return document;

@@ -72,7 +72,7 @@ void ReadingDialog::ReadOn(bool queued) {
   std::vector<BookMark> marks;
   for (std::size_t i = Sentence + 1; i < Sentences.size(); ++i)
     marks.push_back({Sentences[i].Start - start, static_cast<std::int32_t>(i)});
-  // One at the end, which moves nothing: it tells a reading from other texts where a single sentence is left.
+  HeardAll = false;
   marks.push_back({Document->Text.size() - start, static_cast<std::int32_t>(Sentences.size())});
   ShowSentence();
   Services_.Speech.ReadAloud(std::string_view(Document->Text).substr(start), marks, queued);
@@ -90,20 +90,22 @@ void ReadingDialog::StopReading() {
   Services_.Speech.StopSpeech();
 }
 
-/// A mark of a reading that has been stopped may still be on its way: it moves nothing.
+/// A mark of a reading that has been stopped may still be on its way: it moves nothing. The last mark stands
+/// behind the text.
 void ReadingDialog::NotifyBookMark(int bookMark, TtsSpeaker&) {
   const auto sentence = static_cast<std::size_t>(bookMark);
+  HeardAll = sentence == Sentences.size();
   if (!Reading || bookMark < 0 || sentence >= Sentences.size() || sentence <= Sentence) return;
   Sentence = sentence;
   ShowSentence();
 }
 
-/// Before the last sentence the voice has failed: the reading goes on from there when it is back.
+/// A voice that has failed stops before the end: the reading goes on from there when it is back.
 void ReadingDialog::NotifySpeechStopped(TtsSpeaker&) {
   if (!Reading) return;
   Frame.SetReadingTarget(nullptr);
   Reading = false;
-  if (Sentence + 1 == Sentences.size()) Sentence = Sentences.size();
+  if (HeardAll) Sentence = Sentences.size();
   Document->SpokenLength = 0;
   ReaderMoved(*Document);
 }

@@ -54,6 +54,7 @@ class ReadingDialog : public Form {
   std::vector<TextSpan> Sentences;
   std::size_t Sentence = 0;  ///< the one that is being read, or was when the reading stopped
   bool Reading = false;
+  bool HeardAll = false;  ///< the reading has come to the end of the text
 };
 
 }  // namespace qves

@@ -1,5 +1,6 @@
 #include "dialogs/ResultDialog.h"
 
+#include "dialogs/DocumentFile.h"
 #include "dialogs/RichText.h"
 #include "services/Text.h"
 
@@ -11,10 +12,10 @@ constexpr ReadingDialogSpec ResultSpec = {"frmStatResult", "lraResult", 1306, 13
 }  // namespace
 
 std::unique_ptr<Form> MakeResultDialog(Services& services, DialogFrame& frame) {
-  std::string error;
-  const auto report = services.Outside.Files.Read(services.FolderLocations.ReportFile(), error);
-  const std::string text = MakeReadable(report.value_or(""), "\t\r\n");
-  return std::make_unique<ReadingDialog>(ResultSpec, ReadPlainText(text), services, frame);
+  const std::string path = services.FolderLocations.ReportFile();
+  const std::string report = services.Outside.Files.IsFile(path) ? ReadDocumentFile(path, services) : "";
+  const RichText document = ReadPlainText(MakeReadable(report, "\t\r\n"));
+  return std::make_unique<ReadingDialog>(ResultSpec, document, services, frame);
 }
 
 }  // namespace qves

@@ -15,14 +15,7 @@ bool IsRich(std::string_view source) {
 }
 
 bool IsPlain(std::string_view source) {
-  const auto isControl = [](char c) {
-    const auto byte = static_cast<unsigned char>(c);
-    return byte == 0x7F || (byte < 0x20 && c != '\t' && c != '\r' && c != '\n');
-  };
-  if (!IsUtf8(source) || std::any_of(source.begin(), source.end(), isControl)) return false;
-  for (std::size_t at = source.find('\xC2'); at != std::string_view::npos; at = source.find('\xC2', at + 1))
-    if (static_cast<unsigned char>(source[at + 1]) < 0xA0) return false;
-  return true;
+  return MakeReadable(source, "\t\r\n") == source;
 }
 
 }  // namespace

@@ -7,7 +7,7 @@ namespace qves {
 
 struct FileDialogSpec {
   std::string Title;
-  std::string Filter;            ///< pairs of a name and a pattern, with "|" between: "Text Files|*.txt"
+  std::string Filter;  ///< a name and its patterns, "|" between, ";" between patterns: "Text Files|*.txt"
   std::string DefaultExtension;  ///< without the point
   std::string InitialFolder;
 };

@@ -14,7 +14,8 @@
 
 namespace qves {
 
-/// A mark inside a text; it is reported when the speech reaches it.
+/// A mark inside a text; it is reported when the speech reaches it, and again when a piece of the text is
+/// spoken again after a failure.
 struct BookMark {
   std::size_t Offset = 0;  ///< in bytes from the start of the text
   std::int32_t Number = 0;

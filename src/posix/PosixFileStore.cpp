@@ -120,6 +120,7 @@ bool PosixFileStore::Write(const std::string& path, std::string_view content, st
 
 bool PosixFileStore::Append(const std::string& path, std::string_view text, std::string& error) {
   if (!MayWrite(path, error)) return false;
+  // A pipe without a reader would be waited for.
   const Descriptor file(path, O_WRONLY | O_CREAT | O_APPEND | O_NONBLOCK);
   if (file.Number < 0 || !WriteAll(file.Number, text)) return Fail(error);
   Written.push_back(path);

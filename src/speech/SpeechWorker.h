@@ -41,8 +41,10 @@ class PlayControl {
       : Wake(wake), Ticket(ticket), Quit(quit) {}
   /// True when the text is to be silenced.
   bool Interrupted() const { return Quit || Ticket.Outdated(); }
-  Signal& Wake;            ///< notified whenever Interrupted() may have changed
-  std::size_t Spoken = 0;  ///< how many bytes of the text another back end need not speak
+  Signal& Wake;  ///< notified whenever Interrupted() may have changed
+  /// Set by a player that gives up: how many bytes of the text, to a character's start, another back end need
+  /// not speak.
+  std::size_t Spoken = 0;
 
  private:
   const SpeechTicket& Ticket;

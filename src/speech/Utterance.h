@@ -74,7 +74,8 @@ struct Utterance {
   VoiceSettings Settings;
   SpeechTicket Ticket;
 
-  /// So many bytes have been spoken: what is left is the rest, with its marks.
+  /// So many bytes, no more than there are and to a character's start, have been spoken: what is left is the
+  /// rest with its marks, one at its start included.
   void DropFront(std::size_t length);
 };
 

@@ -164,8 +164,9 @@ std::string ScriptSession::ChooseMenu(std::string_view argument) {
 }
 
 std::string ScriptSession::Answer(std::string_view argument) {
-  FileDialog.Answer = argument.empty() ? "" : std::filesystem::absolute(argument).string();
-  return "";
+  std::error_code error;
+  FileDialog.Answer = argument.empty() ? "" : std::filesystem::absolute(argument, error).string();
+  return error ? "the path has no folder" : "";
 }
 
 std::string ScriptSession::Heard(std::string_view argument) {

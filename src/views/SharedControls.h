@@ -4,7 +4,6 @@
 #include <array>
 
 #include "model/Control.h"
-#include "model/Join.h"
 
 namespace qves::shared {
 

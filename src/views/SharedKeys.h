@@ -3,7 +3,6 @@
 
 #include <array>
 
-#include "model/Join.h"
 #include "model/KeyMap.h"
 
 namespace qves::shared {
@@ -13,7 +12,7 @@ using enum KeyAction;
 
 // codes from and to, shift rule, layout character, action, control, index, index from the code
 
-/// What is said again, and what is left to the focused control; then the way to the display.
+/// What is said again, and what is left to the focused control.
 inline constexpr auto FirstKeys = std::to_array<KeyRow>({
     {KeyF2, KeyF2, Shift, 0, RepeatSpeech},
     {KeyF1, KeyF9, Any, 0, LeaveIt},

@@ -31,8 +31,8 @@ View::View(const ViewTables& tables, Services& services, ViewFrame& frame)
     : Form(std::string(tables.FormName), services.Messages.GetMessage(TitleMessage)),
       Services_(services),
       Says(services.Speech, services.Messages),
-      Tables(tables),
-      Frame(frame) {
+      Frame(frame),
+      Tables(tables) {
   AddControls();
   AddMenus();
   PanelList.assign(Tables.Panels.begin(), Tables.Panels.end());

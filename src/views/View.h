@@ -46,7 +46,9 @@ class View : public Form, protected EngineHost {
   // EngineHost
   void ShowDisplay(std::string_view text) override { SetText(*Display, text); }
   void ExtendDisplay(std::string_view text) override { AppendText(*Display, text); }
-  void ShowMemory(std::string_view indicator) override { SetText(*MemoryBox, indicator); }
+  void ShowMemory(std::string_view indicator) override {
+    if (MemoryBox) SetText(*MemoryBox, indicator);
+  }
 
   /// The user has chosen another item; it has been spoken.
   virtual void OnNewChoice(ListControl&) {}
@@ -58,6 +60,7 @@ class View : public Form, protected EngineHost {
 
   Services& Services_;
   Announcer Says;
+  ViewFrame& Frame;
 
  private:
   // Form
@@ -79,10 +82,9 @@ class View : public Form, protected EngineHost {
   const std::string& Message(int id) const { return Services_.Messages.GetMessage(id); }
 
   const ViewTables& Tables;
-  ViewFrame& Frame;
   std::unique_ptr<EntryEngine> Engine;
   TextBox* Display = nullptr;
-  TextBox* MemoryBox = nullptr;
+  TextBox* MemoryBox = nullptr;  ///< null in a view without a memory
 };
 
 }  // namespace qves

@@ -3,6 +3,7 @@
 #include "FakePlatform.h"
 #include "app/CalculatorApp.h"
 #include "services/ServiceSet.h"
+#include "services/Text.h"
 #include "services/WindowActivation.h"
 
 namespace qves {
@@ -150,6 +151,32 @@ TEST(WindowActivation, TheFirstWindowWithTheFragment) {
                        {5, "Hidden Appointment Calendar", false}};
     EXPECT_EQ(ActivateWindowByTitle(windows, row.Fragment), row.Found);
     EXPECT_EQ(windows.Deeds, row.Deeds) << row.Fragment;
+  }
+}
+
+TEST_F(ApplicationTest, DocumentsThatAreNotAsTheyShouldBeAreShownAsFarAsTheyGoAndLogged) {
+  struct Row {
+    std::optional<std::string> Source;
+    std::string Shown;
+    std::string Logged;
+  };
+  // The cut falls into a character of two bytes.
+  const std::string tooLong = "x" + ReplaceAll(std::string(6'000'000, 'y'), "y", "\u00E9");
+  const Row rows[] = {
+      {std::nullopt, "", "AboutStd.rtf: No such file or directory; an empty document is shown"},
+      {"", "", "AboutStd.rtf: it is empty; an empty document is shown"},
+      {"{\\rtf1 cal\\-cu\\u173?la\\'adtor.\\par}", "calculator.", ""},
+      {tooLong, tooLong.substr(0, 11'999'999), "AboutStd.rtf: it is too long; its beginning is shown"},
+  };
+  for (const Row& row : rows) {
+    Outside.Files.Content.clear();
+    if (row.Source) Outside.Files.Content["/program/AboutStd.rtf"] = *row.Source;
+    Start();
+    App->ActiveForm()->ChooseMenu(351);
+    EXPECT_TRUE(dynamic_cast<const Reader&>(*App->ActiveForm()->Find("lraAbout")).Text == row.Shown)
+        << row.Logged;
+    EXPECT_NE(Outside.ErrorLog().find(row.Logged), std::string::npos) << Outside.ErrorLog();
+    EXPECT_EQ(Outside.ErrorLog().empty(), row.Logged.empty());
   }
 }
 

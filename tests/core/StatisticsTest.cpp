@@ -83,12 +83,13 @@ TEST(Statistics, FaultsEndTheRun) {
       {{"1", "2"}, {"E"}},
       {{}, {}},
       {{"0", "0."}, {}, true},
-      {{"1e200"}, {}},                            // its square
-      {{"1e154", "1e154"}, {}},                   // the sum of squares, then the square of the sum
-      {{"5", "5", "5"}, {"1", "2"}},              // a variance of 0 under KR20
-      {{"5", "5", "5"}, {"5", "5", "5"}},         // the same before both t statistics
-      {{"1", "2"}, {"1e200", "0"}, true},         // the squares of a second list that is not used
-      {{"1", "2", "4"}, {"1", "2"}, false, 0.5},  // the spreadsheet refuses it
+      {{"1e200"}, {}},                                 // its square
+      {{"1e154", "1e154"}, {}},                        // the sum of the squares
+      {{"6e153", "6e153", "6e153", "6e153"}, {}},      // the square of the sum
+      {{"5", "5", "5"}, {"1", "2"}},                   // a variance of 0 under KR20
+      {{"5", "5", "5"}, {"5", "5", "5"}},              // the same before both t statistics
+      {{"1", "2", "3", "4"}, {"1.5e154", "0"}, true},  // the squares of a second list that is not used
+      {{"1", "2", "4"}, {"1", "2"}, false, 0.5},       // the spreadsheet refuses it
   };
   for (const FaultRow& row : rows) {
     FakeSpreadsheet spreadsheet;

@@ -129,18 +129,15 @@ TEST_F(ReaderWidgetTest, TheHostProductsColoursAndSizeStandForTheDocuments) {
   EXPECT_EQ(view.palette().color(QPalette::Base), QColor("white"));
 }
 
-TEST_F(ReaderWidgetTest, WhatIsNoWritingIsShownSoon) {
+/// Looking for the ends of words there would take the toolkit minutes.
+TEST_F(ReaderWidgetTest, WhatIsNoWritingIsBrokenAnywhere) {
   const std::string runs = [] {
     std::string text;
     while (text.size() < 500'000) text += "{\\b x}{\\i y}";
     return text;
   }();
   for (const std::string& text : {std::string(500'000, 'x'), runs}) {
-    QElapsedTimer timer;
-    timer.start();
-    Show("{\\rtf1 " + text + "}");
-    // Looking for the ends of words took the toolkit minutes.
-    EXPECT_LT(timer.elapsed(), 10'000);
+    EXPECT_EQ(Show("{\\rtf1 " + text + "}").wordWrapMode(), QTextOption::WrapAnywhere);
   }
   EXPECT_EQ(Show("{\\rtf1 Words, of which none is long.\\par}").wordWrapMode(),
             QTextOption::WrapAtWordBoundaryOrAnywhere);

@@ -36,7 +36,7 @@ bool StreamPlayback::Run(milliseconds pauseBefore) {
   Lead = -std::int64_t(pause.size());
   WriteAll(pause);
   espeak_Synth(Text.Text.c_str(), Text.Text.size() + 1, 0, POS_CHARACTER, 0, espeakCHARS_UTF8, nullptr, this);
-  const bool heard = WaitUntilHeard();
+  const bool heard = !Broken && WaitUntilHeard();
   if (Control.Interrupted() || !heard)
     Stream.Flush();
   else
@@ -53,7 +53,8 @@ int StreamPlayback::Receive(short* samples, int count, espeak_EVENT* events) {
 
 bool StreamPlayback::Take(std::span<const std::int16_t> samples, const espeak_EVENT* events) {
   NoteEvents(events);
-  return WriteAll(WithoutLead(samples)) && !Control.Interrupted();
+  Broken = !WriteAll(WithoutLead(samples)) && !Control.Interrupted();
+  return !Broken && !Control.Interrupted();
 }
 
 void StreamPlayback::NoteEvents(const espeak_EVENT* events) {

@@ -42,6 +42,7 @@ class StreamPlayback {
   std::int64_t Lead = 0;     // samples of silence that were left out, less those put before
   std::int64_t LeadLeft;     // how many more may be left out
   bool Audible = false;
+  bool Broken = false;  // the output has failed
   std::int64_t LastPlayed = -1;
   SteadyClock::time_point LastProgress = SteadyClock::now();
 };

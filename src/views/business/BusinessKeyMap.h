@@ -1,6 +1,9 @@
 // The keys of the Business view, tested in this order.
 #pragma once
 
+#include <array>
+
+#include "model/Join.h"
 #include "views/SharedKeys.h"
 
 namespace qves::business {

@@ -1,5 +1,6 @@
 #include "views/statistics/Descriptive.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "engine/Numbers.h"

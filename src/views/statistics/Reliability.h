@@ -7,10 +7,12 @@
 
 namespace qves {
 
-/// Formula 20. `rightAnswers` tells, for each item of the test, how many examinees answered it correctly.
+/// Formula 20, K / (K - 1) * (1 - sum of p (1 - p) / variance). `rightAnswers` tells, for each of the K items
+/// of the test, two or more, how many examinees answered it correctly; p is their part of all.
 double KR20(std::span<const double> rightAnswers, double examinees, double scoreVariance);
 
-/// Formula 21, which takes all of the `items` as equally difficult.
+/// Formula 21, K / (K - 1) * (1 - M (K - M) / (K * variance)), which takes all of the K `items`, two or more,
+/// as equally difficult. M is the mean of the scores.
 double KR21(double items, double scoreMean, double scoreVariance);
 
 /// The standard error of measurement; the reliability is at most 1.

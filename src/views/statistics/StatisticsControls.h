@@ -1,7 +1,10 @@
 // The controls of the Statistics view, in Tab order, which is the reading order.
 #pragma once
 
+#include <array>
+
 #include "model/Form.h"
+#include "model/Join.h"
 #include "views/SharedControls.h"
 
 namespace qves::statistics {

@@ -13,20 +13,12 @@ constexpr int AlphaSetMessage = 1447;
 
 constexpr OperatorRow SignOperator[] = {{"+/-", Arity::Unary, ChangeSign}};
 
-/// What is said of a list.
-struct ListWords {
-  int Added;
-  int Removed;
-  int Cleared;
-  int Empty;
-};
+}  // namespace
 
 const ListWords& WordsOf(DataList list) {
   static constexpr ListWords words[] = {{1401, 1404, 1407, 1411}, {1433, 1434, 1435, 1431}};
-  return words[static_cast<int>(list)];
+  return words[static_cast<std::size_t>(list)];
 }
-
-}  // namespace
 
 StatisticsEngine::StatisticsEngine(EngineHost& host, StatisticsHost& data, Announcer& announcer)
     : EntryEngine(SignOperator, host, announcer), Data(data) {}

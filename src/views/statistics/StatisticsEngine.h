@@ -13,6 +13,15 @@ inline constexpr int MostPoints = 32767;
 
 enum class DataList { Main, Second };
 
+/// The messages that tell what was done with a list.
+struct ListWords {
+  int Added;
+  int Removed;
+  int Cleared;
+  int Empty;
+};
+const ListWords& WordsOf(DataList list);
+
 /// Where the data are, and what is done with them all.
 class StatisticsHost {
  public:
@@ -34,11 +43,15 @@ class StatisticsEngine : public EntryEngine {
  public:
   StatisticsEngine(EngineHost& host, StatisticsHost& data, Announcer& announcer);
 
+  /// Faults when the list is full.
   void Add(const PressedKey& key);
+  /// Takes the selected item; without one it only says that the list is empty.
   void Remove(const PressedKey& key);
   void Clear(const PressedKey& key);
+  /// Nothing with an empty main list.
   void Run(const PressedKey& key);
-  /// "df" or "alpha", by the caption.
+  /// "df" or "alpha", by the caption; in the error state it only ends that. Faults when the display shows no
+  /// number.
   void SetParameter(const PressedKey& key);
 
   StateFields Fields() const override;

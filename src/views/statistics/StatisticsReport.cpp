@@ -1,6 +1,9 @@
 #include "views/statistics/StatisticsReport.h"
 
 #include <span>
+#include <string_view>
+#include <utility>
+#include <vector>
 
 #include "engine/Numbers.h"
 

@@ -69,7 +69,7 @@ StatisticsResult RunStatistics(const StatisticsInput& input, Spreadsheet& spread
   if (!result.Sample || rightAnswers.size() < 2) return result;
 
   RateReliability(result, rightAnswers);
-  const Sums second = SumUp(result.Values2);
+  const Sums second = SumUp(result.Values2);  // faults also where it is not used: wanted
   if (result.Values2.size() < 2) return result;
   result.TwoSampleT = TwoSampleT(result.Main, second);
   if (result.PairedT) result.PairedT = PairedT(result.Values, result.Values2);

@@ -43,8 +43,8 @@ struct StatisticsResult {
   std::optional<Dispersion> Sample;  ///< nothing for a single point
   std::optional<Dispersion> Population;
   std::optional<ReliabilityResult> Reliability;
-  double TwoSampleT = 0;
-  std::optional<double> PairedT;  ///< when both lists have the same number of points
+  double TwoSampleT = 0;          ///< stays 0 while a list has fewer than two points
+  std::optional<double> PairedT;  ///< when both lists have the same number of points; 0 as the other
   std::optional<CriticalT> Critical;
 };
 

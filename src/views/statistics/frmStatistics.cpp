@@ -14,7 +14,6 @@ namespace {
 
 constexpr int ImportTitleMessage = 400;
 constexpr int ImportFilterMessage = 401;
-constexpr int EmptyMessages[] = {1411, 1431};
 
 constexpr MenuSpec Menus[] = {
     {FileMenu, {ImportItem, ExitItem}},
@@ -47,7 +46,6 @@ constexpr ViewTables StatisticsTables = {
 
 frmStatistics::frmStatistics(Services& services, ViewFrame& frame)
     : View(StatisticsTables, services, frame),
-      Frame(frame),
       Lists{static_cast<ListView*>(Find("lvwData")), static_cast<ListView*>(Find("lvwData2"))},
       IgnoreZero(static_cast<CheckBox*>(Find("cbIgnoreZero"))),
       UseList2(static_cast<CheckBox*>(Find("cbUseList2"))) {
@@ -59,9 +57,9 @@ frmStatistics::frmStatistics(Services& services, ViewFrame& frame)
 std::string frmStatistics::Announcement(const Control& control) {
   const auto* list = dynamic_cast<const ListView*>(&control);
   if (!list) return View::Announcement(control);
+  const DataList which = list == Lists[0] ? DataList::Main : DataList::Second;
   return list->SpokenName + ", " +
-         (list->ItemCount() > 0 ? ChosenWords(*list)
-                                : Services_.Messages.GetMessage(EmptyMessages[list == Lists[1]]));
+         (list->ItemCount() > 0 ? ChosenWords(*list) : Services_.Messages.GetMessage(WordsOf(which).Empty));
 }
 
 /// The item, and its place in the list where the user wants to hear that.

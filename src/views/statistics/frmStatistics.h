@@ -33,7 +33,6 @@ class frmStatistics : public View, private StatisticsHost {
   void Import();
   void ImportFile(const std::string& path);
 
-  ViewFrame& Frame;
   std::array<ListView*, 2> Lists;
   CheckBox* IgnoreZero;
   CheckBox* UseList2;
