@@ -64,7 +64,7 @@ void ReadingDialog::Form_Unload() {
 
 /// From the sentence where the reading stopped; a document that has been read to its end begins anew.
 void ReadingDialog::ReadOn(bool queued) {
-  if (Sentences.empty() || Document->Speaking.Quiescent) return;
+  if (Sentences.empty() || Document->Speaking.Quiescent || !Services_.Speech.HasSpeaker()) return;
   if (Sentence >= Sentences.size()) Sentence = 0;
   Frame.SetReadingTarget(this);
   Reading = true;

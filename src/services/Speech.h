@@ -39,6 +39,7 @@ class SpeechService {
   /// silencing that. It is not what LastSpokenText repeats.
   void ReadAloud(std::string_view text, std::span<const BookMark> marks, bool queued);
   void StopSpeech();
+  bool HasSpeaker() const { return PrimarySpeaker != nullptr; }
   /// The last text handed to SpeakText or SpeakTextQueued while there was a speaker.
   const std::string& LastSpokenText() const { return LastText; }
 

@@ -180,5 +180,16 @@ TEST_F(ApplicationTest, DocumentsThatAreNotAsTheyShouldBeAreShownAsFarAsTheyGoAn
   }
 }
 
+TEST_F(ApplicationTest, WithoutAVoiceADocumentIsMovedInAndNothingReadsIt) {
+  Outside.Speech.Engines.clear();
+  Outside.Files.Content["/program/AboutStd.rtf"] = "{\\rtf1 One. Two.\\par}";
+  Start();
+  App->ActiveForm()->ChooseMenu(351);
+  for (const int code : {int{KeyRight}, int{KeyRight}, KeyF1 + 4}) App->KeyDown({code, NoShift, 0});
+  const auto& reader = dynamic_cast<const Reader&>(*App->ActiveForm()->Find("lraAbout"));
+  EXPECT_EQ(reader.Caret, 2);
+  EXPECT_EQ(reader.SpokenLength, 0);
+}
+
 }  // namespace
 }  // namespace qves

@@ -168,6 +168,7 @@ TEST_F(StatisticsViewTest, TheFileDialogIsAskedInTheUsersFolder) {
   const FileDialogSpec& asked = Outside.FileDialog.Asked;
   EXPECT_EQ(asked.DefaultExtension, "txt");
   EXPECT_EQ(asked.InitialFolder, "/home/anna/Documents/QVES");
+  EXPECT_TRUE(Outside.Files.IsFolder(asked.InitialFolder));
   EXPECT_EQ(Points(), 2);
   EXPECT_NE(Outside.ErrorLog().find("\"x??y\" is no number"), std::string::npos) << Outside.ErrorLog();
   Outside.FileDialog.Answer = "/missing.txt";

@@ -244,8 +244,8 @@ class SessionTest(unittest.TestCase):
 
     def test_import_through_the_file_dialog(self):
         calculator = self.start("--view", "statistics")
-        documents = calculator.home / "Documents"
-        documents.mkdir()
+        documents = calculator.home / "Documents" / "QVES"
+        documents.mkdir(parents=True)
         (documents / "points.txt").write_text("10,20 30\n")
         window = calculator.window()
         keys("6", "a", "7")

@@ -102,11 +102,13 @@ void frmStatistics::Report(double degreesOfFreedom, double alpha) {
   Frame.OpenResult();
 }
 
+/// The folder is made, so that the dialog begins in the same one before and after the first report.
 void frmStatistics::Import() {
   const MessageStore& messages = Services_.Messages;
-  const std::string path = Services_.Outside.FileDialog.Show({messages.GetMessage(ImportTitleMessage),
-                                                              messages.GetMessage(ImportFilterMessage), "txt",
-                                                              Services_.FolderLocations.DocumentsFolder});
+  const std::string& folder = Services_.FolderLocations.DocumentsFolder;
+  Services_.Outside.Files.MakeFolder(folder);
+  const std::string path = Services_.Outside.FileDialog.Show(
+      {messages.GetMessage(ImportTitleMessage), messages.GetMessage(ImportFilterMessage), "txt", folder});
   if (!path.empty()) ImportFile(path);
 }
 
