@@ -2,7 +2,6 @@
 
 #include "dialogs/DocumentFile.h"
 #include "dialogs/RichText.h"
-#include "services/Text.h"
 
 namespace qves {
 namespace {
@@ -14,8 +13,7 @@ constexpr ReadingDialogSpec ResultSpec = {"frmStatResult", "lraResult", 1306, 13
 std::unique_ptr<Form> MakeResultDialog(Services& services, DialogFrame& frame) {
   const std::string path = services.FolderLocations.ReportFile();
   const std::string report = services.Outside.Files.IsFile(path) ? ReadDocumentFile(path, services) : "";
-  const RichText document = ReadPlainText(MakeReadable(report, "\t\r\n"));
-  return std::make_unique<ReadingDialog>(ResultSpec, document, services, frame);
+  return std::make_unique<ReadingDialog>(ResultSpec, ReadPlainText(report), services, frame);
 }
 
 }  // namespace qves

@@ -14,15 +14,14 @@ bool IsRich(std::string_view source) {
   return source.size() == mark.size() || !IsAsciiLetter(source[mark.size()]);
 }
 
-bool IsPlain(std::string_view source) {
-  return MakeReadable(source, "\t\r\n") == source;
+std::string MakePlain(std::string_view source) {
+  return MakeReadable(source, "\t\r\n");
 }
 
 }  // namespace
 
 RichText ReadPlainText(std::string_view source) {
-  if (!IsPlain(source)) return {};
-  std::string text(source);
+  std::string text = MakePlain(source);
   for (const std::string_view lineEnd : {"\r\n", "\r", "\u2028", "\u2029"})
     text = ReplaceAll(text, lineEnd, "\n");
   RichTextBuilder document;
@@ -37,7 +36,7 @@ RichText ReadRichText(std::string_view source) {
   if (source.starts_with("\xEF\xBB\xBF")) source.remove_prefix(3);
   const std::size_t start = std::min(source.find_first_not_of(" \t\r\n"), source.size());
   if (IsRich(source.substr(start))) return RichTextReader(source.substr(start)).Read();
-  return ReadPlainText(source);
+  return MakePlain(source) == source ? ReadPlainText(source) : RichText();
 }
 
 std::string PlainText(const Paragraph& paragraph) {

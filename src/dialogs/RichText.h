@@ -14,8 +14,8 @@ namespace qves {
 /// on at the left indent, without a bullet.
 RichText ReadRichText(std::string_view source);
 
-/// A plain text, a paragraph to a line (ended by LF, CR, both, or a separator of Unicode). One that is no
-/// valid UTF-8 without control characters gives nothing.
+/// A plain text, a paragraph to a line (ended by LF, CR, both, or a separator of Unicode). A "?" stands for
+/// each control character and each byte that is no valid UTF-8.
 RichText ReadPlainText(std::string_view source);
 
 /// The text of a paragraph, or of a document with a line for each, without its looks.
