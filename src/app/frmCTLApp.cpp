@@ -88,6 +88,7 @@ void frmCTLApp::QueryUnload(int reason) {
 }
 
 void frmCTLApp::BookMarkReached(std::int32_t number, TtsSpeaker& speaker) {
+  Services_.Speech.BookMarkReached(number);
   if (BookMarkTarget) BookMarkTarget->NotifyBookMark(number, speaker);
 }
 

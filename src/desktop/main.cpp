@@ -2,7 +2,6 @@
 #include <fontconfig/fontconfig.h>
 #include <xcb/xcb.h>
 
-#include <QApplication>
 #include <QSessionManager>
 #include <QSettings>
 #include <algorithm>
@@ -16,6 +15,7 @@
 #include "desktop/LateTts.h"
 #include "desktop/Options.h"
 #include "desktop/SessionEnd.h"
+#include "desktop/TurnApplication.h"
 #include "posix/BaseDirectories.h"
 #include "posix/IniRegistry.h"
 #include "posix/PosixFileStore.h"
@@ -61,7 +61,8 @@ bool HasDisplay(const Options& options) {
 }
 
 /// Runs the calculator in the toolkit's event loop; the exit status.
-int RunCalculator(const Options& options, QtEventPump& events, LateTts& speech) {
+int RunCalculator(const Options& options, QtEventPump& events, LateTts& speech,
+                  TurnApplication& application) {
   BaseDirectories directories(options.Home);
   PosixFileStore files(directories.ConfinedTo(), directories.ProgramFolder());
   IniRegistry registry(files, directories.ConfigFolder() + "/QVES/registry.ini");
@@ -87,6 +88,8 @@ int RunCalculator(const Options& options, QtEventPump& events, LateTts& speech) 
   CalculatorApp app(services.All, shell);
   shell.Attach(app);
   if (!app.Main({options.View})) return 0;
+  services.All.Speech.EndTurn();
+  application.OnHandled = [&services] { services.All.Speech.EndTurn(); };
 
   windows.ListenForCopies([&shell](const std::string& token) { shell.Raise(token); });
   const EndSignals endSignals([&shell] { shell.EndSession(); });
@@ -99,6 +102,7 @@ int RunCalculator(const Options& options, QtEventPump& events, LateTts& speech) 
     app.Leave();
   });
   const int status = QCoreApplication::exec();
+  application.OnHandled = nullptr;
   app.Leave();
   return status;
 }
@@ -122,13 +126,13 @@ int Main(int argc, char** argv) {
   for (std::string& word : words) toolkitArguments.push_back(word.data());
   int toolkitCount = static_cast<int>(toolkitArguments.size());
   toolkitArguments.push_back(nullptr);
-  QApplication application(toolkitCount, toolkitArguments.data());
+  TurnApplication application(toolkitCount, toolkitArguments.data());
   if (toolkitCount > 1) return Complain(std::string("unknown option ") + toolkitArguments[1]);
   // A view that does not exist has no window, and the program goes on all the same.
   QGuiApplication::setQuitOnLastWindowClosed(false);
   QGuiApplication::setDesktopFileName("qvescalc");
   LateTts speech([&] { return LoadSpeech(options->Speech, events); });
-  return RunCalculator(*options, events, speech);
+  return RunCalculator(*options, events, speech, application);
 }
 
 }  // namespace

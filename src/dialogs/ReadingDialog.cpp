@@ -49,11 +49,12 @@ ReadingDialog::ReadingDialog(const ReadingDialogSpec& spec, RichText document, S
 void ReadingDialog::Form_Load() {
   if (!Services_.Settings.DontSpeak) Services_.Speech.AttachSpeakingControls(*this, Services_.Verbosity);
   PlaceFocus(*Document);
-  if (SaysHelpFirst)
+  const bool introduces = SaysHelpFirst && Services_.Settings.Detail == SpeechDetail::Full;
+  if (introduces)
     Services_.Speech.SpeakText(Document->HelpText);
   else if (Sentences.empty())
     OnGotFocus(*Document);  // without it nothing at all would be heard
-  ReadOn(SaysHelpFirst);
+  ReadOn(introduces);
 }
 
 void ReadingDialog::Form_Unload() {

@@ -5,8 +5,8 @@ namespace {
 constexpr int ErrorMessage = 1202;
 }
 
-void Announcer::Say(std::string_view text) {
-  Speech.SpeakText(text);
+void Announcer::Say(std::string_view text, ValueSpan value) {
+  Speech.SpeakText(text, value);
   HasSpoken = true;
 }
 
@@ -14,15 +14,16 @@ void Announcer::SayMessage(int id, std::string_view numberText) {
   Say(FillPlaceholders(Messages.GetMessage(id), {Speech.SpeechFormatNumber(numberText)}));
 }
 
-void Announcer::SayMore(std::string_view text) {
+void Announcer::SayMore(std::string_view text, ValueSpan value) {
   if (HasSpoken)
-    Speech.SpeakTextQueued(text);
+    Speech.SpeakTextQueued(text, value);
   else
-    Say(text);
+    Say(text, value);
 }
 
-void Announcer::SayValue(std::string_view numberText, std::string_view leadIn) {
-  SayMore(std::string(leadIn) + Speech.SpeechFormatNumber(numberText));
+void Announcer::SayValue(std::string_view numberText, ValueKind kind, std::string_view leadIn) {
+  const std::string number = Speech.SpeechFormatNumber(numberText);
+  SayMore(std::string(leadIn) + number, {leadIn.size(), number.size(), kind});
 }
 
 void Announcer::SayError() {

@@ -207,12 +207,14 @@ void EntryEngine::CompletePending() {
   if (SecondOperandBegun) Calculate(Accumulator, CurrentValue, PendingOp);
 }
 
-void EntryEngine::Show() {
+void EntryEngine::Show(ValueKind kind) {
+  EntryKind = kind;
   InsteadOfEntry.clear();
   Host.ShowDisplay(EntryText);
 }
 
 void EntryEngine::ShowInstead(std::string_view text) {
+  EntryKind = ValueKind::Number;
   InsteadOfEntry = text;
   Host.ShowDisplay(text);
 }
@@ -244,7 +246,7 @@ void EntryEngine::SayResult(std::string_view leadIn) {
   if (ErrorState)
     Says.SayError();
   else
-    Says.SayValue(DisplayText(), leadIn);
+    Says.SayValue(DisplayText(), DisplayKind(), leadIn);
 }
 
 StateFields EntryEngine::Fields() const {

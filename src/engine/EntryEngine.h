@@ -67,6 +67,8 @@ class EntryEngine {
   bool InError() const { return ErrorState; }
   /// What the display shows: the entry, or what stands in its place for the moment.
   const std::string& DisplayText() const { return InsteadOfEntry.empty() ? EntryText : InsteadOfEntry; }
+  /// What the value is that the display shows.
+  virtual ValueKind DisplayKind() const { return EntryKind; }
   virtual StateFields Fields() const;
 
  protected:
@@ -93,7 +95,7 @@ class EntryEngine {
   bool SecondOperandDue() const;
   void BeginSecondOperand();
   void CompletePending();
-  void Show();
+  void Show(ValueKind kind = ValueKind::Number);
   /// Shows that text instead of the entry until the entry is shown again.
   void ShowInstead(std::string_view text);
   void ExtendInstead(std::string_view text);
@@ -136,6 +138,7 @@ class EntryEngine {
   bool RefuseNoNumber();
 
   std::string InsteadOfEntry;
+  ValueKind EntryKind = ValueKind::Number;
 };
 
 }  // namespace qves

@@ -6,6 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "voicing/VoiceWords.h"
+
 namespace qves {
 
 /// The views by their number in the settings; deliberately not the order of the View menu.
@@ -14,6 +16,11 @@ enum CalcViewNumber : std::int16_t {
   StatisticsView = 1,
   StandardView = 2,
   BusinessView = 3,
+};
+
+enum class SpeechDetail {
+  Full,
+  Brief,  ///< no help behind a name, no introduction before a report
 };
 
 struct AppSettings {
@@ -53,6 +60,11 @@ struct AppSettings {
   bool IgnoreCap = false;
   std::vector<std::string> SpellPref;
   std::vector<std::string> SpellSuff;
+
+  // The calculator's own.
+  NumberReading ReadNumbersAs = NumberReading::AsHost;
+  int SpokenDecimals = AllDecimals;  ///< more are rounded to so many: 2, 4, 6 or 8
+  SpeechDetail Detail = SpeechDetail::Full;
 
   /// True when a host settings file was found: only then its colours and font replace the desktop's own.
   bool HostFileFound = false;

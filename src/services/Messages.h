@@ -36,6 +36,9 @@ class MessageStore {
   std::set<std::string> Noted;
 };
 
+/// What stands in a message for a value.
+inline constexpr std::string_view Placeholder = "%%";
+
 /// Replaces each "%%" in turn by the next value. A "%%" without a value stays as it is.
 std::string FillPlaceholders(std::string_view text, const std::vector<std::string>& values);
 

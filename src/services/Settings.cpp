@@ -6,6 +6,7 @@
 #include <charconv>
 #include <variant>
 
+#include "services/OwnSettings.h"
 #include "services/QuotedFields.h"
 #include "services/Text.h"
 
@@ -163,8 +164,23 @@ void SettingsFiles::ReadHostFile() {
 
 void SettingsFiles::ReadOwnFile() {
   ReadPairs(FolderLocations.OwnSettingsFile, [this](const std::string& key, const std::string& value) {
-    return key == "CalcView" ? Store(Settings.CalcView, value) : std::string_view();
+    if (key == "CalcView") return Store(Settings.CalcView, value);
+    StoreOwnSetting(key, value);
+    return std::string_view();
   });
+}
+
+/// A value that the setting does not have leaves it as it is, and the file is read on.
+void SettingsFiles::StoreOwnSetting(const std::string& key, const std::string& value) {
+  for (const OwnSetting& setting : OwnSettings()) {
+    if (setting.Key != key) continue;
+    const auto found = std::find(setting.Values.begin(), setting.Values.end(), value);
+    if (found != setting.Values.end())
+      return setting.Choose(Settings, static_cast<int>(found - setting.Values.begin()));
+    Log.WriteErrorLog(SettingsErrorCode, FolderLocations.OwnSettingsFile + ": \"" + value.substr(0, 40) +
+                                             "\" is no value of " + key + "; it stays \"" +
+                                             std::string(setting.Values[0]) + "\"");
+  }
 }
 
 std::string_view SettingsFiles::StoreHostSetting(const std::string& key, const std::string& value) {
@@ -204,9 +220,13 @@ bool SettingsFiles::ReadPairs(const std::string& path, StorePair store) {
   return true;
 }
 
+/// Of the calculator's own settings only those that are not as usual are written.
 void SettingsFiles::SaveSettings() {
-  const std::string content =
+  std::string content =
       Quote("Calc Settings") + "\n" + Quote("CalcView") + "," + std::to_string(Settings.CalcView) + "\n";
+  for (const OwnSetting& setting : OwnSettings())
+    if (const int chosen = setting.Chosen(Settings); chosen != 0)
+      content += Quote(setting.Key) + "," + Quote(setting.Values[static_cast<std::size_t>(chosen)]) + "\n";
   std::string error;
   if (!Outside.Files.Write(FolderLocations.OwnSettingsFile, content, error))
     Log.WriteErrorLog(SettingsErrorCode, FolderLocations.OwnSettingsFile + ": cannot be written (" + error +

@@ -6,6 +6,7 @@
 
 #include "model/ArithmeticFault.h"
 #include "services/Text.h"
+#include "services/VoiceMessages.h"
 
 namespace qves {
 namespace {
@@ -33,6 +34,7 @@ bool Wants(std::string_view setting, std::string_view item) {
 
 bool SpeechService::CreateSpeech(std::string_view voice, std::string_view manufacturer,
                                  std::string_view product, int language) {
+  Words = ReadVoiceWords(Messages);
   return OpenEngine(ChooseEngine(voice, manufacturer, product, language));
 }
 
@@ -80,6 +82,7 @@ void SpeechService::ApplyVoiceSettings() {
 
 void SpeechService::ShutDownSpeech() {
   StopSpeech();
+  EndTurn();  // what is to be waited for
   const std::int64_t end = std::int64_t{Outside.Clock.TickCount()} + ShutDownWait;
   if (end > std::numeric_limits<std::int32_t>::max()) throw ArithmeticFault("the tick count overflows");
   const auto deadline = static_cast<std::int32_t>(end);
@@ -105,29 +108,85 @@ void SpeechService::ReleaseSpeech() {
   SpeechEngine.reset();
 }
 
-void SpeechService::SpeakText(std::string_view text) {
+void SpeechService::SpeakText(std::string_view text, ValueSpan value) {
   if (!PrimarySpeaker) return;
-  PrimarySpeaker->SpeakNow(text);
+  Turn.push_back({SpeechHow::Now, std::string(text), value, {}});
   LastText = text;
 }
 
-void SpeechService::SpeakTextQueued(std::string_view text) {
+void SpeechService::SpeakTextQueued(std::string_view text, ValueSpan value) {
   if (!PrimarySpeaker) return;
-  PrimarySpeaker->SpeakQueued(text);
+  Turn.push_back({SpeechHow::Queued, std::string(text), value, {}});
   LastText = text;
+}
+
+void SpeechService::SpeakHelp(std::string_view text) {
+  if (Settings.Detail == SpeechDetail::Full) SpeakTextQueued(text);
 }
 
 void SpeechService::ReadAloud(std::string_view text, std::span<const BookMark> marks, bool queued) {
   if (!PrimarySpeaker) return;
-  if (queued)
-    PrimarySpeaker->SpeakQueued(text, marks);
-  else
-    PrimarySpeaker->SpeakNow(text, marks);
+  Turn.push_back(
+      {queued ? SpeechHow::Queued : SpeechHow::Now, std::string(text), {}, {marks.begin(), marks.end()}});
 }
 
 void SpeechService::StopSpeech() {
-  if (PrimarySpeaker) PrimarySpeaker->Stop();
-  if (SecondSpeaker) SecondSpeaker->Stop();
+  if (PrimarySpeaker) Turn.push_back({SpeechHow::Stop, "", {}, {}});
+}
+
+void SpeechService::EndTurn() {
+  if (Turn.empty()) return;
+  std::size_t firstHeard = Turn.size() - 1;
+  while (firstHeard > 0 && Turn[firstHeard].How == SpeechHow::Queued) --firstHeard;
+  if (Observer) Observer->TurnEnded(Turn, firstHeard);
+  for (SpeechAct& act : std::span(Turn).subspan(firstHeard)) HandOver(std::move(act));
+  Turn.clear();
+}
+
+void SpeechService::HandOver(SpeechAct act) {
+  if (!PrimarySpeaker) return;
+  const bool now = act.How == SpeechHow::Now;
+  if (act.How != SpeechHow::Queued) Reading = {};
+  if (act.How == SpeechHow::Stop) {
+    PrimarySpeaker->Stop();
+    if (SecondSpeaker) SecondSpeaker->Stop();
+  } else if (!act.Marks.empty()) {
+    Reading = {std::move(act.Text), std::move(act.Marks)};
+    ReadNextPiece(now);
+    ReadNextPiece(false);
+  } else if (now) {
+    PrimarySpeaker->SpeakNow(VoicedTextOf(act));
+  } else {
+    PrimarySpeaker->SpeakQueued(VoicedTextOf(act));
+  }
+}
+
+void SpeechService::ReadNextPiece(bool now) {
+  if (!PrimarySpeaker || Reading.IsOver()) return;
+  const PiecewiseReading::Piece piece = Reading.Next();
+  const VoicedText voiced = MakeVoiced(piece.Text, Rules(), {}, piece.Marks);
+  if (now)
+    PrimarySpeaker->SpeakNow(voiced.Text, voiced.Marks);
+  else
+    PrimarySpeaker->SpeakQueued(voiced.Text, voiced.Marks);
+}
+
+void SpeechService::BookMarkReached(std::int32_t number) {
+  if (Reading.IsNewest(number)) ReadNextPiece(false);
+}
+
+VoicingRules SpeechService::Rules() const {
+  NumberReading reading = Settings.ReadNumbersAs;
+  if (reading == NumberReading::AsHost)
+    reading = Settings.ReadAsDigits ? NumberReading::Digits : NumberReading::Natural;
+  return {Words, reading, Settings.SpokenDecimals, Settings.ReadAsDigits};
+}
+
+/// A text of one character is that character's name. All else that a voice is given is made by the rules.
+std::string SpeechService::VoicedTextOf(const SpeechAct& act) const {
+  const VoicingRules rules = Rules();
+  if (act.Text.size() == 1 && rules.Reading != NumberReading::Voice) return SpeakableChar(act.Text);
+  return MakeVoiced(act.Text, rules, act.Value).Text;
 }
 
 std::string SpeechService::TranslateForSpeech(std::string_view text) const {

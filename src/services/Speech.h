@@ -2,13 +2,16 @@
 #pragma once
 
 #include <memory>
+#include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "model/Form.h"
 #include "platform/Platform.h"
 #include "services/AppSettings.h"
 #include "services/Messages.h"
+#include "services/SpeechTurn.h"
 #include "services/VerbosityTable.h"
 
 namespace qves {
@@ -31,14 +34,28 @@ class SpeechService {
   /// Releases the speech objects without a wait.
   void ReleaseSpeech();
 
-  /// Silences what is being spoken and says the text at once.
-  void SpeakText(std::string_view text);
+  /// Silences what is being spoken and says the text at once. `value` is where a value stands in it that is
+  /// no plain number.
+  void SpeakText(std::string_view text, ValueSpan value = {});
   /// Says the text after what is being spoken.
-  void SpeakTextQueued(std::string_view text);
+  void SpeakTextQueued(std::string_view text, ValueSpan value = {});
+  /// Says a help after the name before it, unless speech is to be brief.
+  void SpeakHelp(std::string_view text);
   /// Reads a long text, with marks that are told when they are reached: after what is being spoken, or
   /// silencing that. It is not what LastSpokenText repeats.
   void ReadAloud(std::string_view text, std::span<const BookMark> marks, bool queued);
   void StopSpeech();
+
+  /// What handles an event calls this when it has: all that was spoken meanwhile goes to the voice, but what
+  /// the event itself cut off again.
+  void EndTurn();
+  /// Told of every turn; null: nobody is.
+  void SetObserver(SpeechObserver* observer) { Observer = observer; }
+  /// The text that the voice is given for it.
+  std::string VoicedTextOf(const SpeechAct& act) const;
+  /// The voice has come to a mark of what is read aloud.
+  void BookMarkReached(std::int32_t number);
+
   bool HasSpeaker() const { return PrimarySpeaker != nullptr; }
   /// The last text handed to SpeakText or SpeakTextQueued while there was a speaker.
   const std::string& LastSpokenText() const { return LastText; }
@@ -64,6 +81,9 @@ class SpeechService {
                  int language) const;
   bool OpenEngine(int index);
   void ApplyVoiceSettings();
+  void HandOver(SpeechAct act);
+  VoicingRules Rules() const;
+  void ReadNextPiece(bool now);
   template <class Talker>
   void WaitWhileBusy(const Talker& talker, std::int32_t deadline);
 
@@ -74,6 +94,10 @@ class SpeechService {
   TtsSpeaker* PrimarySpeaker = nullptr;
   TtsSpeaker* SecondSpeaker = nullptr;
   std::string LastText;
+  VoiceWords Words;
+  std::vector<SpeechAct> Turn;
+  PiecewiseReading Reading;
+  SpeechObserver* Observer = nullptr;
   TtsEngineInfo Opened;  ///< what the engine is
 };
 

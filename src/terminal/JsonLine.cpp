@@ -44,6 +44,11 @@ void JsonLine::Value(std::string_view text) {
     Line += Dump(text);
 }
 
+void JsonLine::Value(int number) {
+  Separate();
+  Line += std::to_string(number);
+}
+
 void JsonLine::Value(const Json& value) {
   Separate();
   Line += Dump(value);

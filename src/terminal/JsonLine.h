@@ -15,6 +15,7 @@ class JsonLine {
   /// The name of the next value of an object.
   void Name(std::string_view name);
   void Value(std::string_view text);
+  void Value(int number);
   void Value(const nlohmann::ordered_json& value);
 
   template <class Item>

@@ -14,6 +14,7 @@ namespace qves {
 struct Options : CommonOptions {
   bool Script = false;
   std::string ScriptFile;  ///< "" or "-": standard input
+  bool Voiced = false;     ///< tells what a voice is given, too
   std::optional<Date> Today;
   std::optional<unsigned long> Seed;
   std::optional<SpeechChoice> Speech;  ///< none: the transcript alone

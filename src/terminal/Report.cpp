@@ -78,6 +78,7 @@ void ReportSpeech(JsonLine& report, const Transcript& spoken) {
     report.Begin('{');
     report.Field("how", said.How);
     if (said.How != "stop") report.Field("text", std::string_view(said.Text));
+    if (said.Voiced) report.Field("voiced", std::string_view(*said.Voiced));
     report.End('}');
   }
   report.End(']');

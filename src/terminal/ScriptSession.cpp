@@ -38,6 +38,11 @@ std::optional<int> ToNumber(std::string_view text) {
   return number;
 }
 
+std::string_view NameOf(SpeechHow how) {
+  constexpr std::string_view names[] = {"now", "queued", "stop"};
+  return names[static_cast<std::size_t>(how)];
+}
+
 std::string Quoted(std::string_view text) {
   return "\"" + std::string(text.substr(0, 60)) + "\"";
 }
@@ -64,15 +69,29 @@ ScriptSession::ScriptSession(const Options& options)
       TheClock(options.Today),
       Random(options.Seed),
       RealSpeech(options.Speech ? LoadSpeech(*options.Speech, Events) : nullptr),
-      Speech(Spoken, RealSpeech.get()),
       Sounds(Files),
-      Outside{Speech,        Hook,     Hints,  WindowMessages, Windows, Files,      Directories,
-              RegistryStore, TheClock, Events, Random,         Sounds,  FileDialog, TheInverseT},
+      Outside{RealSpeech ? *RealSpeech : SilentSpeech,
+              Hook,
+              Hints,
+              WindowMessages,
+              Windows,
+              Files,
+              Directories,
+              RegistryStore,
+              TheClock,
+              Events,
+              Random,
+              Sounds,
+              FileDialog,
+              TheInverseT},
       Services_(Outside),
-      App(Services_.All, *this) {
+      App(Services_.All, *this),
+      TellsVoiced(options.Voiced) {
   Files.RefuseRelativePaths();  // the messages are those of the program's own folder
   Services_.All.Sounds.OnPlayed([this](std::string_view eventName) { Played.emplace_back(eventName); });
+  Services_.All.Speech.SetObserver(this);
   App.Main({options.View});
+  Services_.All.Speech.EndTurn();
   // The lines report what they do themselves; the start is over.
   Spoken.clear();
   Files.TakeWritten();
@@ -87,6 +106,7 @@ const std::string& ScriptSession::Run(int lineNumber, std::string_view line) {
   const std::string error = IsUtf8(line) ? Perform(Trim(line)) : "the line is not UTF-8";
   Errors = Errors || !error.empty();
   Events.ProcessEvents(0);
+  Services_.All.Speech.EndTurn();
   Report(lineNumber, line, error);
   return Line.Text();
 }
@@ -119,7 +139,9 @@ void ScriptSession::Press(const KeyEvent& event) {
   if (event.Code == KeyCapsLock || event.Code == KeyNumLock || event.Code == KeyScrollLock)
     Windows.Toggle(event.Code);
   App.KeyDown(event);
+  Services_.All.Speech.EndTurn();
   App.KeyUp(event.Code);
+  Services_.All.Speech.EndTurn();
 }
 
 std::string ScriptSession::WithControl(std::string_view argument, void (Form::*action)(Control&)) {
@@ -172,7 +194,7 @@ std::string ScriptSession::Answer(std::string_view argument) {
 std::string ScriptSession::Heard(std::string_view argument) {
   const auto count = ToNumber(argument);
   if (!argument.empty() && (!count || *count < 0)) return "heard wants a number of bookmarks, or nothing";
-  Speech.ReadOn(count);
+  SilentSpeech.ReadOn(count);
   return "";
 }
 
@@ -192,10 +214,18 @@ void ScriptSession::TextAppended(Form&, TextBox& box, std::size_t from) {
   if (box.Has(MultiLine)) TapeAdded.append(box.Text, from);
 }
 
+void ScriptSession::TurnEnded(std::span<const SpeechAct> acts, std::size_t firstHeard) {
+  for (const SpeechAct& act : acts) {
+    const bool isHeard = act.How != SpeechHow::Stop && &act >= &acts[firstHeard];
+    Spoken.push_back({NameOf(act.How), act.Text, std::nullopt});
+    if (isHeard && TellsVoiced) Spoken.back().Voiced = Services_.All.Speech.VoicedTextOf(act);
+  }
+}
+
 void ScriptSession::Report(int lineNumber, std::string_view line, const std::string& error) {
   Line.Clear();
   Line.Begin('{');
-  Line.Field("line", nlohmann::ordered_json(lineNumber));
+  Line.Field("line", lineNumber);
   Line.Field("command", line);
   if (!error.empty()) Line.Field("error", std::string_view(error));
   ReportForm(Line, App.ActiveForm(), TapeAdded);

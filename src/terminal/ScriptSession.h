@@ -17,13 +17,14 @@
 #include "terminal/AnsweredFileDialog.h"
 #include "terminal/JsonLine.h"
 #include "terminal/Options.h"
-#include "terminal/RecordingTts.h"
+#include "terminal/Report.h"
 #include "terminal/SilentSounds.h"
+#include "terminal/SilentTts.h"
 #include "terminal/TerminalWindows.h"
 
 namespace qves {
 
-class ScriptSession : private AppObserver, private FormObserver {
+class ScriptSession : private AppObserver, private FormObserver, private SpeechObserver {
  public:
   explicit ScriptSession(const Options& options);
   ~ScriptSession() override;
@@ -56,6 +57,7 @@ class ScriptSession : private AppObserver, private FormObserver {
 
   void FormShown(Form& form) override { form.AddObserver(*this); }
   void TextAppended(Form&, TextBox& box, std::size_t from) override;
+  void TurnEnded(std::span<const SpeechAct> acts, std::size_t firstHeard) override;
 
   static const Command Commands[];
 
@@ -69,9 +71,8 @@ class ScriptSession : private AppObserver, private FormObserver {
   KeyCapture Hook;
   HintNotify Hints;
   AppWMSpy WindowMessages;
-  Transcript Spoken;
-  std::unique_ptr<TTS> RealSpeech;
-  RecordingTts Speech;
+  std::unique_ptr<TTS> RealSpeech;  ///< null: the silent one speaks
+  SilentTts SilentSpeech;
   SilentSounds Sounds;
   AnsweredFileDialog FileDialog;
   InverseT TheInverseT;
@@ -80,6 +81,8 @@ class ScriptSession : private AppObserver, private FormObserver {
   CalculatorApp App;
 
   JsonLine Line;
+  Transcript Spoken;
+  const bool TellsVoiced;
   std::string TapeAdded;
   std::vector<std::string> Played;  ///< names of the events that sounded
   bool WantsState = false;

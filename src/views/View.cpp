@@ -169,16 +169,25 @@ void View::OnGotFocus(Control& control) {
   SayOf(control, &control == Display);
   const bool saysHelp =
       dynamic_cast<CheckBox*>(&control) || dynamic_cast<ListBox*>(&control) || control.Has(HelpOnFocus);
-  if (saysHelp && !control.Speaking.Quiescent) Services_.Speech.SpeakTextQueued(control.HelpText);
+  if (saysHelp && !control.Speaking.Quiescent) Services_.Speech.SpeakHelp(control.HelpText);
 }
 
 void View::SayOf(const Control& control, bool queued) {
   const std::string text = Announcement(control);
   if (control.Speaking.Quiescent) return;
+  const ValueSpan value = &control == Display ? ValueIn(text) : ValueSpan{};
   if (queued)
-    Services_.Speech.SpeakTextQueued(text);
+    Services_.Speech.SpeakTextQueued(text, value);
   else
-    Services_.Speech.SpeakText(text);
+    Services_.Speech.SpeakText(text, value);
+}
+
+/// Where the display's value stands in its announcement.
+ValueSpan View::ValueIn(std::string_view announcement) const {
+  const std::string& sentence = Message(CurrentValueMessage);
+  const std::size_t start = sentence.find(Placeholder);
+  if (Engine->InError() || start == std::string::npos) return {};
+  return {start, announcement.size() + Placeholder.size() - sentence.size(), Engine->DisplayKind()};
 }
 
 /// The display says its value, a box of several lines all of them, the memory indicator its name and its

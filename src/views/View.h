@@ -77,6 +77,7 @@ class View : public Form, protected EngineHost {
   void ShutDownSpeech();
   void PressByKey(Control& control);
   void SayOf(const Control& control, bool queued);
+  ValueSpan ValueIn(std::string_view announcement) const;
   bool TextBoxKey(TextBox& box, const KeyEvent& event);
   void ChooseView(int id);
   const std::string& Message(int id) const { return Services_.Messages.GetMessage(id); }

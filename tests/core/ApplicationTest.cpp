@@ -26,7 +26,11 @@ struct ApplicationTest : testing::Test, AppObserver {
     App.emplace(Set->All, *this);
     return App->Main();
   }
-  Texts TakeSaid() { return std::exchange(Outside.Speech.Said, {}); }
+  /// What the voice was given since the last look, the event of now included.
+  Texts TakeSaid() {
+    Set->All.Speech.EndTurn();
+    return std::exchange(Outside.Speech.Said, {});
+  }
 };
 
 TEST_F(ApplicationTest, AFirstCopyWelcomesAndASecondOnlyRaisesIt) {

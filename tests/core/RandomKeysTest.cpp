@@ -105,6 +105,7 @@ TEST_P(RandomKeys, NothingBreaksAndEveryDisplayIsWhole) {
     const KeyEvent event = RandomKey(random, GetParam());
     app.KeyDown(event);
     app.KeyUp(event.Code);
+    set.All.Speech.EndTurn();
     outside.Speech.Said.clear();
     ASSERT_TRUE(IsWholeDisplay(display.Text)) << display.Text;
   }

@@ -32,7 +32,11 @@ class ScientificFaults : public testing::Test {
     App.ActiveForm()->Click(*App.ActiveForm()->Find(name, index));
   }
   std::string Display() { return dynamic_cast<TextBox&>(*App.ActiveForm()->Find("txtDisplay")).Text; }
-  std::string LastSaid() { return Outside.Speech.Said.back(); }
+  /// What the voice was given last.
+  std::string LastSaid() {
+    Set.All.Speech.EndTurn();
+    return Outside.Speech.Said.back();
+  }
 
   FakePlatform Outside;
   ServiceSet Set{Outside.All};

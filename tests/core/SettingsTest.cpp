@@ -10,7 +10,7 @@ struct SettingsTest : testing::Test {
   FakePlatform Outside;
   std::optional<ServiceSet> Set;
 
-  const AppSettings& Read(const std::string& hostFile) {
+  AppSettings& Read(const std::string& hostFile) {
     Outside.Files.Content[Outside.HostFile] = hostFile;
     Set.emplace(Outside.All);
     Set->All.SettingsStore.ReadSettings();
@@ -85,6 +85,23 @@ TEST_F(SettingsTest, OwnFileHoldsTheView) {
   Set->All.Settings.CalcView = 0;
   Set->All.SettingsStore.SaveSettings();
   EXPECT_EQ(Outside.Files.Content[Outside.OwnFile], "\"Calc Settings\"\n\"CalcView\",0\n");
+}
+
+TEST_F(SettingsTest, OwnFileHoldsWhatIsNotAsUsual) {
+  Outside.Files.Content[Outside.OwnFile] =
+      "\"Calc Settings\"\n\"NumberReading\",\"pairs\"\n\"SpokenDecimals\",4\n\"SpeechDetail\",\"short\"\n"
+      "\"CalcView\",3\n";
+  AppSettings& settings = Read("\"Settings\"\n");
+  EXPECT_EQ(settings.ReadNumbersAs, NumberReading::Pairs);
+  EXPECT_EQ(settings.SpokenDecimals, 4);
+  EXPECT_EQ(settings.Detail, SpeechDetail::Full);
+  EXPECT_EQ(settings.CalcView, BusinessView) << "a bad value does not end the reading";
+  EXPECT_NE(Outside.ErrorLog().find("\"short\" is no value of SpeechDetail"), std::string::npos);
+  settings.SpokenDecimals = AllDecimals;
+  settings.Detail = SpeechDetail::Brief;
+  Set->All.SettingsStore.SaveSettings();
+  EXPECT_EQ(Outside.Files.Content[Outside.OwnFile],
+            "\"Calc Settings\"\n\"CalcView\",3\n\"NumberReading\",\"pairs\"\n\"SpeechDetail\",\"brief\"\n");
 }
 
 TEST_F(SettingsTest, VerbosityEntriesReachTheirTable) {

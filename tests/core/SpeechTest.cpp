@@ -59,6 +59,7 @@ TEST_F(SpeechTest, WithoutAnEngineEverythingIsSilent) {
     Speech.SpeakText("a");
     Speech.SpeakTextQueued("b");
     Speech.StopSpeech();
+    Speech.EndTurn();
     Speech.ShutDownSpeech();
     return Outside.Speech.Said.empty() && Speech.LastSpokenText().empty();
   };
@@ -86,6 +87,64 @@ TEST_F(SpeechTest, NumbersAndCharacters) {
   EXPECT_EQ(Speech.SpeakableChar("\xC3\xA9"), "\xC3\xA9");
 }
 
+TEST_F(SpeechTest, ATurnHandsOverWhatWasNotCutOffInIt) {
+  using Texts = std::vector<std::string>;
+  enum Act { Now, Queued, Stop };
+  const struct {
+    std::vector<std::pair<Act, const char*>> Acts;
+    Texts Heard;
+  } rows[] = {
+      {{{Now, "name"}, {Queued, "help"}, {Now, "echo"}}, {"now echo"}},
+      {{{Now, "name"}, {Queued, "help"}}, {"now name", "queued help"}},
+      {{{Queued, "value"}}, {"queued value"}},
+      {{{Now, "name"}, {Stop, ""}, {Queued, "value"}}, {"stop", "queued value"}},
+      {{{Queued, "a"}, {Stop, ""}}, {"stop"}},
+      {{}, {}},
+  };
+  Create();
+  for (const auto& row : rows) {
+    Outside.Speech.Said.clear();
+    for (const auto& [act, text] : row.Acts)
+      act == Now      ? Speech.SpeakText(text)
+      : act == Queued ? Speech.SpeakTextQueued(text)
+                      : Speech.StopSpeech();
+    EXPECT_EQ(Outside.Speech.Said, Texts{}) << "before the event is over";
+    Speech.EndTurn();
+    EXPECT_EQ(Outside.Speech.Said, row.Heard);
+    Speech.EndTurn();
+    EXPECT_EQ(Outside.Speech.Said, row.Heard) << "once";
+  }
+}
+
+TEST_F(SpeechTest, ALongTextIsGivenToTheVoicePieceByPiece) {
+  Create();
+  std::string text;
+  std::vector<BookMark> marks;
+  for (int sentence = 0; sentence < 200'000; ++sentence) {
+    if (sentence > 0) marks.push_back({text.size(), sentence});
+    text += "This sentence has 2.5 numbers in its middle.\n";
+  }
+  marks.push_back({text.size(), 200'000});
+  Speech.ReadAloud(text, marks, false);
+  Speech.EndTurn();
+  ASSERT_EQ(Outside.Speech.Said.size(), 2U);
+  std::size_t given = Outside.Speech.Said[0].size() + Outside.Speech.Said[1].size();
+  EXPECT_LT(given, 64'000U) << "the first word does not wait for the rest";
+  for (const BookMark& mark : marks) Speech.BookMarkReached(mark.Number);
+  std::string heard;
+  for (const std::string& piece : Outside.Speech.Said) heard += piece.substr(piece.find(' ') + 1);
+  EXPECT_TRUE(heard == text) << "all of it, in order";
+  // What is spoken at once ends the reading.
+  Speech.ReadAloud(text, marks, false);
+  Speech.SpeakTextQueued("behind");
+  Speech.EndTurn();
+  Speech.SpeakText("key");
+  Speech.EndTurn();
+  const std::size_t before = Outside.Speech.Said.size();
+  for (const BookMark& mark : marks) Speech.BookMarkReached(mark.Number);
+  EXPECT_EQ(Outside.Speech.Said.size(), before);
+}
+
 TEST_F(SpeechTest, ShutdownWaitsForTheEndAndNoLongerThanItsLimit) {
   Create();
   Outside.Speech.BusyNow = true;
@@ -102,6 +161,7 @@ TEST_F(SpeechTest, ShutdownWaitsForTheEndAndNoLongerThanItsLimit) {
   Speech.ShutDownSpeech();
   EXPECT_LE(Outside.TheClock.Ticks - start, ShutDownWait + 500) << "one limit for all three waits";
   Speech.SpeakText("after");
+  Speech.EndTurn();
   EXPECT_EQ(Outside.Speech.Said.back(), "stop");
 }
 
@@ -116,9 +176,11 @@ TEST_F(SpeechTest, AVoiceThatIsFoundLaterIsTakenThen) {
   const AppSettings& s = Set.All.Settings;
   Speech.CreateSpeech(s.SystemVoice, s.SystemManuf, s.SystemProduct, s.SystemLanguage);
   Speech.SpeakText("hello");
+  Speech.EndTurn();
   Outside.Speech.Engines.push_back({"IBM", "Product", "Late", 9});
   Outside.Speech.BusyNow = true;
   Speech.EngineListChanged();
+  Speech.EndTurn();
   EXPECT_EQ(Outside.Speech.Said, (std::vector<std::string>{"now hello", "now hello"}));
   Speech.EngineListChanged();
   EXPECT_EQ(std::count(Outside.Speech.Settings.begin(), Outside.Speech.Settings.end(), "open 2"), 1);

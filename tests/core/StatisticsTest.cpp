@@ -151,10 +151,11 @@ TEST_F(StatisticsViewTest, AFullListTakesNothingMore) {
   EXPECT_EQ(Points(), 32767);
   EXPECT_NE(Outside.ErrorLog().find("/data.txt: line 32768: "), std::string::npos) << Outside.ErrorLog();
   Press('7');
-  Outside.Speech.Said.clear();
   Press('A');
   EXPECT_EQ(Points(), 32767);
   EXPECT_EQ(Display(), "E");
+  Outside.Speech.Said.clear();
+  Set.All.Speech.EndTurn();
   EXPECT_EQ(Outside.Speech.Said, Texts{"now Error"});
   Press('R');
   Press('7');

@@ -69,6 +69,30 @@ TEST_F(ScriptMode, OneObjectForEachCommandLine) {
       R"json("tape":["7 + 5 = 12"],"spoken":[{"how":"now","text":"= 12"}],"sounds":[],"files":[]})json");
 }
 
+TEST_F(ScriptMode, TellsWhatTheVoiceIsGiven) {
+  WriteSettings("Calc.ost", "\"Calc Settings\"\n\"SpokenDecimals\",2\n\"SpeechDetail\",\"brief\"\n");
+  const auto voiced = [](const Json& said) { return said.value("voiced", "-"); };
+  Outcome outcome = Run("keys 2@\nfocus txtResult\nfocus cmdEqual\n", "--voiced");
+  ASSERT_EQ(outcome.Lines.size(), 3u);
+  const Json& keys = outcome.Lines[0]["spoken"];
+  ASSERT_EQ(keys.size(), 3u) << "the name on focus, which the key's own echo cuts off, is spoken too";
+  EXPECT_EQ(voiced(keys[0]), "-");
+  EXPECT_EQ(voiced(keys[1]), "2");
+  EXPECT_EQ(voiced(keys[2]), "about 1 point 4 1");
+  EXPECT_EQ(voiced(outcome.Lines[1]["spoken"][0]), "square root of 2 equals about 1 point 4 1\r\n");
+  EXPECT_EQ(voiced(outcome.Lines[2]["spoken"][0]), "equals");
+  // Values of a number base and dates are told by who speaks them; in brief no help follows a name.
+  outcome = Run("focus lltNumBase\nselect lltNumBase 0\nkeys FACE\nkey Enter\nkey Ctrl+v\n",
+                "--voiced --view scientific");
+  ASSERT_EQ(outcome.Lines.size(), 5u);
+  EXPECT_EQ(outcome.Lines[0]["spoken"].size(), 1u);
+  EXPECT_EQ(voiced(outcome.Lines[3]["spoken"][0]), "equals F A, C E");
+  EXPECT_EQ(voiced(outcome.Lines[4]["spoken"][0]), "Current value is  F A, C E");
+  outcome = Run("keys 4.072004glg\nkeys 4.072004d5=\n", "--voiced --view business");
+  EXPECT_EQ(voiced(outcome.Lines[0]["spoken"].back()), "begin date 4 point 0 7, 2 0 0 4");
+  EXPECT_EQ(voiced(outcome.Lines[1]["spoken"].back()), "equals Monday, April 12 2004");
+}
+
 TEST_F(ScriptMode, BadLinesAreReportedAndTheRunGoesOn) {
   const std::string megabyte(1 << 20, 'x');
   const Outcome outcome = Run("bla\n" + megabyte + "\nkey \xFF\xFE\nkey 7\n");

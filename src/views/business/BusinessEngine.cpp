@@ -48,7 +48,7 @@ void BusinessEngine::AddToDate(double first, double& second) {
   const DayNumber day = AddDays(ParseDateNumber(NumberToText(first), names), second);
   second = TextToNumber(FormatDateNumber(day));
   EntryText = FormatLongDate(day, names);
-  Show();
+  Show(ValueKind::DateText);
 }
 
 StateFields BusinessEngine::Fields() const {

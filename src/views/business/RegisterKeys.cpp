@@ -56,7 +56,7 @@ void BusinessEngine::PrefixKey(const PressedKey& key) {
   for (const PrefixRow& row : rows)
     if (row.Caption == key.Caption) LastAction = row.Tag;
   Says.Say(key.SpokenName);
-  Says.SayMore(key.HelpText);
+  Says.SayHelp(key.HelpText);
 }
 
 void BusinessEngine::RegisterKey(const PressedKey& key) {
@@ -117,7 +117,7 @@ void BusinessEngine::Recall(const RegisterRow& row) {
   if (row.Day) {
     EntryText = FormatDateNumber(Registers.*row.Day);
     CurrentValue = TextToNumber(EntryText);
-    Show();
+    Show(ValueKind::DateNumber);
   } else {
     if (row.OnRecall)
       (this->*row.OnRecall)();
@@ -127,7 +127,8 @@ void BusinessEngine::Recall(const RegisterRow& row) {
   }
   FinishKey(Fin);
   // The display's text as it stands, where a solved register is spoken as a number: wanted so.
-  Says.Say(RegisterName() + " " + DisplayText());
+  const std::string leadIn = RegisterName() + " ";
+  Says.Say(leadIn + DisplayText(), {leadIn.size(), DisplayText().size(), DisplayKind()});
 }
 
 void BusinessEngine::ExchangeKey(const PressedKey&) {

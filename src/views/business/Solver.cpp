@@ -28,7 +28,7 @@ void BusinessEngine::SolveRegister(std::string_view tag) {
   for (const SolverRow& row : SolverTable)
     if (row.Tag == tag) CurrentValue = (this->*row.Solve)();
   ShowMoney(CurrentValue);
-  Says.SayValue(DisplayText(), RegisterName() + " ");
+  Says.SayValue(DisplayText(), DisplayKind(), RegisterName() + " ");
   FinishKey(qves::LastAction::Uop);
 }
 

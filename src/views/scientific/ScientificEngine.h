@@ -47,6 +47,9 @@ class ScientificEngine : public EntryEngine {
   /// and the base is another all the same.
   void ChangeBase(int base);
 
+  ValueKind DisplayKind() const override {
+    return NumBase == NumberBase::Decimal ? ValueKind::Number : ValueKind::BaseDigits;
+  }
   StateFields Fields() const override;
 
  protected:

@@ -1,0 +1,56 @@
+// What is spoken while one event is handled, and a long text on its way to the voice.
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "voicing/VoicedText.h"
+
+namespace qves {
+
+enum class SpeechHow { Now, Queued, Stop };
+
+struct SpeechAct {
+  SpeechHow How = SpeechHow::Now;
+  std::string Text;
+  ValueSpan Value;
+  std::vector<BookMark> Marks;  ///< of a text that is read aloud
+};
+
+class SpeechObserver {
+ public:
+  virtual ~SpeechObserver() = default;
+  /// All that was spoken in a turn, in order. Those from `firstHeard` on go to the voice.
+  virtual void TurnEnded(std::span<const SpeechAct> acts, std::size_t firstHeard) = 0;
+};
+
+/// A text that is read aloud, cut into pieces at its marks: the voice has one piece more than it needs, and a
+/// long text begins as soon as a short one.
+class PiecewiseReading {
+ public:
+  PiecewiseReading() = default;
+  PiecewiseReading(std::string text, std::vector<BookMark> marks)
+      : Text(std::move(text)), Marks(std::move(marks)) {}
+
+  struct Piece {
+    std::string_view Text;
+    std::vector<BookMark> Marks;  ///< offsets within the piece
+  };
+
+  bool IsOver() const { return Start == Text.size(); }
+  Piece Next();
+  /// Whether that mark begins the piece taken last.
+  bool IsNewest(std::int32_t mark) const { return mark == Newest; }
+
+ private:
+  std::string Text;
+  std::vector<BookMark> Marks;  ///< in order
+  std::size_t Start = 0;        ///< of the next piece
+  std::size_t NextMark = 0;
+  std::int32_t Newest = -1;
+};
+
+}  // namespace qves

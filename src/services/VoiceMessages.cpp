@@ -1,0 +1,51 @@
+#include "services/VoiceMessages.h"
+
+namespace qves {
+namespace {
+
+struct WordRow {
+  std::string VoiceWords::*Word;
+  int Message;
+};
+
+constexpr WordRow SpokenWords[] = {
+    {&VoiceWords::Separator, 1081},
+    {&VoiceWords::Point, 1073},
+    {&VoiceWords::SpokenMinus, 1204},
+};
+
+/// They have blanks around where they are spoken.
+constexpr WordRow HeardWords[] = {
+    {&VoiceWords::Plus, 1206},      {&VoiceWords::Minus, 1204},         {&VoiceWords::Times, 1208},
+    {&VoiceWords::DividedBy, 1207}, {&VoiceWords::Equals, 1720},        {&VoiceWords::Of, 1721},
+    {&VoiceWords::About, 1722},     {&VoiceWords::TimesTenToThe, 1723},
+};
+
+/// A function as a tape line writes it, and the name of its button.
+constexpr std::pair<std::string_view, int> Functions[] = {{"Sqr", 1000}};
+
+constexpr int FirstMonth = 1587;  // abbreviated
+constexpr int FirstFullMonth = 1730;
+constexpr int MonthCount = 12;
+
+std::string Trimmed(std::string_view text) {
+  const std::size_t first = text.find_first_not_of(' ');
+  if (first == std::string_view::npos) return "";
+  return std::string(text.substr(first, text.find_last_not_of(' ') - first + 1));
+}
+
+}  // namespace
+
+VoiceWords ReadVoiceWords(const MessageStore& messages) {
+  VoiceWords words;
+  for (const WordRow& row : SpokenWords) words.*row.Word = messages.GetMessage(row.Message);
+  for (const WordRow& row : HeardWords) words.*row.Word = Trimmed(messages.GetMessage(row.Message));
+  for (const auto& [written, message] : Functions)
+    words.Functions.emplace_back(written, messages.GetMessage(message));
+  for (int month = 0; month < MonthCount; ++month)
+    words.Months.emplace_back(messages.GetMessage(FirstMonth + month),
+                              messages.GetMessage(FirstFullMonth + month));
+  return words;
+}
+
+}  // namespace qves

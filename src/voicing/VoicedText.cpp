@@ -1,0 +1,197 @@
+#include "voicing/VoicedText.h"
+
+#include <utility>
+
+#include "voicing/SpokenNumber.h"
+
+namespace qves {
+namespace {
+
+constexpr std::string_view Blanks = " \t\r\n";
+constexpr std::string_view BaseDigits = "0123456789ABCDEF";
+
+bool IsBlank(char c) {
+  return Blanks.find(c) != std::string_view::npos;
+}
+
+/// A digit, a letter or a byte of a letter beyond ASCII.
+bool IsWordCharacter(char c) {
+  return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || (c & 0x80) != 0;
+}
+
+/// Whether a word that comes next has to be kept apart from what stands there.
+bool IsGlued(char neighbour) {
+  return IsWordCharacter(neighbour) || neighbour == '-' || neighbour == '(' || neighbour == ')';
+}
+
+/// Goes through a spoken text from left to right and writes the voiced one.
+class Voicing {
+ public:
+  Voicing(std::string_view text, const VoicingRules& rules, ValueSpan value, std::span<const BookMark> marks)
+      : Text(text), Rules(rules), Words(rules.Words), Value(value), Marks(marks) {
+    Out.Text.reserve(text.size() + text.size() / 2);
+    Out.Marks.reserve(marks.size());
+  }
+
+  VoicedText Run() {
+    while (At < Text.size())
+      if (!TakeValue() && !TakeNumber() && !TakeSign() && !TakeFunction() && !TakeFunctionEnd()) Copy();
+    PinMarks(Text.size());
+    return std::move(Out);
+  }
+
+ private:
+  /// The marks up to that place in the spoken text stand where the voiced text has come to.
+  void PinMarks(std::size_t place) {
+    for (; NextMark < Marks.size() && Marks[NextMark].Offset <= place; ++NextMark)
+      Out.Marks.push_back({Out.Text.size(), Marks[NextMark].Number});
+  }
+
+  void Copy() {
+    PinMarks(At);
+    Out.Text += Text[At++];
+  }
+
+  /// Writes words in place of so many bytes.
+  void Say(std::string_view words, std::size_t length) {
+    if (!Out.Text.empty() && IsWordCharacter(Out.Text.back())) Out.Text += ' ';
+    PinMarks(At);
+    Out.Text += words;
+    At += length;
+  }
+
+  void SayWord(std::string_view word, std::size_t length) {
+    if (!Out.Text.empty() && Out.Text.back() == ')') Out.Text += ' ';
+    Say(word, length);
+    if (At < Text.size() && IsGlued(Text[At])) Out.Text += ' ';
+  }
+
+  bool TakeValue() {
+    if (At != Value.Start || Value.Length == 0) return false;
+    const std::string_view value = Text.substr(At, std::exchange(Value.Length, 0));
+    switch (Value.Kind) {
+      case ValueKind::Number:
+        return false;
+      case ValueKind::BaseDigits:
+        return TakeBaseDigits(value);
+      case ValueKind::DateNumber:
+        return TakeDateNumber();
+      case ValueKind::DateText:
+        Say(InFull(value), value.size());
+        return true;
+    }
+    return false;
+  }
+
+  bool TakeBaseDigits(std::string_view value) {
+    std::string digits;
+    std::size_t length = 0;
+    for (; length < value.size(); ++length) {
+      if (BaseDigits.find(value[length]) != std::string_view::npos)
+        digits += value[length];
+      else if (!Rules.DigitsApart || value[length] != ' ')
+        break;  // an open parenthesis may stand behind the number
+    }
+    if (length > 0) Say(BaseDigitsInWords(digits), length);
+    return length > 0;
+  }
+
+  bool TakeDateNumber() {
+    const auto date = FindNumber(Text, At, Rules);
+    if (date) Say(DateNumberInWords(*date, Rules), date->Length);
+    return date.has_value();
+  }
+
+  /// A date text with its month in full. The day and the year are no values to be taken apart.
+  std::string InFull(std::string_view date) const {
+    for (const auto& [brief, full] : Words.Months) {
+      const std::size_t at = date.find(" " + brief + " ");
+      if (!full.empty() && at != std::string_view::npos)
+        return std::string(date.substr(0, at + 1)) + full + std::string(date.substr(at + 1 + brief.size()));
+    }
+    return std::string(date);
+  }
+
+  bool TakeNumber() {
+    const char c = Text[At];
+    const bool mayBegin = (c >= '0' && c <= '9') || c == '-' || Words.SpokenMinus.starts_with(c);
+    if (!mayBegin) return false;
+    const auto number = FindNumber(Text, At, Rules);
+    if (number) Say(NumberInWords(*number, Rules), number->Length);
+    return number.has_value();
+  }
+
+  /// "=" anywhere, the other signs between blanks.
+  bool TakeSign() {
+    const std::string* word = WordOf(Text[At]);
+    if (!word || word->empty()) return false;
+    const bool isAlone = At > 0 && IsBlank(Text[At - 1]) && At + 1 < Text.size() && IsBlank(Text[At + 1]);
+    if (Text[At] != '=' && !isAlone) return false;
+    SayWord(*word, 1);
+    return true;
+  }
+
+  const std::string* WordOf(char sign) const {
+    switch (sign) {
+      case '=':
+        return &Words.Equals;
+      case '+':
+        return &Words.Plus;
+      case '-':
+        return &Words.Minus;
+      case '*':
+        return &Words.Times;
+      case '/':
+        return &Words.DividedBy;
+      default:
+        return nullptr;
+    }
+  }
+
+  /// "Sqr(" of the tape.
+  bool TakeFunction() {
+    if (At > 0 && IsWordCharacter(Text[At - 1])) return false;
+    for (const auto& [written, said] : Words.Functions) {
+      if (said.empty() || !Text.substr(At).starts_with(written)) continue;
+      if (At + written.size() >= Text.size() || Text[At + written.size()] != '(') continue;
+      ++OpenFunctions;
+      SayWord(said + " " + Words.Of, written.size() + 1);
+      return true;
+    }
+    return false;
+  }
+
+  bool TakeFunctionEnd() {
+    if (OpenFunctions == 0 || Text[At] != ')') return false;
+    --OpenFunctions;
+    ++At;
+    return true;
+  }
+
+  std::string_view Text;
+  const VoicingRules& Rules;
+  const VoiceWords& Words;
+  ValueSpan Value;
+  std::span<const BookMark> Marks;
+  VoicedText Out;
+  std::size_t At = 0;
+  std::size_t NextMark = 0;
+  int OpenFunctions = 0;
+};
+
+/// Whether there is nothing in the text that is ever voiced otherwise.
+bool IsPlain(std::string_view text) {
+  return text.find_first_of("0123456789=+-*/") == std::string_view::npos;
+}
+
+}  // namespace
+
+VoicedText MakeVoiced(std::string_view spoken, const VoicingRules& rules, ValueSpan value,
+                      std::span<const BookMark> marks) {
+  const bool isLeftAlone = rules.Reading == NumberReading::Voice || !rules.Words.Complete();
+  if (isLeftAlone || (value.Kind == ValueKind::Number && IsPlain(spoken)))
+    return {std::string(spoken), {marks.begin(), marks.end()}};
+  return Voicing(spoken, rules, value, marks).Run();
+}
+
+}  // namespace qves

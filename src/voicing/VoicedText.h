@@ -1,0 +1,39 @@
+// From the text that is spoken to the text that a voice is given: numbers, signs and dates in words that no
+// voice mistakes. Pure functions; nothing else in the house changes what a voice hears.
+#pragma once
+
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "platform/TTS.h"
+#include "voicing/VoiceWords.h"
+
+namespace qves {
+
+/// What a value in a spoken text is. Who speaks it says so: nobody guesses it from the letters.
+enum class ValueKind {
+  Number,
+  BaseDigits,  ///< digits and letters of a number base other than decimal
+  DateNumber,  ///< month point day and year
+  DateText,    ///< weekday, month, day and year
+};
+
+/// Where in a text a value stands, in bytes.
+struct ValueSpan {
+  std::size_t Start = 0;
+  std::size_t Length = 0;
+  ValueKind Kind = ValueKind::Number;
+};
+
+struct VoicedText {
+  std::string Text;
+  std::vector<BookMark> Marks;
+};
+
+/// The text for the voice. The marks, in the order of their places, move with what they stand before.
+VoicedText MakeVoiced(std::string_view spoken, const VoicingRules& rules, ValueSpan value = {},
+                      std::span<const BookMark> marks = {});
+
+}  // namespace qves
