@@ -1,6 +1,7 @@
 // How long the core takes from a key press to the back end's speak call and to the end of the key.
 #include <benchmark/benchmark.h>
 
+#include "EnglishVoice.h"
 #include "FakePlatform.h"
 #include "app/CalculatorApp.h"
 #include "engine/Numbers.h"
@@ -14,6 +15,7 @@
 #include "views/business/CashFlows.h"
 #include "views/scientific/NumberBases.h"
 #include "views/statistics/StatisticsEngine.h"
+#include "voicing/VoicedText.h"
 
 namespace qves {
 namespace {
@@ -27,6 +29,7 @@ struct Calculator : AppObserver {
   void Press(const KeyEvent& event) {
     App.KeyDown(event);
     App.KeyUp(event.Code);
+    Set.All.Speech.EndTurn();
     Outside.Speech.Said.clear();
   }
 };
@@ -56,6 +59,35 @@ void ChainedCalculation(benchmark::State& state) {
   state.SetItemsProcessed(4 * state.iterations());
 }
 BENCHMARK(ChainedCalculation);
+
+void VoicedTextOfAResult(benchmark::State& state) {
+  const VoicingRules rules = {English};
+  for (auto _ : state) benchmark::DoNotOptimize(MakeVoiced("=  minus 2point23606797749979", rules));
+}
+BENCHMARK(VoicedTextOfAResult);
+
+void VoicedNameOfAKey(benchmark::State& state) {
+  const VoicingRules rules = {English};
+  for (auto _ : state) benchmark::DoNotOptimize(MakeVoiced("store to memory", rules));
+}
+BENCHMARK(VoicedNameOfAKey);
+
+/// Until the voice has the first words of ten megabytes.
+void StartOfALongReading(benchmark::State& state) {
+  Calculator calculator;
+  std::string text;
+  std::vector<BookMark> marks;
+  while (text.size() < 10'000'000) {
+    marks.push_back({text.size(), static_cast<std::int32_t>(marks.size())});
+    text += "This sentence of a document has -2.5 numbers in its middle.\n";
+  }
+  for (auto _ : state) {
+    calculator.Set.All.Speech.ReadAloud(text, marks, false);
+    calculator.Set.All.Speech.EndTurn();
+    calculator.Outside.Speech.Said.clear();
+  }
+}
+BENCHMARK(StartOfALongReading)->Unit(benchmark::kMillisecond);
 
 /// 200 keys of a scientific user: functions, powers, groups, exponents, the memory.
 void ScientificKeys(benchmark::State& state) {

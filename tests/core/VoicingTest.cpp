@@ -1,24 +1,11 @@
 // What a voice is given for what is spoken.
 #include <gtest/gtest.h>
 
+#include "EnglishVoice.h"
 #include "voicing/VoicedText.h"
 
 namespace qves {
 namespace {
-
-const VoiceWords English = {".",
-                            "point",
-                            " minus ",
-                            "plus",
-                            "minus",
-                            "times",
-                            "divided by",
-                            "equals",
-                            "of",
-                            "about",
-                            "times ten to the",
-                            {{"Sqr", "square root"}},
-                            {{"Apr", "April"}, {"Dec", "December"}}};
 
 std::string Voiced(std::string_view text, NumberReading reading = NumberReading::Natural,
                    int decimals = AllDecimals) {
