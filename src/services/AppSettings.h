@@ -16,6 +16,11 @@ enum CalcViewNumber : std::int16_t {
   BusinessView = 3,
 };
 
+/// Whether the plain comma key types the point: where the desktop's locale writes numbers so, always, never.
+enum DecimalCommaChoice : int { DecimalCommaAuto, DecimalCommaOn, DecimalCommaOff };
+
+enum SwitchChoice : int { SwitchOn, SwitchOff };
+
 struct AppSettings {
   std::int32_t SystemVolume = 65535;
   std::int16_t SystemSpeed = 170;  ///< words per minute
@@ -53,6 +58,10 @@ struct AppSettings {
   bool IgnoreCap = false;
   std::vector<std::string> SpellPref;
   std::vector<std::string> SpellSuff;
+
+  // The calculator's own, see OwnSettings.
+  int DecimalComma = DecimalCommaAuto;
+  int NoFunctionSound = SwitchOn;  ///< a key that does nothing makes a sound
 
   /// True when a host settings file was found: only then its colours and font replace the desktop's own.
   bool HostFileFound = false;

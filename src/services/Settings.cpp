@@ -6,6 +6,7 @@
 #include <charconv>
 #include <variant>
 
+#include "services/OwnSettings.h"
 #include "services/QuotedFields.h"
 #include "services/Text.h"
 
@@ -162,8 +163,13 @@ void SettingsFiles::ReadHostFile() {
 }
 
 void SettingsFiles::ReadOwnFile() {
-  ReadPairs(FolderLocations.OwnSettingsFile, [this](const std::string& key, const std::string& value) {
-    return key == "CalcView" ? Store(Settings.CalcView, value) : std::string_view();
+  const std::string& path = FolderLocations.OwnSettingsFile;
+  ReadPairs(path, [&](const std::string& key, const std::string& value) {
+    if (key == "CalcView") return Store(Settings.CalcView, value);
+    if (const std::string reason = StoreOwnSetting(Settings, key, value); !reason.empty())
+      Log.WriteErrorLog(SettingsErrorCode, path + ": \"" + value.substr(0, 40) + "\" for " + key + " " +
+                                               reason + "; it is ignored");
+    return std::string_view();
   });
 }
 
@@ -205,12 +211,12 @@ bool SettingsFiles::ReadPairs(const std::string& path, StorePair store) {
 }
 
 void SettingsFiles::SaveSettings() {
-  const std::string content =
-      Quote("Calc Settings") + "\n" + Quote("CalcView") + "," + std::to_string(Settings.CalcView) + "\n";
+  const std::string content = Quote("Calc Settings") + "\n" + Quote("CalcView") + "," +
+                              std::to_string(Settings.CalcView) + "\n" + OwnSettingLines(Settings);
   std::string error;
   if (!Outside.Files.Write(FolderLocations.OwnSettingsFile, content, error))
     Log.WriteErrorLog(SettingsErrorCode, FolderLocations.OwnSettingsFile + ": cannot be written (" + error +
-                                             "); the view is not remembered");
+                                             "); the settings are not kept");
 }
 
 }  // namespace qves

@@ -56,6 +56,8 @@ std::optional<Options> ParseOptions(const std::vector<std::string>& arguments, s
   for (std::size_t at = 0; at < arguments.size(); ++at) {
     if (arguments[at] == "--script") {
       options.Script = true;
+    } else if (arguments[at] == "--decimal-comma") {
+      options.DecimalComma = true;
     } else if (options.Script && options.ScriptFile.empty() && !arguments[at].starts_with("--")) {
       options.ScriptFile = arguments[at];
     } else if (!TakeOption<Options>(options, ValueOptions, arguments, at, error)) {
@@ -75,6 +77,7 @@ std::string_view HelpText() {
          "  --home DIR                                       all settings and documents lie below DIR\n"
          "  --speech transcript|auto|speech-dispatcher|espeak-ng|off\n"
          "                                                   what speaks (default: a transcript only)\n"
+         "  --decimal-comma                                  the comma key types the point\n"
          "  --help, --version\n";
 }
 

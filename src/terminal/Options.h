@@ -13,7 +13,8 @@ namespace qves {
 
 struct Options : CommonOptions {
   bool Script = false;
-  std::string ScriptFile;  ///< "" or "-": standard input
+  std::string ScriptFile;     ///< "" or "-": standard input
+  bool DecimalComma = false;  ///< as if the desktop's language wrote numbers so
   std::optional<Date> Today;
   std::optional<unsigned long> Seed;
   std::optional<SpeechChoice> Speech;  ///< none: the transcript alone

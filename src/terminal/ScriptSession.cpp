@@ -61,13 +61,14 @@ ScriptSession::ScriptSession(const Options& options)
     : Directories(options.Home),
       Files(Directories.ConfinedTo(), Directories.ProgramFolder()),
       RegistryStore(Files, Directories.ConfigFolder() + "/QVES/registry.ini"),
+      TheLocale(options.DecimalComma),
       TheClock(options.Today),
       Random(options.Seed),
       RealSpeech(options.Speech ? LoadSpeech(*options.Speech, Events) : nullptr),
       Speech(Spoken, RealSpeech.get()),
       Sounds(Files),
-      Outside{Speech,        Hook,     Hints,  WindowMessages, Windows, Files,      Directories,
-              RegistryStore, TheClock, Events, Random,         Sounds,  FileDialog, TheInverseT},
+      Outside{Speech,    Hook,     Hints,  WindowMessages, Windows, Files,      Directories, RegistryStore,
+              TheLocale, TheClock, Events, Random,         Sounds,  FileDialog, TheInverseT},
       Services_(Outside),
       App(Services_.All, *this) {
   Files.RefuseRelativePaths();  // the messages are those of the program's own folder
