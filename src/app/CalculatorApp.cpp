@@ -28,6 +28,26 @@ bool IsCalcView(int number) {
   return number >= ScientificView && number <= BusinessView;
 }
 
+/// The comma as its layout types it, with nothing held.
+bool IsPlainComma(const KeyEvent& event) {
+  return event.Character == U',' && event.Shift == NoShift;
+}
+
+/// Keys that are no mistake of the user's where they do nothing: modifiers, lock keys, what is unknown.
+bool IsNoMistake(const KeyEvent& event) {
+  switch (event.Code) {
+    case KeyShift:
+    case KeyControl:
+    case KeyAlt:
+    case KeyCapsLock:
+    case KeyNumLock:
+    case KeyScrollLock:
+      return true;
+    default:
+      return event.Code == 0 && event.Character == 0;
+  }
+}
+
 }  // namespace
 
 CalculatorApp::CalculatorApp(Services& services, AppObserver& observer)
@@ -85,10 +105,31 @@ void CalculatorApp::Leave() {
 
 bool CalculatorApp::KeyDown(const KeyEvent& event) {
   Retired.clear();
+  const bool isPoint = IsPlainComma(event) && CommaTypesPoint();
+  const KeyUse use = PressKey(isPoint ? KeyEvent{KeyPeriod, NoShift, U'.', event.Held} : event);
+  if (use == KeyUse::Unused) TellOfNoFunction(event);
+  return use == KeyUse::Used;
+}
+
+KeyUse CalculatorApp::PressKey(const KeyEvent& event) {
   KeyListener* hook = Services_.Outside.Keys.GetListener();
-  if (hook && hook->KeyDown(event)) return true;
+  if (hook && hook->KeyDown(event)) return KeyUse::Used;
   Form* form = ActiveForm();
-  return form && !(HostForm && HostForm->IsMenuActive()) && form->KeyDown(event);
+  return form && !(HostForm && HostForm->IsMenuActive()) ? form->KeyDown(event) : KeyUse::PassedOn;
+}
+
+bool CalculatorApp::CommaTypesPoint() const {
+  const int choice = Services_.Settings.DecimalComma;
+  return choice == DecimalCommaOn ||
+         (choice == DecimalCommaAuto && Services_.Outside.Locale.WritesDecimalComma());
+}
+
+/// Without a word, so that nothing is cut off. F10 goes to the menus, where there are any.
+void CalculatorApp::TellOfNoFunction(const KeyEvent& event) {
+  const bool goesToMenus = event.Code == KeyF10 && event.Shift == NoShift && !ActiveForm()->Menus().empty();
+  if (goesToMenus || event.Held || IsNoMistake(event)) return;
+  if (Services_.Settings.NoFunctionSound == SwitchOn)
+    Services_.Sounds.VerbosityAnnounce(NoFunctionEntry, false);
 }
 
 void CalculatorApp::KeyUp(int keyCode) {

@@ -67,6 +67,9 @@ class CalculatorApp : private ViewFrame, private DialogFrame {
   void CloseDialog(Form& dialog) override;
   void SetReadingTarget(Form* form) override;
 
+  KeyUse PressKey(const KeyEvent& event);
+  bool CommaTypesPoint() const;
+  void TellOfNoFunction(const KeyEvent& event);
   void ShowView(int calcView);
   void OpenDialog(std::unique_ptr<Form> dialog);
   void UnloadView();

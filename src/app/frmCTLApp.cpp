@@ -32,13 +32,13 @@ frmCTLApp::~frmCTLApp() {
 
 bool frmCTLApp::KeyDown(const KeyEvent& event) {
   CtrlAlone = event.Code == KeyControl;
+  if (BelongsToDesktop(event)) return false;
   if (MenuActive) {
     if (event.Code != KeyF1) return false;
     DescribeMenuItem();
     return true;
   }
-  if (event.Code == KeyEscape) FocusCancelControl();
-  bool handled = false;
+  bool handled = event.Code == KeyEscape && FocusCancelControl();
   if (KeyTarget) KeyTarget->NotifyKeyDown(handled, event);
   return handled;
 }
@@ -48,8 +48,9 @@ void frmCTLApp::KeyUp(int keyCode) {
   CtrlAlone = false;
 }
 
-void frmCTLApp::FocusCancelControl() {
-  if (Form* form = Calls.ActiveForm()) form->FocusCancelControl();
+bool frmCTLApp::FocusCancelControl() {
+  Form* form = Calls.ActiveForm();
+  return form && form->FocusCancelControl();
 }
 
 void frmCTLApp::MenuItemHighlighted(std::string_view text, std::string_view mnemonic, bool hasSubMenu) {

@@ -43,7 +43,7 @@ class frmCTLApp : private KeyListener,
   void SpeechStopped(TtsSpeaker& speaker) override;
   void EngineListChanged() override;
   void DescribeMenuItem();
-  void FocusCancelControl();
+  bool FocusCancelControl();
 
   Services& Services_;
   Callbacks Calls;

@@ -8,8 +8,6 @@ namespace qves {
 
 namespace {
 
-constexpr int KeyF10 = KeyF9 + 1;
-
 bool IsMnemonic(const QKeyEvent& event) {
   return event.modifiers() == Qt::AltModifier && event.key() != Qt::Key_Alt;
 }
@@ -47,11 +45,11 @@ bool KeyFilter::eventFilter(QObject* watched, QEvent* event) {
 
 bool KeyFilter::Press(const QKeyEvent& event) {
   To.SettleMenus();
-  const KeyEvent key = TranslateKey(CaptureKey(event));
-  const bool isRepetition = IsRepetition(event, key.Code);
-  if (!isRepetition) To.NotePress(key.Code);
+  KeyEvent key = TranslateKey(CaptureKey(event));
+  key.Held = IsRepetition(event, key.Code);
+  if (!key.Held) To.NotePress(key.Code);
   if (To.IsForeign()) return false;
-  if (isRepetition && ActsOnceWhileHeld(key.Code)) return true;
+  if (key.Held && ActsOnceWhileHeld(key.Code)) return true;
   const bool used = To.KeyDown(key) || OpensMenu(key);
   To.KeyDone();
   return used;

@@ -11,6 +11,7 @@
 #include <iostream>
 
 #include "app/CalculatorApp.h"
+#include "desktop/DesktopLocale.h"
 #include "desktop/DesktopShell.h"
 #include "desktop/LateTts.h"
 #include "desktop/Options.h"
@@ -66,6 +67,7 @@ int RunCalculator(const Options& options, QtEventPump& events, LateTts& speech,
   BaseDirectories directories(options.Home);
   PosixFileStore files(directories.ConfinedTo(), directories.ProgramFolder());
   IniRegistry registry(files, directories.ConfigFolder() + "/QVES/registry.ini");
+  DesktopLocale locale;
   SystemClock clock;
   SeededRandom random;
   KeyCapture keys;
@@ -79,8 +81,8 @@ int RunCalculator(const Options& options, QtEventPump& events, LateTts& speech,
                      QString::fromStdString(directories.ConfigFolder()));
   QtFileDialog fileDialog;
   InverseT inverseT;
-  Platform platform{speech,   keys,  hints,  windowMessages, windows, files,      directories,
-                    registry, clock, events, random,         sounds,  fileDialog, inverseT};
+  Platform platform{speech, keys,  hints,  windowMessages, windows, files,      directories, registry,
+                    locale, clock, events, random,         sounds,  fileDialog, inverseT};
   ServiceSet services(platform);
 
   DesktopShell shell({services.All.Settings, hints, windowMessages, windows, events, fileDialog});

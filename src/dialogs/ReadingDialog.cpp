@@ -1,5 +1,7 @@
 #include "dialogs/ReadingDialog.h"
 
+#include <utility>
+
 #include "dialogs/RichText.h"
 #include "services/Text.h"
 
@@ -49,7 +51,7 @@ ReadingDialog::ReadingDialog(const ReadingDialogSpec& spec, RichText document, S
 void ReadingDialog::Form_Load() {
   if (!Services_.Settings.DontSpeak) Services_.Speech.AttachSpeakingControls(*this, Services_.Verbosity);
   PlaceFocus(*Document);
-  const bool introduces = SaysHelpFirst && Services_.Settings.Detail == SpeechDetail::Full;
+  const bool introduces = SaysHelpFirst && Services_.Settings.Detail == FullSpeech;
   if (introduces)
     Services_.Speech.SpeakText(Document->HelpText);
   else if (Sentences.empty())
@@ -85,10 +87,10 @@ void ReadingDialog::ShowSentence() {
   ReaderMoved(*Document);
 }
 
-void ReadingDialog::StopReading() {
-  if (!Reading) return;
-  Reading = false;
+bool ReadingDialog::StopReading() {
+  if (!std::exchange(Reading, false)) return false;
   Services_.Speech.StopSpeech();
+  return true;
 }
 
 /// A mark of a reading that has been stopped may still be on its way: it moves nothing. The last mark stands
@@ -121,14 +123,15 @@ void ReadingDialog::OnGotFocus(Control& control) {
   Services_.Speech.SpeakText(control.SpokenName);
 }
 
-bool ReadingDialog::OnControlKey(Control& control, const KeyEvent& event) {
+KeyUse ReadingDialog::OnControlKey(Control& control, const KeyEvent& event) {
   const bool isReader = &control == Document;
-  if (isReader) StopReading();  // as any key does
+  const bool stopped = isReader && StopReading();  // as any key does
   if (event.Code == KeyF1 || event.Code == KeyF7) {
     Services_.Speech.SpeakText(event.Code == KeyF1 ? control.HelpText : control.SpokenName);
-    return true;
+    return KeyUse::Used;
   }
-  return isReader && ReaderKey(event);
+  if (isReader && ReaderKey(event)) return KeyUse::Used;
+  return stopped ? KeyUse::PassedOn : KeyUse::Unused;
 }
 
 bool ReadingDialog::ReaderKey(const KeyEvent& event) {

@@ -33,12 +33,13 @@ class ReadingDialog : public Form {
  private:
   void OnClick(Control& control) override;
   void OnGotFocus(Control& control) override;
-  bool OnControlKey(Control& control, const KeyEvent& event) override;
+  KeyUse OnControlKey(Control& control, const KeyEvent& event) override;
 
   bool ReaderKey(const KeyEvent& event);
   /// After what is being spoken, or at once.
   void ReadOn(bool queued);
-  void StopReading();
+  /// True when it was reading.
+  bool StopReading();
   void ShowSentence();
   bool MoveCaret(int keyCode);
   void SayCharacter();

@@ -5,31 +5,6 @@
 #include "model/ArithmeticFault.h"
 
 namespace qves {
-namespace {
-
-constexpr int ItemsOfAPage = 10;
-
-/// How far a key moves the choice in a list of so many items.
-int ListStep(int keyCode, int count) {
-  switch (keyCode) {
-    case KeyUp:
-      return -1;
-    case KeyDown:
-      return 1;
-    case KeyPageUp:
-      return -ItemsOfAPage;
-    case KeyPageDown:
-      return ItemsOfAPage;
-    case KeyHome:
-      return -count - 1;
-    case KeyEnd:
-      return count + 1;
-    default:
-      return 0;
-  }
-}
-
-}  // namespace
 
 Form::Form(std::string name, std::string title) : FormName(std::move(name)), FormTitle(std::move(title)) {}
 
@@ -89,69 +64,6 @@ void Form::PlaceFocus(Control& control) {
   Tell([this](FormObserver& observer) { observer.FocusChanged(*this); });
 }
 
-bool Form::KeyDown(const KeyEvent& event) {
-  if (Focused && OnControlKey(*Focused, event)) return true;
-  if ((event.Shift & AltBit) != 0) return false;
-  switch (event.Code) {
-    case KeyTab:
-      if ((event.Shift & ControlBit) != 0) return false;
-      MoveFocus(event.Shift == ShiftBit ? -1 : 1);
-      return true;
-    case KeyEnter:
-      return PressEnter();
-    case KeySpace:
-      return PressSpace();
-    default:
-      return event.Code >= KeyPageUp && event.Code <= qves::KeyDown && MoveInList(event);
-  }
-}
-
-bool Form::PressSpace() {
-  const bool pressable = dynamic_cast<Button*>(Focused) || dynamic_cast<CheckBox*>(Focused);
-  if (pressable) Click(*Focused);
-  return pressable || dynamic_cast<ListControl*>(Focused);
-}
-
-/// The keys from Page Up to Down. On a button or a check box they would move the focus in some toolkits; here
-/// only Tab does.
-bool Form::MoveInList(const KeyEvent& event) {
-  if (dynamic_cast<TextBox*>(Focused) || dynamic_cast<Reader*>(Focused)) return false;
-  auto* list = dynamic_cast<ListControl*>(Focused);
-  if (list) MoveChoice(*list, ListStep(event.Code, list->ItemCount()));
-  return Focused != nullptr;
-}
-
-void Form::MoveChoice(ListControl& list, int step) {
-  if (step == 0) return;
-  const int item = std::clamp(list.ListIndex + step, 0, std::max(list.ItemCount() - 1, 0));
-  if (item == list.ListIndex || list.ItemCount() == 0) return OnListEnd(list, step);
-  Choose(list, item);
-}
-
-bool Form::PressEnter() {
-  Control* target = EnterPressesFocused && dynamic_cast<Button*>(Focused) ? Focused : DefaultControl();
-  if (target) Click(*target);
-  return target != nullptr;
-}
-
-Control* Form::DefaultControl() const {
-  const auto found = std::find_if(ControlList.begin(), ControlList.end(),
-                                  [](const auto& control) { return control->Has(DefaultButton); });
-  return found == ControlList.end() ? nullptr : found->get();
-}
-
-void Form::MoveFocus(int step) {
-  const int count = static_cast<int>(ControlList.size());
-  if (count == 0) return;
-  const auto at = std::find_if(ControlList.begin(), ControlList.end(),
-                               [this](const auto& control) { return control.get() == Focused; });
-  const int start = at == ControlList.end() ? -1 : static_cast<int>(at - ControlList.begin());
-  for (int moved = 1; moved <= count; ++moved) {
-    Control& next = *ControlList[static_cast<std::size_t>(((start + step * moved) % count + count) % count)];
-    if (next.Enabled) return FocusByUser(next);
-  }
-}
-
 bool Form::ChooseMenu(int id) {
   for (const Menu& menu : MenuList)
     for (const MenuItem& item : menu.Items)
@@ -162,9 +74,13 @@ bool Form::ChooseMenu(int id) {
   return false;
 }
 
-void Form::FocusCancelControl() {
+bool Form::FocusCancelControl() {
   for (const auto& control : ControlList)
-    if (control->Has(CancelButton)) return SetFocus(*control);
+    if (control->Has(CancelButton)) {
+      SetFocus(*control);
+      return true;
+    }
+  return false;
 }
 
 void Form::SetText(TextBox& box, std::string_view text) {

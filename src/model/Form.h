@@ -39,6 +39,13 @@ struct PanelSpec {
   int ColumnSpan = 1;
 };
 
+/// What comes of a key press.
+enum class KeyUse {
+  Unused,    ///< nothing
+  Used,      ///< what the form does with it; the toolkit is not to see it
+  PassedOn,  ///< something, and the toolkit is to see it: it copies or moves in a text, opens a menu
+};
+
 class Form {
  public:
   Form(std::string name, std::string title);
@@ -75,14 +82,14 @@ class Form {
   /// The view's key map. Sets `handled` when it has used the key.
   virtual void NotifyKeyDown(bool& /*handled*/, const KeyEvent&) {}
   /// A key that the keyboard hook let through: the focused control's own keys, Tab, Enter, Space, and in a
-  /// list the arrows. True when used; else the key is the toolkit's own (a copy, a movement in a text).
-  bool KeyDown(const KeyEvent& event);
+  /// list the arrows.
+  KeyUse KeyDown(const KeyEvent& event);
   /// A key release.
   virtual void Form_KeyUp(int /*keyCode*/) {}
   /// Chooses the menu item with that id; false when the form has none.
   bool ChooseMenu(int id);
-  /// Moves the focus to the cancel control, if there is one.
-  void FocusCancelControl();
+  /// Moves the focus to the cancel control; false when there is none.
+  bool FocusCancelControl();
 
   virtual void NotifyBookMark(int /*bookMark*/, TtsSpeaker&) {}
   virtual void NotifySpeechStopped(TtsSpeaker&) {}
@@ -118,8 +125,8 @@ class Form {
   /// A key would have moved the choice beyond the first item (step below 0) or the last.
   virtual void OnListEnd(ListControl&, int /*step*/) {}
   virtual void OnGotFocus(Control&) {}
-  /// The focused control's own keys (help, name, copy). True when used.
-  virtual bool OnControlKey(Control&, const KeyEvent&) { return false; }
+  /// The focused control's own keys (help, name, copy).
+  virtual KeyUse OnControlKey(Control&, const KeyEvent&) { return KeyUse::Unused; }
   virtual void OnMenu(int /*id*/) {}
   /// An arithmetic fault of a handler.
   virtual void OnFault() {}
@@ -130,6 +137,7 @@ class Form {
  private:
   template <class Handler>
   void Guarded(Handler handler);
+  bool FormKey(const KeyEvent& event);
   bool PressSpace();
   bool PressEnter();
   bool MoveInList(const KeyEvent& event);

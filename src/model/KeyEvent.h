@@ -26,6 +26,7 @@ enum KeyCode : int {
   KeyUp = 38,
   KeyRight = 39,
   KeyDown = 40,
+  KeyInsert = 45,
   KeyDelete = 46,
   KeyPad0 = 96,
   KeyPad9 = 105,
@@ -39,6 +40,7 @@ enum KeyCode : int {
   KeyF3 = 114,
   KeyF7 = 118,
   KeyF9 = 120,
+  KeyF10 = 121,
   KeyF12 = 123,
   KeyNumLock = 144,
   KeyScrollLock = 145,
@@ -61,6 +63,12 @@ struct KeyEvent {
   int Shift = NoShift;     ///< bit set of ShiftState
   char32_t Character = 0;  ///< the character the key types on the current layout; 0 for none, for the keypad,
                            ///< and while Control or Alt is held
+  bool Held = false;       ///< a repetition of a key that is held down
 };
+
+/// With Alt a key belongs to the menus and the desktop, unless AltGr makes it type a character.
+constexpr bool BelongsToDesktop(const KeyEvent& event) {
+  return (event.Shift & AltBit) != 0 && event.Character == 0 && event.Code != KeyAlt;
+}
 
 }  // namespace qves

@@ -15,16 +15,15 @@ bool Allows(ShiftRule rule, int shift) {
       return shift == ControlBit;
     case ShiftRule::NotControl:
       return shift != ControlBit;
-    case ShiftRule::NotAlt:
-      return shift != AltBit;
   }
   return false;
 }
 
+/// Of a key with AltGr only what it types counts.
 bool Matches(const KeyRow& row, const KeyEvent& event) {
   if (row.Character != 0 && row.Character == event.Character) return true;
-  return row.FirstCode != 0 && event.Code >= row.FirstCode && event.Code <= row.LastCode &&
-         Allows(row.Shift, event.Shift);
+  return row.FirstCode != 0 && (event.Shift & AltBit) == 0 && event.Code >= row.FirstCode &&
+         event.Code <= row.LastCode && Allows(row.Shift, event.Shift);
 }
 
 }  // namespace

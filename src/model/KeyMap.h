@@ -10,9 +10,9 @@
 
 namespace qves {
 
-/// Which shift states a row takes. All but Any compare the whole state; NotControl and NotAlt take every
-/// state but that one.
-enum class ShiftRule { Any, None, Shift, Control, NotControl, NotAlt };
+/// Which shift states a row takes, none of them with Alt. All but Any compare the whole state; NotControl
+/// takes every state but that one.
+enum class ShiftRule { Any, None, Shift, Control, NotControl };
 
 enum class KeyAction {
   Click,         ///< press the control, as a mouse click would

@@ -29,6 +29,14 @@ class Registry {
                      std::string& error) = 0;
 };
 
+/// How the desktop's language writes things.
+class Locale {
+ public:
+  virtual ~Locale() = default;
+  /// Whether numbers are written with a decimal comma.
+  virtual bool WritesDecimalComma() = 0;
+};
+
 struct Date {
   int Year = 1;
   int Month = 1;

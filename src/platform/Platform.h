@@ -21,6 +21,7 @@ struct Platform {
   FileStore& Files;
   DirectoryManager& Directories;
   qves::Registry& RegistryStore;
+  qves::Locale& Locale;
   qves::Clock& Clock;
   EventPump& Events;
   RandomSource& Random;

@@ -17,8 +17,11 @@ constexpr std::pair<std::string_view, int> ViewNames[] = {{"standard", StandardV
 
 bool SetView(CommonOptions& options, const std::string& value) {
   for (const auto& [name, view] : ViewNames)
-    if (name == value) options.View = view;
-  return options.View.has_value();
+    if (name == value) {
+      options.View = view;
+      return true;
+    }
+  return false;
 }
 
 bool SetHome(CommonOptions& options, const std::string& value) {

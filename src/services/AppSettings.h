@@ -6,8 +6,6 @@
 #include <string>
 #include <vector>
 
-#include "voicing/VoiceWords.h"
-
 namespace qves {
 
 /// The views by their number in the settings; deliberately not the order of the View menu.
@@ -18,10 +16,13 @@ enum CalcViewNumber : std::int16_t {
   BusinessView = 3,
 };
 
-enum class SpeechDetail {
-  Full,
-  Brief,  ///< no help behind a name, no introduction before a report
-};
+/// Brief: no help behind a name, no introduction before a report.
+enum SpeechDetail : int { FullSpeech, BriefSpeech };
+
+/// Whether the plain comma key types the point: where the desktop's locale writes numbers so, always, never.
+enum DecimalCommaChoice : int { DecimalCommaAuto, DecimalCommaOn, DecimalCommaOff };
+
+enum SwitchChoice : int { SwitchOn, SwitchOff };
 
 struct AppSettings {
   std::int32_t SystemVolume = 65535;
@@ -61,10 +62,12 @@ struct AppSettings {
   std::vector<std::string> SpellPref;
   std::vector<std::string> SpellSuff;
 
-  // The calculator's own.
-  NumberReading ReadNumbersAs = NumberReading::AsHost;
-  int SpokenDecimals = AllDecimals;  ///< more are rounded to so many: 2, 4, 6 or 8
-  SpeechDetail Detail = SpeechDetail::Full;
+  // The calculator's own, see OwnSettings.
+  int DecimalComma = DecimalCommaAuto;
+  int ReadNumbersAs = 0;    ///< a NumberReading
+  int PairsOfDecimals = 0;  ///< a number is spoken with twice so many decimals; 0: with all
+  int Detail = FullSpeech;
+  int NoFunctionSound = SwitchOn;  ///< a key that does nothing makes a sound
 
   /// True when a host settings file was found: only then its colours and font replace the desktop's own.
   bool HostFileFound = false;

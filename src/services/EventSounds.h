@@ -20,7 +20,7 @@ class EventSounds {
               ErrorLog& log, Platform& platform)
       : Table(table), Messages(messages), FolderLocations(folders), Log(log), Outside(platform) {}
 
-  /// Gives the feedback of an entry (0 to 29). The text that the caller is to speak; "" when there is none.
+  /// Gives the feedback of an entry (0 to 30). The text that the caller is to speak; "" when there is none.
   /// With `wait` a sound has ended on return. Without a sound that can be played there is silence.
   std::string VerbosityAnnounce(int index, bool wait);
   /// Plays the sound that is assigned to the event; true when it played.

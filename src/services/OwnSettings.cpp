@@ -1,40 +1,68 @@
 #include "services/OwnSettings.h"
 
+#include <algorithm>
+#include <cctype>
+#include <span>
+
+#include "services/QuotedFields.h"
+
 namespace qves {
 namespace {
 
-template <class>
-struct FieldOf;
-template <class Field>
-struct FieldOf<Field AppSettings::*> {
-  using Type = Field;
+/// A setting that is one of a few words; the field holds which.
+struct OwnSetting {
+  std::string_view Key;
+  int AppSettings::*Field;
+  std::span<const std::string_view> Words;
 };
 
-template <auto Member, int Step = 1>
-int Chosen(const AppSettings& settings) {
-  return static_cast<int>(settings.*Member) / Step;
-}
-
-template <auto Member, int Step = 1>
-void Choose(AppSettings& settings, int value) {
-  settings.*Member = static_cast<typename FieldOf<decltype(Member)>::Type>(value * Step);
-}
-
+constexpr std::string_view AutoOnOff[] = {"auto", "on", "off"};
+constexpr std::string_view TrueFalse[] = {"true", "false"};
 constexpr std::string_view Readings[] = {"host", "natural", "digits", "pairs", "triples", "voice"};
 constexpr std::string_view Decimals[] = {"all", "2", "4", "6", "8"};
 constexpr std::string_view Details[] = {"full", "brief"};
 
-constexpr OwnSetting Table[] = {
-    {"NumberReading", Readings, Chosen<&AppSettings::ReadNumbersAs>, Choose<&AppSettings::ReadNumbersAs>},
-    {"SpokenDecimals", Decimals, Chosen<&AppSettings::SpokenDecimals, 2>,
-     Choose<&AppSettings::SpokenDecimals, 2>},
-    {"SpeechDetail", Details, Chosen<&AppSettings::Detail>, Choose<&AppSettings::Detail>},
+constexpr OwnSetting OwnSettings[] = {
+    {"DecimalComma", &AppSettings::DecimalComma, AutoOnOff},
+    {"NumberReading", &AppSettings::ReadNumbersAs, Readings},
+    {"SpokenDecimals", &AppSettings::PairsOfDecimals, Decimals},
+    {"SpeechDetail", &AppSettings::Detail, Details},
+    {"NoFunctionSound", &AppSettings::NoFunctionSound, TrueFalse},
 };
+
+std::string Lower(std::string_view text) {
+  std::string lower(text);
+  std::ranges::transform(lower, lower.begin(),
+                         [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+  return lower;
+}
+
+std::string ListOf(std::span<const std::string_view> words) {
+  std::string list;
+  for (const std::string_view word : words) list.append(list.empty() ? "" : ", ").append(word);
+  return list;
+}
 
 }  // namespace
 
-std::span<const OwnSetting> OwnSettings() {
-  return Table;
+std::string StoreOwnSetting(AppSettings& settings, std::string_view key, std::string_view word) {
+  const auto* setting = std::ranges::find(OwnSettings, key, &OwnSetting::Key);
+  if (setting == std::end(OwnSettings)) return "";
+  const auto found = std::ranges::find(setting->Words, Lower(word));
+  if (found == setting->Words.end()) return "is none of " + ListOf(setting->Words);
+  settings.*(setting->Field) = static_cast<int>(found - setting->Words.begin());
+  return "";
+}
+
+std::string OwnSettingLines(const AppSettings& settings) {
+  const AppSettings defaults;
+  std::string lines;
+  for (const OwnSetting& setting : OwnSettings) {
+    const int now = settings.*(setting.Field);
+    if (now == defaults.*(setting.Field)) continue;
+    lines += Quote(setting.Key) + "," + Quote(setting.Words[static_cast<std::size_t>(now)]) + "\n";
+  }
+  return lines;
 }
 
 }  // namespace qves

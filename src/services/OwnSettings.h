@@ -1,22 +1,18 @@
-// The settings that the calculator has beside the host product's: what each may be, by the words of the
-// settings file.
+// The calculator's own settings beside the view: what each may be, and how they stand in the file.
 #pragma once
 
-#include <span>
+#include <string>
 #include <string_view>
 
 #include "services/AppSettings.h"
 
 namespace qves {
 
-struct OwnSetting {
-  std::string_view Key;
-  std::span<const std::string_view> Values;  ///< the usual one first
-  int (*Chosen)(const AppSettings&);         ///< the number of the value, from 0
-  void (*Choose)(AppSettings&, int value);
-};
+/// Stores the setting of that key, whatever the case of the word. Why it cannot be, "" when it can or when
+/// the key is none of them.
+std::string StoreOwnSetting(AppSettings& settings, std::string_view key, std::string_view word);
 
-/// All of them, in the order in which they are written.
-std::span<const OwnSetting> OwnSettings();
+/// A line of the settings file for each setting that is not as it is by default.
+std::string OwnSettingLines(const AppSettings& settings);
 
 }  // namespace qves

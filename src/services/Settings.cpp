@@ -163,24 +163,14 @@ void SettingsFiles::ReadHostFile() {
 }
 
 void SettingsFiles::ReadOwnFile() {
-  ReadPairs(FolderLocations.OwnSettingsFile, [this](const std::string& key, const std::string& value) {
+  const std::string& path = FolderLocations.OwnSettingsFile;
+  ReadPairs(path, [&](const std::string& key, const std::string& value) {
     if (key == "CalcView") return Store(Settings.CalcView, value);
-    StoreOwnSetting(key, value);
+    if (const std::string reason = StoreOwnSetting(Settings, key, value); !reason.empty())
+      Log.WriteErrorLog(SettingsErrorCode, path + ": \"" + value.substr(0, 40) + "\" for " + key + " " +
+                                               reason + "; it is ignored");
     return std::string_view();
   });
-}
-
-/// A value that the setting does not have leaves it as it is, and the file is read on.
-void SettingsFiles::StoreOwnSetting(const std::string& key, const std::string& value) {
-  for (const OwnSetting& setting : OwnSettings()) {
-    if (setting.Key != key) continue;
-    const auto found = std::find(setting.Values.begin(), setting.Values.end(), value);
-    if (found != setting.Values.end())
-      return setting.Choose(Settings, static_cast<int>(found - setting.Values.begin()));
-    Log.WriteErrorLog(SettingsErrorCode, FolderLocations.OwnSettingsFile + ": \"" + value.substr(0, 40) +
-                                             "\" is no value of " + key + "; it stays \"" +
-                                             std::string(setting.Values[0]) + "\"");
-  }
 }
 
 std::string_view SettingsFiles::StoreHostSetting(const std::string& key, const std::string& value) {
@@ -220,17 +210,13 @@ bool SettingsFiles::ReadPairs(const std::string& path, StorePair store) {
   return true;
 }
 
-/// Of the calculator's own settings only those that are not as usual are written.
 void SettingsFiles::SaveSettings() {
-  std::string content =
-      Quote("Calc Settings") + "\n" + Quote("CalcView") + "," + std::to_string(Settings.CalcView) + "\n";
-  for (const OwnSetting& setting : OwnSettings())
-    if (const int chosen = setting.Chosen(Settings); chosen != 0)
-      content += Quote(setting.Key) + "," + Quote(setting.Values[static_cast<std::size_t>(chosen)]) + "\n";
+  const std::string content = Quote("Calc Settings") + "\n" + Quote("CalcView") + "," +
+                              std::to_string(Settings.CalcView) + "\n" + OwnSettingLines(Settings);
   std::string error;
   if (!Outside.Files.Write(FolderLocations.OwnSettingsFile, content, error))
     Log.WriteErrorLog(SettingsErrorCode, FolderLocations.OwnSettingsFile + ": cannot be written (" + error +
-                                             "); the view is not remembered");
+                                             "); the settings are not kept");
 }
 
 }  // namespace qves

@@ -36,7 +36,6 @@ class SettingsFiles {
   void FindDocuments();
   void ReadHostFile();
   void ReadOwnFile();
-  void StoreOwnSetting(const std::string& key, const std::string& value);
   std::string_view StoreHostSetting(const std::string& key, const std::string& value);
   template <class Store>
   bool ReadPairs(const std::string& path, Store store);

@@ -121,7 +121,7 @@ void SpeechService::SpeakTextQueued(std::string_view text, ValueSpan value) {
 }
 
 void SpeechService::SpeakHelp(std::string_view text) {
-  if (Settings.Detail == SpeechDetail::Full) SpeakTextQueued(text);
+  if (Settings.Detail == FullSpeech) SpeakTextQueued(text);
 }
 
 void SpeechService::ReadAloud(std::string_view text, std::span<const BookMark> marks, bool queued) {
@@ -176,10 +176,10 @@ void SpeechService::BookMarkReached(std::int32_t number) {
 }
 
 VoicingRules SpeechService::Rules() const {
-  NumberReading reading = Settings.ReadNumbersAs;
+  auto reading = static_cast<NumberReading>(Settings.ReadNumbersAs);
   if (reading == NumberReading::AsHost)
     reading = Settings.ReadAsDigits ? NumberReading::Digits : NumberReading::Natural;
-  return {Words, reading, Settings.SpokenDecimals, Settings.ReadAsDigits};
+  return {Words, reading, 2 * Settings.PairsOfDecimals, Settings.ReadAsDigits};
 }
 
 /// A text of one character is that character's name. All else that a voice is given is made by the rules.

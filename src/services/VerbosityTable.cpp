@@ -8,6 +8,7 @@ void VerbosityTable::Initialise() {
                              "ListEnd.wav", "vrbTopOfList",       "",   true};
   Entries[BottomOfListEntry] = {1413,          FeedbackMode::Spoken, 1413, "Q1KListBot",
                                 "ListEnd.wav", "vrbBotOfList",       "",   true};
+  Entries[NoFunctionEntry] = {1701, FeedbackMode::Sound, 0, "QNoFunction", "NoFunction.wav", "", "", true};
   Entries[ListPositionEntry] = {3025, FeedbackMode::Silent, 3026, "", "", "vrbListPos", "", false};
 }
 

@@ -15,6 +15,7 @@ enum class FeedbackMode { Silent = 0, Spoken = 1, Sound = 2, Spoken3 = 3, Spoken
 inline constexpr int TopOfListEntry = 8;
 inline constexpr int BottomOfListEntry = 9;
 inline constexpr int ListPositionEntry = 10;
+inline constexpr int NoFunctionEntry = 30;  ///< a key that does nothing
 
 struct VerbosityEntry {
   int LabelId = 0;
@@ -36,7 +37,7 @@ class VerbosityTable {
   /// A host setting whose key begins with "vrb": a mode (0 to 4), optionally a blank and the custom text.
   /// Anything else is ignored.
   void ApplySetting(std::string_view key, std::string_view value);
-  /// `index` is 0 to 29.
+  /// `index` is 0 to 30.
   FeedbackMode VerbosityMode(int index) const { return Entry(index).Mode; }
   /// The words of an entry; "" for none.
   std::string VerbosityText(int index) const;
@@ -44,7 +45,7 @@ class VerbosityTable {
 
  private:
   const MessageStore& Messages;
-  std::array<VerbosityEntry, 30> Entries;
+  std::array<VerbosityEntry, 31> Entries;
 };
 
 }  // namespace qves

@@ -49,6 +49,7 @@ constexpr NamedKey NamedKeys[] = {
     {"Space", KeySpace},
     {"Backspace", KeyBackspace},
     {"Delete", KeyDelete},
+    {"Insert", KeyInsert},
     {"Home", KeyHome},
     {"End", KeyEnd},
     {"PageUp", KeyPageUp},

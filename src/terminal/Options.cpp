@@ -58,6 +58,8 @@ std::optional<Options> ParseOptions(const std::vector<std::string>& arguments, s
       options.Script = true;
     } else if (arguments[at] == "--voiced") {
       options.Voiced = true;
+    } else if (arguments[at] == "--decimal-comma") {
+      options.DecimalComma = true;
     } else if (options.Script && options.ScriptFile.empty() && !arguments[at].starts_with("--")) {
       options.ScriptFile = arguments[at];
     } else if (!TakeOption<Options>(options, ValueOptions, arguments, at, error)) {
@@ -79,6 +81,7 @@ std::string_view HelpText() {
          "                                                   what speaks (default: a transcript only)\n"
          "  --voiced                                         tells beside what is spoken what a voice is "
          "given\n"
+         "  --decimal-comma                                  the comma key types the point\n"
          "  --help, --version\n";
 }
 

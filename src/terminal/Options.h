@@ -13,8 +13,9 @@ namespace qves {
 
 struct Options : CommonOptions {
   bool Script = false;
-  std::string ScriptFile;  ///< "" or "-": standard input
-  bool Voiced = false;     ///< tells what a voice is given, too
+  std::string ScriptFile;     ///< "" or "-": standard input
+  bool Voiced = false;        ///< tells what a voice is given, too
+  bool DecimalComma = false;  ///< as if the desktop's language wrote numbers so
   std::optional<Date> Today;
   std::optional<unsigned long> Seed;
   std::optional<SpeechChoice> Speech;  ///< none: the transcript alone

@@ -15,6 +15,7 @@
 #include "services/ServiceSet.h"
 #include "spreadsheet/InverseT.h"
 #include "terminal/AnsweredFileDialog.h"
+#include "terminal/GivenLocale.h"
 #include "terminal/JsonLine.h"
 #include "terminal/Options.h"
 #include "terminal/Report.h"
@@ -64,6 +65,7 @@ class ScriptSession : private AppObserver, private FormObserver, private SpeechO
   BaseDirectories Directories;
   PosixFileStore Files;
   IniRegistry RegistryStore;
+  GivenLocale TheLocale;
   SystemClock TheClock;
   EventQueue Events;
   SeededRandom Random;

@@ -5,6 +5,7 @@
 #include "model/ArithmeticFault.h"
 #include "services/WindowActivation.h"
 #include "views/LockKeys.h"
+#include "views/MakeControl.h"
 
 namespace qves {
 namespace {
@@ -17,6 +18,7 @@ constexpr int CurrentValueMessage = 1201;
 constexpr int CheckedMessage = 1134;
 constexpr int ClearMessage = 1135;
 constexpr int AllSelectedMessage = 1600;
+constexpr int DisabledMessage = 1700;
 constexpr std::string_view HostWindow = " Quorvane 1000";
 constexpr KeyEvent CopyKey{'C', ControlBit, 0};
 constexpr KeyEvent SelectAllKey{'A', ControlBit, 0};
@@ -39,37 +41,9 @@ View::View(const ViewTables& tables, Services& services, ViewFrame& frame)
 }
 
 void View::AddControls() {
-  for (const ControlSpec& spec : Tables.Controls) {
-    Control& control = Add(MakeControl(spec));
-    if (spec.ReaderMessage != NoMessage) control.ReaderName = Message(spec.ReaderMessage);
-  }
+  for (const ControlSpec& spec : Tables.Controls) Add(MakeControl(spec, Services_.Messages));
   Display = static_cast<TextBox*>(Find("txtDisplay"));
   MemoryBox = static_cast<TextBox*>(Find("txtMemory"));
-}
-
-std::unique_ptr<Control> View::MakeControl(const ControlSpec& spec) const {
-  const std::string caption =
-      spec.CaptionMessage == NoMessage ? std::string(spec.Caption) : Message(spec.CaptionMessage);
-  const std::string name = spec.NameMessage == NoMessage ? caption : Message(spec.NameMessage);
-  const std::string help = spec.HelpMessage == NoMessage ? "" : Message(spec.HelpMessage);
-  switch (spec.Kind) {
-    case ControlKind::Button:
-      return std::make_unique<Button>(spec, caption, name, help);
-    case ControlKind::TextBox:
-      return std::make_unique<TextBox>(spec, caption, name, help);
-    case ControlKind::CheckBox:
-      return std::make_unique<CheckBox>(spec, caption, name, help);
-    case ControlKind::ListView:
-      return std::make_unique<ListView>(spec, caption, name, help);
-    case ControlKind::ListBox:
-    case ControlKind::Reader:  // stands in dialogs only
-      break;
-  }
-  std::vector<ListItem> items;
-  for (const ListItemSpec& item : spec.Items)
-    items.push_back({item.TextMessage == NoMessage ? std::string(item.Text) : Message(item.TextMessage),
-                     Message(item.SpokenMessage)});
-  return std::make_unique<ListBox>(spec, caption, name, help, std::move(items));
 }
 
 void View::AddMenus() {
@@ -129,14 +103,21 @@ void View::NotifyKeyDown(bool& handled, const KeyEvent& event) {
   if (row->Action == KeyAction::Click) return PressByKey(*target(*row));
   if (row->Action == KeyAction::RepeatSpeech)  // changes nothing, not even what Enter presses
     return Services_.Speech.SpeakText(std::string(Services_.Speech.LastSpokenText()));
+  GoByKey(*target(*row));
+}
+
+/// The control is heard at once, also when it has the focus already: who presses the key wants to hear it.
+void View::GoByKey(Control& control) {
   EnterPressesDefault();
-  SetFocus(*target(*row));
+  if (&control != FocusedControl()) PlaceFocus(control);
+  Introduce(control, false);
 }
 
 /// After a key has acted through a button the focus goes to its resting place, where the view has one,
 /// without a word: nothing is to cut off what the key said.
 void View::PressByKey(Control& control) {
-  if (!control.Enabled) return;
+  if (!control.Enabled)
+    return Services_.Speech.SpeakText(control.SpokenName + ", " + Message(DisabledMessage));
   EnterPressesDefault();
   Click(control);
   if (Control* rest = Find(Tables.RestingControl); rest && rest != FocusedControl()) PlaceFocus(*rest);
@@ -149,8 +130,7 @@ void View::Form_KeyUp(int keyCode) {
 void View::OnClick(Control& control) {
   if (dynamic_cast<TextBox*>(&control)) return SayOf(control, false);
   if (const auto* box = dynamic_cast<CheckBox*>(&control))
-    return Services_.Speech.SpeakText(box->SpokenName + " " +
-                                      Message(box->Checked ? CheckedMessage : ClearMessage));
+    return Services_.Speech.SpeakText(box->SpokenName + " " + StateOf(*box));
   const ClickRow* row = FindClickRow(Tables.Clicks, control.Name());
   if (!row) return;
   if (row->Focus == FocusRule::Moves) SetFocus(control);
@@ -166,7 +146,12 @@ void View::OnChoose(ListControl& list) {
 }
 
 void View::OnGotFocus(Control& control) {
-  SayOf(control, &control == Display);
+  Introduce(control, &control == Display);
+}
+
+/// What a control says when the user comes to it.
+void View::Introduce(Control& control, bool queued) {
+  SayOf(control, queued);
   const bool saysHelp =
       dynamic_cast<CheckBox*>(&control) || dynamic_cast<ListBox*>(&control) || control.Has(HelpOnFocus);
   if (saysHelp && !control.Speaking.Quiescent) Services_.Speech.SpeakHelp(control.HelpText);
@@ -180,6 +165,12 @@ void View::SayOf(const Control& control, bool queued) {
     Services_.Speech.SpeakTextQueued(text, value);
   else
     Services_.Speech.SpeakText(text, value);
+  if (const auto* box = dynamic_cast<const CheckBox*>(&control))
+    Services_.Speech.SpeakTextQueued(StateOf(*box));
+}
+
+const std::string& View::StateOf(const CheckBox& box) const {
+  return Message(box.Checked ? CheckedMessage : ClearMessage);
 }
 
 /// Where the display's value stands in its announcement.
@@ -209,28 +200,28 @@ std::string View::ChosenWords(const ListControl& list) const {
   return fixed ? fixed->Chosen().SpokenText : "";
 }
 
-bool View::OnControlKey(Control& control, const KeyEvent& event) {
+KeyUse View::OnControlKey(Control& control, const KeyEvent& event) {
   if (event.Code == KeyF1) {
     Services_.Speech.SpeakText(control.HelpText);
-    return true;
+    return KeyUse::Used;
   }
   if (event.Code == KeyF7) {
     SayOf(control, false);
-    return true;
+    return KeyUse::Used;
   }
   auto* box = dynamic_cast<TextBox*>(&control);
-  return box && TextBoxKey(*box, event);
+  return box ? TextBoxKey(*box, event) : KeyUse::Unused;
 }
 
-bool View::TextBoxKey(TextBox& box, const KeyEvent& event) {
+KeyUse View::TextBoxKey(TextBox& box, const KeyEvent& event) {
   if (Is(event, CopyKey)) {
     Services_.Speech.SpeakText(Message(CopyMessage));
-    return false;  // the copy itself is the toolkit's
+    return KeyUse::PassedOn;  // the copy itself is the toolkit's
   }
-  if (!box.Has(MultiLine) || !Is(event, SelectAllKey)) return false;
+  if (!box.Has(MultiLine) || !Is(event, SelectAllKey)) return KeyUse::Unused;
   SelectAll(box);
   Services_.Speech.SpeakText(Message(AllSelectedMessage));
-  return true;
+  return KeyUse::Used;
 }
 
 void View::OnMenu(int id) {

@@ -67,18 +67,20 @@ class View : public Form, protected EngineHost {
   void OnClick(Control& control) override;
   void OnChoose(ListControl& list) override;
   void OnGotFocus(Control& control) override;
-  bool OnControlKey(Control& control, const KeyEvent& event) override;
+  KeyUse OnControlKey(Control& control, const KeyEvent& event) override;
   void OnFault() override { Engine->FailAloud(); }
 
   void AddControls();
-  std::unique_ptr<Control> MakeControl(const ControlSpec& spec) const;
   void AddMenus();
   void CreateSpeech();
   void ShutDownSpeech();
   void PressByKey(Control& control);
+  void GoByKey(Control& control);
+  void Introduce(Control& control, bool queued);
   void SayOf(const Control& control, bool queued);
   ValueSpan ValueIn(std::string_view announcement) const;
-  bool TextBoxKey(TextBox& box, const KeyEvent& event);
+  const std::string& StateOf(const CheckBox& box) const;
+  KeyUse TextBoxKey(TextBox& box, const KeyEvent& event);
   void ChooseView(int id);
   const std::string& Message(int id) const { return Services_.Messages.GetMessage(id); }
 

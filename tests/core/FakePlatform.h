@@ -78,6 +78,11 @@ struct FakeSounds : SoundPlayer {
   }
 };
 
+struct FakeLocale : Locale {
+  bool DecimalComma = false;
+  bool WritesDecimalComma() override { return DecimalComma; }
+};
+
 struct FakeClock : Clock {
   std::int32_t Ticks = 1000;
   std::int32_t Step = 0;  ///< how far each look moves it on
@@ -206,14 +211,15 @@ struct FakePlatform {
   FakeFiles Files;
   FakeDirectories Directories;
   FakeRegistry RegistryStore;
+  FakeLocale TheLocale;
   FakeClock TheClock;
   FakeEvents Events;
   FakeRandom Random;
   FakeSounds Sounds{Files};
   FakeFileDialog FileDialog;
   FakeSpreadsheet TheSpreadsheet;
-  Platform All{Speech,        Keys,     Hints,  WindowMessages, Windows, Files,      Directories,
-               RegistryStore, TheClock, Events, Random,         Sounds,  FileDialog, TheSpreadsheet};
+  Platform All{Speech,    Keys,     Hints,  WindowMessages, Windows, Files,      Directories,   RegistryStore,
+               TheLocale, TheClock, Events, Random,         Sounds,  FileDialog, TheSpreadsheet};
 
   FakePlatform() {
     Files.Content["/program/Messages.txt"] =

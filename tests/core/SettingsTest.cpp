@@ -92,13 +92,13 @@ TEST_F(SettingsTest, OwnFileHoldsWhatIsNotAsUsual) {
       "\"Calc Settings\"\n\"NumberReading\",\"pairs\"\n\"SpokenDecimals\",4\n\"SpeechDetail\",\"short\"\n"
       "\"CalcView\",3\n";
   AppSettings& settings = Read("\"Settings\"\n");
-  EXPECT_EQ(settings.ReadNumbersAs, NumberReading::Pairs);
-  EXPECT_EQ(settings.SpokenDecimals, 4);
-  EXPECT_EQ(settings.Detail, SpeechDetail::Full);
+  EXPECT_EQ(settings.ReadNumbersAs, static_cast<int>(NumberReading::Pairs));
+  EXPECT_EQ(settings.PairsOfDecimals, 2);
+  EXPECT_EQ(settings.Detail, FullSpeech);
   EXPECT_EQ(settings.CalcView, BusinessView) << "a bad value does not end the reading";
-  EXPECT_NE(Outside.ErrorLog().find("\"short\" is no value of SpeechDetail"), std::string::npos);
-  settings.SpokenDecimals = AllDecimals;
-  settings.Detail = SpeechDetail::Brief;
+  EXPECT_NE(Outside.ErrorLog().find("\"short\" for SpeechDetail is none of full, brief"), std::string::npos);
+  settings.PairsOfDecimals = 0;
+  settings.Detail = BriefSpeech;
   Set->All.SettingsStore.SaveSettings();
   EXPECT_EQ(Outside.Files.Content[Outside.OwnFile],
             "\"Calc Settings\"\n\"CalcView\",3\n\"NumberReading\",\"pairs\"\n\"SpeechDetail\",\"brief\"\n");

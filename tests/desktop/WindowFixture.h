@@ -47,7 +47,10 @@ class WindowFixture : public testing::Test {
   QtFileDialog FileDialog;
   bool MenuHasKeys = false;
   KeyFilter Keys{KeyFilter::Receivers{
-      .KeyDown = [this](const KeyEvent& event) { return !MenuHasKeys && Window.ShownForm()->KeyDown(event); },
+      .KeyDown =
+          [this](const KeyEvent& event) {
+            return !MenuHasKeys && Window.ShownForm()->KeyDown(event) == KeyUse::Used;
+          },
       .KeyUp = [](int) {},
       .IsForeign = [this] { return FileDialog.IsOpen(); },
       .HighlightFirstMenu = [this] { Window.Menus()->HighlightFirst(); },

@@ -61,7 +61,7 @@ inline constexpr auto KeyMap =
              {'L', 'L', Any, 0, Click, "cmdUOp", 12},
              {'V', 'V', Any, 0, Click, "cmdUOp", 13},
              {'E', 'E', Any, 0, Click, "cmdUOp", 14},
-             {'X', 'X', NotAlt, 0, Click, "cmdUOp", 15},
+             {'X', 'X', Any, 0, Click, "cmdUOp", 15},
              {'D', 'D', Any, 0, Click, "cmdUOp", 16},
          }),
          shared::CorrectionKeys);
