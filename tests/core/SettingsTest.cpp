@@ -87,6 +87,34 @@ TEST_F(SettingsTest, OwnFileHoldsTheView) {
   EXPECT_EQ(Outside.Files.Content[Outside.OwnFile], "\"Calc Settings\"\n\"CalcView\",0\n");
 }
 
+TEST_F(SettingsTest, OwnSettingsAreKeptWhereTheyAreNotTheUsualOnes) {
+  const std::string header = "\"Calc Settings\"\n\"CalcView\",2\n";
+  const std::string comma = "\"DecimalComma\",\"off\"\n";
+  const std::string silence = "\"NoFunctionSound\",\"false\"\n";
+  const struct {
+    std::string File;
+    std::string Kept;
+    const char* Logged;
+  } rows[] = {
+      {comma + silence, comma + silence, ""},
+      {"\"NoFunctionSound\",\"False\"\n\"Other\",\"x\"\nDecimalComma, off \n", comma + silence, ""},
+      {"\"DecimalComma\",\"auto\"\n\"NoFunctionSound\",\"true\"\n", "", ""},
+      {"\"DecimalComma\",\"perhaps\"\n" + silence, silence,
+       "Calc.ost: \"perhaps\" for DecimalComma is none of auto, on, off; it is ignored"},
+      {comma + "\"DecimalComma\",\"\"\n", comma, "\"\" for DecimalComma"},
+  };
+  for (const auto& row : rows) {
+    Outside.Files.Content.erase("/home/anna/Documents/QVES/Temporary/Error Log.txt");
+    Outside.Files.Content[Outside.OwnFile] = header + row.File;
+    Read("\"Settings\"\n\"DecimalComma\",\"on\"\n");  // not the host's
+    Set->All.SettingsStore.SaveSettings();
+    EXPECT_EQ(Outside.Files.Content[Outside.OwnFile], header + row.Kept);
+    const std::string log = Outside.ErrorLog();
+    EXPECT_NE(log.find(row.Logged), std::string::npos) << log;
+    EXPECT_EQ(log.empty(), std::string(row.Logged).empty()) << log;
+  }
+}
+
 TEST_F(SettingsTest, VerbosityEntriesReachTheirTable) {
   Read("\"Settings\"\n\"vrbTopOfList\",\"2\"\n\"vrbListPos\",\"1 item %% of %%\"\n\"vrbBotOfList\",\"9\"\n");
   const VerbosityTable& table = Set->All.Verbosity;
