@@ -10,7 +10,7 @@ struct SettingsTest : testing::Test {
   FakePlatform Outside;
   std::optional<ServiceSet> Set;
 
-  AppSettings& Read(const std::string& hostFile) {
+  const AppSettings& Read(const std::string& hostFile) {
     Outside.Files.Content[Outside.HostFile] = hostFile;
     Set.emplace(Outside.All);
     Set->All.SettingsStore.ReadSettings();
@@ -87,21 +87,34 @@ TEST_F(SettingsTest, OwnFileHoldsTheView) {
   EXPECT_EQ(Outside.Files.Content[Outside.OwnFile], "\"Calc Settings\"\n\"CalcView\",0\n");
 }
 
-TEST_F(SettingsTest, OwnFileHoldsWhatIsNotAsUsual) {
-  Outside.Files.Content[Outside.OwnFile] =
-      "\"Calc Settings\"\n\"NumberReading\",\"pairs\"\n\"SpokenDecimals\",4\n\"SpeechDetail\",\"short\"\n"
-      "\"CalcView\",3\n";
-  AppSettings& settings = Read("\"Settings\"\n");
-  EXPECT_EQ(settings.ReadNumbersAs, static_cast<int>(NumberReading::Pairs));
-  EXPECT_EQ(settings.PairsOfDecimals, 2);
-  EXPECT_EQ(settings.Detail, FullSpeech);
-  EXPECT_EQ(settings.CalcView, BusinessView) << "a bad value does not end the reading";
-  EXPECT_NE(Outside.ErrorLog().find("\"short\" for SpeechDetail is none of full, brief"), std::string::npos);
-  settings.PairsOfDecimals = 0;
-  settings.Detail = BriefSpeech;
-  Set->All.SettingsStore.SaveSettings();
-  EXPECT_EQ(Outside.Files.Content[Outside.OwnFile],
-            "\"Calc Settings\"\n\"CalcView\",3\n\"NumberReading\",\"pairs\"\n\"SpeechDetail\",\"brief\"\n");
+TEST_F(SettingsTest, OwnSettingsAreKeptWhereTheyAreNotTheUsualOnes) {
+  const std::string header = "\"Calc Settings\"\n\"CalcView\",2\n";
+  const std::string comma = "\"DecimalComma\",\"off\"\n";
+  const std::string silence = "\"NoFunctionSound\",\"false\"\n";
+  const struct {
+    std::string File;
+    std::string Kept;
+    const char* Logged;
+  } rows[] = {
+      {comma + silence, comma + silence, ""},
+      {"\"NoFunctionSound\",\"False\"\n\"Other\",\"x\"\nDecimalComma, off \n", comma + silence, ""},
+      {"\"DecimalComma\",\"auto\"\n\"NoFunctionSound\",\"true\"\n", "", ""},
+      {"\"DecimalComma\",\"perhaps\"\n" + silence, silence,
+       "Calc.ost: \"perhaps\" for DecimalComma is none of auto, on, off; it is ignored"},
+      {"\"SpokenDecimals\",4\n\"NumberReading\",\"Pairs\"\n\"SpeechDetail\",\"brief\"\n",
+       "\"NumberReading\",\"pairs\"\n\"SpokenDecimals\",\"4\"\n\"SpeechDetail\",\"brief\"\n", ""},
+      {comma + "\"DecimalComma\",\"\"\n", comma, "\"\" for DecimalComma"},
+  };
+  for (const auto& row : rows) {
+    Outside.Files.Content.erase("/home/anna/Documents/QVES/Temporary/Error Log.txt");
+    Outside.Files.Content[Outside.OwnFile] = header + row.File;
+    Read("\"Settings\"\n\"DecimalComma\",\"on\"\n");  // not the host's
+    Set->All.SettingsStore.SaveSettings();
+    EXPECT_EQ(Outside.Files.Content[Outside.OwnFile], header + row.Kept);
+    const std::string log = Outside.ErrorLog();
+    EXPECT_NE(log.find(row.Logged), std::string::npos) << log;
+    EXPECT_EQ(log.empty(), std::string(row.Logged).empty()) << log;
+  }
 }
 
 TEST_F(SettingsTest, VerbosityEntriesReachTheirTable) {

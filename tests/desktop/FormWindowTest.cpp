@@ -38,6 +38,14 @@ TEST_F(FormWindowTest, SpaceAndEnterPressOnce) {
   EXPECT_TRUE(Find<QPushButton>("cmdA").hasFocus());
 }
 
+TEST_F(FormWindowTest, ARepetitionOfAHeldKeyIsToldAsOne) {
+  Press(Qt::Key_F3);
+  EXPECT_FALSE(LastKey.Held);
+  QKeyEvent repetition(QEvent::KeyPress, Qt::Key_F3, Qt::NoModifier, QString(), true);
+  QCoreApplication::sendEvent(Window.windowHandle(), &repetition);
+  EXPECT_TRUE(LastKey.Held);
+}
+
 TEST_F(FormWindowTest, MouseClickFocusesAndClicksOnce) {
   QTest::mouseClick(&Find<QPushButton>("cmdB"), Qt::LeftButton);
   EXPECT_THAT(Shown.Take(), ElementsAre("focus cmdB", "click cmdB"));

@@ -16,8 +16,13 @@ TEST(DesktopOptions, ValuesAndToolkitArguments) {
 }
 
 TEST(DesktopOptions, FaultsNameTheOption) {
-  for (const std::vector<std::string>& wrong : std::vector<std::vector<std::string>>{
-           {"--view", "round"}, {"--view"}, {"--speech", ""}, {"--home", "/dev/null/x"}, {"--script"}}) {
+  for (const std::vector<std::string>& wrong :
+       std::vector<std::vector<std::string>>{{"--view", "round"},
+                                             {"--view", "standard", "--view", "round"},
+                                             {"--view"},
+                                             {"--speech", ""},
+                                             {"--home", "/dev/null/x"},
+                                             {"--script"}}) {
     std::string error;
     EXPECT_FALSE(ParseOptions(wrong, error));
     EXPECT_NE(error.find(wrong.front()), std::string::npos) << error;

@@ -46,9 +46,11 @@ class WindowFixture : public testing::Test {
   FormWindow Window{Settings, Hints};
   QtFileDialog FileDialog;
   bool MenuHasKeys = false;
+  KeyEvent LastKey;
   KeyFilter Keys{KeyFilter::Receivers{
       .KeyDown =
           [this](const KeyEvent& event) {
+            LastKey = event;
             return !MenuHasKeys && Window.ShownForm()->KeyDown(event) == KeyUse::Used;
           },
       .KeyUp = [](int) {},

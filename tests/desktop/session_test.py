@@ -164,6 +164,35 @@ class SessionTest(unittest.TestCase):
         self.assertEqual(calculator.ended(), 0)
         self.assertTrue(calculator.settings.is_file())
 
+    def test_alt_opens_the_menus_of_every_view(self):
+        opened = {"alt+f": "Exit", "alt+v": "Scientific View", "alt+h": "About"}
+        for view in ("standard", "scientific", "business", "statistics"):
+            calculator = self.start("--view", view)
+            calculator.window()
+            keys("4")
+            calculator.expect_display("4")
+            for chord, item in opened.items():
+                with self.subTest(view=view, chord=chord):
+                    keys(chord)
+                    wait_for("the menu with " + item, lambda: any(
+                        item in node.name and node.getState().contains(pyatspi.STATE_SHOWING)
+                        for node in calculator.nodes(pyatspi.ROLE_MENU_ITEM)))
+                    keys("Escape", "Escape")
+            keys("2")
+            calculator.expect_display("42")
+            calculator.process.terminate()
+            calculator.ended()
+
+    def test_the_decimal_comma_of_the_desktops_language(self):
+        for language, shown in (("de_DE.UTF-8", "1.5"), ("en_US.UTF-8", "15")):
+            with self.subTest(language=language):
+                calculator = self.start(environment={"LC_ALL": "", "LC_NUMERIC": language, "LANG": "fr_FR.UTF-8"})
+                calculator.window()
+                keys("1", "comma", "5")
+                calculator.expect_display(shown)
+                calculator.process.terminate()
+                calculator.ended()
+
     def test_scientific_view_from_the_menu(self):
         calculator = self.started()
         keys("alt+v")
@@ -174,8 +203,7 @@ class SessionTest(unittest.TestCase):
         calculator.expect_display("0.5")
         keys("2", "parenleft", "3", "plus", "4", "parenright", "asterisk", "2", "Return")
         calculator.expect_display("14")
-        # Alt and V is a key of this view; F10 leads to the menus.
-        keys("alt+v")
+        keys("v")
         calculator.expect_display("1.4e+1")
         xdotool("key", "--delay", "60", "F10", "Right", "Down", "Down", "Down", "Return")
         wait_for("the tape", lambda: len(calculator.nodes(pyatspi.ROLE_TEXT)) > 2)

@@ -6,9 +6,10 @@
 //   sounds   the events that sounded
 //   error    when the line is no command
 // "== title" starts a new calculator; right below it, "view NAME" is the view that it opens, and lines
-// "host KEY,VALUE" are its host settings file. "file NAME TEXT" writes a file of the user's, with \n in the
-// text for a line end; "~" in a command is the folder of such files. QVES_UPDATE_SCRIPTS=1 rewrites the
-// scripts from what the calculator does: read the difference before you keep it.
+// "host KEY,VALUE" are its host settings file, lines "own KEY,VALUE" its own. "file NAME TEXT" writes a file
+// of the user's, with \n in the text for a line end; "~" in a command is the folder of such files.
+// QVES_UPDATE_SCRIPTS=1 rewrites the scripts from what the calculator does: read the difference before you
+// keep it.
 #include <gtest/gtest.h>
 
 #include <cstdlib>
@@ -62,6 +63,8 @@ class ScriptRunner {
         SetView(StartOptions, line.substr(5));
       else if (line.starts_with("host "))
         HostSettings += line.substr(5) + "\n";
+      else if (line.starts_with("own "))
+        OwnSettings += line.substr(4) + "\n";
       else if (line.starts_with("file "))
         WriteFile(line.substr(5));
       else if (!line.empty() && line[0] != '#')
@@ -75,6 +78,7 @@ class ScriptRunner {
     Session.reset();
     Home = std::make_unique<TemporaryFolder>();
     HostSettings.clear();
+    OwnSettings.clear();
     StartOptions = {};
   }
 
@@ -83,6 +87,7 @@ class ScriptRunner {
     fs::create_directories(folder);
     if (!HostSettings.empty())
       std::ofstream(folder / "Quorvane 1000.ost") << "\"Settings\"\n" << HostSettings;
+    if (!OwnSettings.empty()) std::ofstream(folder / "Calc.ost") << "\"Calc Settings\"\n" << OwnSettings;
     StartOptions.Home = Home->Path;
     StartOptions.Seed = 1;
     StartOptions.Today = Date{2026, 1, 31};
@@ -118,6 +123,7 @@ class ScriptRunner {
   std::unique_ptr<TemporaryFolder> Home;
   Options StartOptions;
   std::string HostSettings;
+  std::string OwnSettings;
   std::unique_ptr<ScriptSession> Session;
   std::map<std::string, Json> Before;
 };

@@ -195,8 +195,19 @@ TEST_F(ScriptMode, AnEndlessFileAndAPipeForALogStopNothing) {
 
 TEST_F(ScriptMode, WrongOptionsAreRefused) {
   for (const char* options :
-       {"--view other", "--today 2026-02-30", "--seed x", "--speech loud", "--nonsense", "--view"})
+       {"--view other", "--today 2026-02-30", "--seed x", "--speech loud", "--nonsense", "--view",
+        "--view standard --view other", "--today 2026-01-31 --today x", "--seed 1 --seed x",
+        "--speech off --speech loud", "--home /dev/null/x", "--decimal-comma=1"})
     EXPECT_EQ(Run("", options).Status, 2) << options;
+}
+
+TEST_F(ScriptMode, TheCommaTypesThePointWhereItIsTold) {
+  ::setenv("LC_ALL", "de_DE.UTF-8", 1);  // which is not asked
+  const std::string commas = "keys 1,5\nquit\n";
+  EXPECT_EQ(Run(commas).Lines.at(0)["display"], "15");
+  EXPECT_EQ(Run(commas, "--decimal-comma").Lines.at(0)["display"], "1.5");
+  ::unsetenv("LC_ALL");
+  EXPECT_EQ(ReadAll(OwnSettings()), "\"Calc Settings\"\n\"CalcView\",2\n");
 }
 
 TEST_F(ScriptMode, NothingOutsideTheHomeIsTouched) {
