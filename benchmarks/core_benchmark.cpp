@@ -82,7 +82,7 @@ void StartOfALongReading(benchmark::State& state) {
     text += "This sentence of a document has -2.5 numbers in its middle.\n";
   }
   for (auto _ : state) {
-    calculator.Set.All.Speech.ReadAloud(text, marks, false);
+    calculator.Set.All.Speech.ReadAloud(text, marks, false, ValueKind::Prose);
     calculator.Set.All.Speech.EndTurn();
     calculator.Outside.Speech.Said.clear();
   }

@@ -32,7 +32,7 @@ KeyFilter::~KeyFilter() {
 bool KeyFilter::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::ShortcutOverride && IsMnemonic(*static_cast<QKeyEvent*>(event)) &&
       !To.IsForeign()) {
-    // Comes as a key press then, which the calculator sees before the menus do.
+    // Comes as a key press then, and opens the menu that has that letter on every layout.
     event->accept();
     return true;
   }

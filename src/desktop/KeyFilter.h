@@ -24,7 +24,7 @@ class KeyFilter : public QObject {
     std::function<void()> HighlightFirstMenu = [] {};
     /// A key press has been dealt with.
     std::function<void()> KeyDone = [] {};
-    /// A press of Alt and a letter that the calculator did not use; true when a menu opens.
+    /// A press of Alt and a letter; true when a menu opens.
     std::function<bool(int letter)> OpenMenu = [](int) { return false; };
   };
 

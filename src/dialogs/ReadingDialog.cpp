@@ -33,7 +33,7 @@ ControlSpec MakeOkSpec() {
 ReadingDialog::ReadingDialog(const ReadingDialogSpec& spec, RichText document, Services& services,
                              DialogFrame& frame)
     : Form(std::string(spec.FormName), services.Messages.GetMessage(spec.TitleMessage)),
-      SaysHelpFirst(spec.SaysHelpFirst),
+      IsReport(spec.IsReport),
       ReaderSpec(MakeReaderSpec(spec)),
       OkSpec(MakeOkSpec()),
       Services_(services),
@@ -51,7 +51,7 @@ ReadingDialog::ReadingDialog(const ReadingDialogSpec& spec, RichText document, S
 void ReadingDialog::Form_Load() {
   if (!Services_.Settings.DontSpeak) Services_.Speech.AttachSpeakingControls(*this, Services_.Verbosity);
   PlaceFocus(*Document);
-  const bool introduces = SaysHelpFirst && Services_.Settings.Detail == FullSpeech;
+  const bool introduces = IsReport && Services_.Settings.Detail == FullSpeech;
   if (introduces)
     Services_.Speech.SpeakText(Document->HelpText);
   else if (Sentences.empty())
@@ -78,7 +78,8 @@ void ReadingDialog::ReadOn(bool queued) {
   HeardAll = false;
   marks.push_back({Document->Text.size() - start, static_cast<std::int32_t>(Sentences.size())});
   ShowSentence();
-  Services_.Speech.ReadAloud(std::string_view(Document->Text).substr(start), marks, queued);
+  Services_.Speech.ReadAloud(std::string_view(Document->Text).substr(start), marks, queued,
+                             IsReport ? ValueKind::Number : ValueKind::Prose);
 }
 
 void ReadingDialog::ShowSentence() {
@@ -127,7 +128,7 @@ KeyUse ReadingDialog::OnControlKey(Control& control, const KeyEvent& event) {
   const bool isReader = &control == Document;
   const bool stopped = isReader && StopReading();  // as any key does
   if (event.Code == KeyF1 || event.Code == KeyF7) {
-    Services_.Speech.SpeakText(event.Code == KeyF1 ? control.HelpText : control.SpokenName);
+    Services_.Speech.SpeakText(event.Code == KeyF1 ? control.HelpText : control.SpokenName, Prose);
     return KeyUse::Used;
   }
   if (isReader && ReaderKey(event)) return KeyUse::Used;

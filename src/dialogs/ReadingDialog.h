@@ -18,7 +18,7 @@ struct ReadingDialogSpec {
   std::string_view ReaderName;
   int TitleMessage = 0;
   int HelpMessage = 0;
-  bool SaysHelpFirst = false;  ///< the reader's help introduces the document
+  bool IsReport = false;  ///< figures, which the reader's help introduces; else a text about the calculator
 };
 
 class ReadingDialog : public Form {
@@ -46,7 +46,7 @@ class ReadingDialog : public Form {
   void SayLine();
   void MoveLines(int lines);
 
-  const bool SaysHelpFirst;
+  const bool IsReport;
   const ControlSpec ReaderSpec;
   const ControlSpec OkSpec;
   Services& Services_;

@@ -112,22 +112,31 @@ void SpeechService::SpeakText(std::string_view text, ValueSpan value) {
   if (!PrimarySpeaker) return;
   Turn.push_back({SpeechHow::Now, std::string(text), value, {}});
   LastText = text;
+  LastValue = value;
 }
 
 void SpeechService::SpeakTextQueued(std::string_view text, ValueSpan value) {
   if (!PrimarySpeaker) return;
   Turn.push_back({SpeechHow::Queued, std::string(text), value, {}});
   LastText = text;
+  LastValue = value;
 }
 
 void SpeechService::SpeakHelp(std::string_view text) {
-  if (Settings.Detail == FullSpeech) SpeakTextQueued(text);
+  if (Settings.Detail == FullSpeech) SpeakTextQueued(text, Prose);
 }
 
-void SpeechService::ReadAloud(std::string_view text, std::span<const BookMark> marks, bool queued) {
+void SpeechService::RepeatSpeech() {
+  SpeakText(std::string(LastText), LastValue);
+}
+
+void SpeechService::ReadAloud(std::string_view text, std::span<const BookMark> marks, bool queued,
+                              ValueKind kind) {
   if (!PrimarySpeaker) return;
-  Turn.push_back(
-      {queued ? SpeechHow::Queued : SpeechHow::Now, std::string(text), {}, {marks.begin(), marks.end()}});
+  Turn.push_back({queued ? SpeechHow::Queued : SpeechHow::Now,
+                  std::string(text),
+                  {0, 0, kind},
+                  {marks.begin(), marks.end()}});
 }
 
 void SpeechService::StopSpeech() {
@@ -151,7 +160,7 @@ void SpeechService::HandOver(SpeechAct act) {
     PrimarySpeaker->Stop();
     if (SecondSpeaker) SecondSpeaker->Stop();
   } else if (!act.Marks.empty()) {
-    Reading = {std::move(act.Text), std::move(act.Marks)};
+    Reading = {std::move(act.Text), std::move(act.Marks), act.Value.Kind};
     ReadNextPiece(now);
     ReadNextPiece(false);
   } else if (now) {
@@ -164,7 +173,7 @@ void SpeechService::HandOver(SpeechAct act) {
 void SpeechService::ReadNextPiece(bool now) {
   if (!PrimarySpeaker || Reading.IsOver()) return;
   const PiecewiseReading::Piece piece = Reading.Next();
-  const VoicedText voiced = MakeVoiced(piece.Text, Rules(), {}, piece.Marks);
+  const VoicedText voiced = MakeVoiced(piece.Text, Rules(), {0, 0, Reading.Kind()}, piece.Marks);
   if (now)
     PrimarySpeaker->SpeakNow(voiced.Text, voiced.Marks);
   else

@@ -43,7 +43,7 @@ class SpeechService {
   void SpeakHelp(std::string_view text);
   /// Reads a long text, with marks that are told when they are reached: after what is being spoken, or
   /// silencing that. It is not what LastSpokenText repeats.
-  void ReadAloud(std::string_view text, std::span<const BookMark> marks, bool queued);
+  void ReadAloud(std::string_view text, std::span<const BookMark> marks, bool queued, ValueKind kind);
   void StopSpeech();
 
   /// What handles an event calls this when it has: all that was spoken meanwhile goes to the voice, but what
@@ -57,6 +57,8 @@ class SpeechService {
   void BookMarkReached(std::int32_t number);
 
   bool HasSpeaker() const { return PrimarySpeaker != nullptr; }
+  /// Says again, at once, what was said last.
+  void RepeatSpeech();
   /// The last text handed to SpeakText or SpeakTextQueued while there was a speaker.
   const std::string& LastSpokenText() const { return LastText; }
 
@@ -94,6 +96,7 @@ class SpeechService {
   TtsSpeaker* PrimarySpeaker = nullptr;
   TtsSpeaker* SecondSpeaker = nullptr;
   std::string LastText;
+  ValueSpan LastValue;  ///< in that text
   VoiceWords Words;
   std::vector<SpeechAct> Turn;
   PiecewiseReading Reading;

@@ -32,8 +32,8 @@ class SpeechObserver {
 class PiecewiseReading {
  public:
   PiecewiseReading() = default;
-  PiecewiseReading(std::string text, std::vector<BookMark> marks)
-      : Text(std::move(text)), Marks(std::move(marks)) {}
+  PiecewiseReading(std::string text, std::vector<BookMark> marks, ValueKind kind)
+      : Text(std::move(text)), Marks(std::move(marks)), Numbers(kind) {}
 
   struct Piece {
     std::string_view Text;
@@ -42,13 +42,16 @@ class PiecewiseReading {
 
   bool IsOver() const { return Start == Text.size(); }
   Piece Next();
+  /// What the numbers of the text are.
+  ValueKind Kind() const { return Numbers; }
   /// Whether that mark begins the piece taken last.
   bool IsNewest(std::int32_t mark) const { return mark == Newest; }
 
  private:
   std::string Text;
   std::vector<BookMark> Marks;  ///< in order
-  std::size_t Start = 0;        ///< of the next piece
+  ValueKind Numbers = ValueKind::Number;
+  std::size_t Start = 0;  ///< of the next piece
   std::size_t NextMark = 0;
   std::int32_t Newest = -1;
 };

@@ -102,7 +102,7 @@ void View::NotifyKeyDown(bool& handled, const KeyEvent& event) {
   handled = true;
   if (row->Action == KeyAction::Click) return PressByKey(*target(*row));
   if (row->Action == KeyAction::RepeatSpeech)  // changes nothing, not even what Enter presses
-    return Services_.Speech.SpeakText(std::string(Services_.Speech.LastSpokenText()));
+    return Services_.Speech.RepeatSpeech();
   GoByKey(*target(*row));
 }
 
@@ -141,7 +141,8 @@ void View::OnClick(Control& control) {
 
 void View::OnChoose(ListControl& list) {
   Says.BeginKey();
-  Says.Say(ChosenWords(list));
+  const std::string words = ChosenWords(list);
+  Says.Say(words, ValueIn(list, words));
   OnNewChoice(list);
 }
 
@@ -160,7 +161,7 @@ void View::Introduce(Control& control, bool queued) {
 void View::SayOf(const Control& control, bool queued) {
   const std::string text = Announcement(control);
   if (control.Speaking.Quiescent) return;
-  const ValueSpan value = &control == Display ? ValueIn(text) : ValueSpan{};
+  const ValueSpan value = ValueIn(control, text);
   if (queued)
     Services_.Speech.SpeakTextQueued(text, value);
   else
@@ -173,8 +174,9 @@ const std::string& View::StateOf(const CheckBox& box) const {
   return Message(box.Checked ? CheckedMessage : ClearMessage);
 }
 
-/// Where the display's value stands in its announcement.
-ValueSpan View::ValueIn(std::string_view announcement) const {
+/// The display's value in its announcement.
+ValueSpan View::ValueIn(const Control& control, std::string_view announcement) const {
+  if (&control != Display) return {};
   const std::string& sentence = Message(CurrentValueMessage);
   const std::size_t start = sentence.find(Placeholder);
   if (Engine->InError() || start == std::string::npos) return {};
@@ -202,7 +204,7 @@ std::string View::ChosenWords(const ListControl& list) const {
 
 KeyUse View::OnControlKey(Control& control, const KeyEvent& event) {
   if (event.Code == KeyF1) {
-    Services_.Speech.SpeakText(control.HelpText);
+    Services_.Speech.SpeakText(control.HelpText, Prose);
     return KeyUse::Used;
   }
   if (event.Code == KeyF7) {

@@ -54,6 +54,8 @@ class View : public Form, protected EngineHost {
   virtual void OnNewChoice(ListControl&) {}
   /// What a control says of itself.
   virtual std::string Announcement(const Control& control);
+  /// Where a value stands in what a control, or its chosen item, says.
+  virtual ValueSpan ValueIn(const Control& control, std::string_view announcement) const;
   /// What is spoken of a list's chosen item.
   virtual std::string ChosenWords(const ListControl& list) const;
   void OnMenu(int id) override;
@@ -78,7 +80,6 @@ class View : public Form, protected EngineHost {
   void GoByKey(Control& control);
   void Introduce(Control& control, bool queued);
   void SayOf(const Control& control, bool queued);
-  ValueSpan ValueIn(std::string_view announcement) const;
   const std::string& StateOf(const CheckBox& box) const;
   KeyUse TextBoxKey(TextBox& box, const KeyEvent& event);
   void ChooseView(int id);

@@ -28,7 +28,7 @@ bool IsGlued(char neighbour) {
 class Voicing {
  public:
   Voicing(std::string_view text, const VoicingRules& rules, ValueSpan value, std::span<const BookMark> marks)
-      : Text(text), Rules(rules), Words(rules.Words), Value(value), Marks(marks) {
+      : Text(text), Rules(rules), Words(rules.Words), Value(value), ValueLength(value.Length), Marks(marks) {
     Out.Text.reserve(text.size() + text.size() / 2);
     Out.Marks.reserve(marks.size());
   }
@@ -71,6 +71,7 @@ class Voicing {
     const std::string_view value = Text.substr(At, std::exchange(Value.Length, 0));
     switch (Value.Kind) {
       case ValueKind::Number:
+      case ValueKind::Prose:
         return false;
       case ValueKind::BaseDigits:
         return TakeBaseDigits(value);
@@ -116,9 +117,15 @@ class Voicing {
     const char c = Text[At];
     const bool mayBegin = (c >= '0' && c <= '9') || c == '-' || Words.SpokenMinus.starts_with(c);
     if (!mayBegin) return false;
-    const auto number = FindNumber(Text, At, Rules);
+    const auto number = FindNumber(TextOfNumber(), At, Rules);
     if (number) Say(NumberInWords(*number, Rules), number->Length);
     return number.has_value();
+  }
+
+  /// A number that was spoken with its digits apart ends where its value does: digits of others may follow.
+  std::string_view TextOfNumber() const {
+    const std::size_t end = Value.Start + ValueLength;
+    return At >= Value.Start && At < end ? Text.substr(0, end) : Text;
   }
 
   /// "=" anywhere, the other signs between blanks.
@@ -172,6 +179,7 @@ class Voicing {
   const VoicingRules& Rules;
   const VoiceWords& Words;
   ValueSpan Value;
+  std::size_t ValueLength;
   std::span<const BookMark> Marks;
   VoicedText Out;
   std::size_t At = 0;
@@ -189,9 +197,11 @@ bool IsPlain(std::string_view text) {
 VoicedText MakeVoiced(std::string_view spoken, const VoicingRules& rules, ValueSpan value,
                       std::span<const BookMark> marks) {
   const bool isLeftAlone = rules.Reading == NumberReading::Voice || !rules.Words.Complete();
-  if (isLeftAlone || (value.Kind == ValueKind::Number && IsPlain(spoken)))
+  if (isLeftAlone || (value.Length == 0 && IsPlain(spoken)))
     return {std::string(spoken), {marks.begin(), marks.end()}};
-  return Voicing(spoken, rules, value, marks).Run();
+  if (value.Kind != ValueKind::Prose) return Voicing(spoken, rules, value, marks).Run();
+  const VoicingRules unrounded = {rules.Words, rules.Reading, AllDecimals, rules.DigitsApart};
+  return Voicing(spoken, unrounded, value, marks).Run();
 }
 
 }  // namespace qves

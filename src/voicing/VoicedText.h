@@ -18,6 +18,7 @@ enum class ValueKind {
   BaseDigits,  ///< digits and letters of a number base other than decimal
   DateNumber,  ///< month point day and year
   DateText,    ///< weekday, month, day and year
+  Prose,       ///< no value: the numbers of a help or a document are never rounded
 };
 
 /// Where in a text a value stands, in bytes.
@@ -31,6 +32,8 @@ struct VoicedText {
   std::string Text;
   std::vector<BookMark> Marks;
 };
+
+inline constexpr ValueSpan Prose = {0, 0, ValueKind::Prose};
 
 /// The text for the voice. The marks, in the order of their places, move with what they stand before.
 VoicedText MakeVoiced(std::string_view spoken, const VoicingRules& rules, ValueSpan value = {},

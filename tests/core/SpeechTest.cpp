@@ -125,7 +125,7 @@ TEST_F(SpeechTest, ALongTextIsGivenToTheVoicePieceByPiece) {
     text += "This sentence has 2.5 numbers in its middle.\n";
   }
   marks.push_back({text.size(), 200'000});
-  Speech.ReadAloud(text, marks, false);
+  Speech.ReadAloud(text, marks, false, ValueKind::Prose);
   Speech.EndTurn();
   ASSERT_EQ(Outside.Speech.Said.size(), 2U);
   std::size_t given = Outside.Speech.Said[0].size() + Outside.Speech.Said[1].size();
@@ -135,7 +135,7 @@ TEST_F(SpeechTest, ALongTextIsGivenToTheVoicePieceByPiece) {
   for (const std::string& piece : Outside.Speech.Said) heard += piece.substr(piece.find(' ') + 1);
   EXPECT_TRUE(heard == text) << "all of it, in order";
   // What is spoken at once ends the reading.
-  Speech.ReadAloud(text, marks, false);
+  Speech.ReadAloud(text, marks, false, ValueKind::Prose);
   Speech.SpeakTextQueued("behind");
   Speech.EndTurn();
   Speech.SpeakText("key");

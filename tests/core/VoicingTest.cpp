@@ -101,6 +101,11 @@ TEST(Voicing, RoundedDecimals) {
     EXPECT_EQ(Voiced(row.Spoken, NumberReading::Natural, row.Decimals), row.Heard) << row.Spoken;
 }
 
+TEST(Voicing, NumbersOfAHelpAreNeverRounded) {
+  EXPECT_EQ(MakeVoiced("4.072004 is a date", {English, NumberReading::Natural, 2}, Prose).Text,
+            "4 point 0 7 2, 0 0 4 is a date");
+}
+
 TEST(Voicing, ValuesThatAreNoPlainNumbers) {
   using enum ValueKind;
   const struct {
@@ -130,6 +135,10 @@ TEST(Voicing, DigitsThatWereSpokenApartBelongTogether) {
   EXPECT_EQ(MakeVoiced("= 1 2 3point4 5 6 7 8E+2 0", apart).Text,
             "equals 1 2 3 point 4 5 6, 7 8 times ten to the 20");
   EXPECT_EQ(MakeVoiced("May 27 2004, 5 of 12", apart).Text, "May 2 7 2 0 0 4, 5 of 1 2");
+  const std::string item = "Data list, 1 2point2 5";
+  EXPECT_EQ(MakeVoiced(item + " 2 of 5", apart, {11, item.size() - 11}).Text,
+            "Data list, 1 2 point 2 5 2 of 5")
+      << "a value ends where its span does";
 }
 
 TEST(Voicing, MarksStayBeforeWhatTheyStoodBefore) {

@@ -48,6 +48,14 @@ def hear_silence(recording):
     report("silence after Ctrl alone", 1000 * quiet, quiet < BOUND)
 
 
+def hear_tick(recording):
+    pressed = press("F3")
+    time.sleep(1.3)
+    began = recording.first_loud(pressed)
+    report("the tick of a key without a function", 1000 * ((began or pressed + 9) - pressed),
+           began and began - pressed < BOUND and recording.last_loud(pressed) - began < 0.3)
+
+
 def hear(calculator):
     recording = Recording()
     try:
@@ -57,6 +65,7 @@ def hear(calculator):
         time.sleep(1)
         hear_keys(recording)
         hear_silence(recording)
+        hear_tick(recording)
     finally:
         recording.stop()
 

@@ -16,6 +16,7 @@
 #include "../scripts/TemporaryFolder.h"
 #include "Voice.h"
 #include "services/Text.h"
+#include "speech/Pauses.h"
 #include "terminal/ScriptSession.h"
 
 namespace qves {
@@ -27,7 +28,7 @@ using Json = nlohmann::ordered_json;
 struct Row {
   std::string Place;                         ///< file, line and command
   std::map<std::string, std::string> Words;  ///< of "en" and perhaps "de"
-  std::string Text;                          ///< what the voice is given
+  std::string Text;                          ///< what the voice is given, with the back ends' pauses
 };
 
 std::string AfterFirstWord(const std::string& line) {
@@ -128,7 +129,7 @@ class Player {
     EXPECT_FALSE(report.contains("error")) << Place << Command;
     Heard.clear();
     for (const Json& spoken : report["spoken"]) {
-      const std::string text = spoken.value(field, "");
+      const std::string text = WithPauses(spoken.value(field, ""), {}).Text;
       const std::vector<std::string> lines = LinesOf(text);
       Heard.insert(Heard.end(), lines.begin(), lines.end());
       if (lines.size() > 1) LongTexts.push_back({Place + Command, {}, text});

@@ -72,6 +72,15 @@ std::string frmStatistics::ChosenWords(const ListControl& list) const {
          FillPlaceholders(place, {std::to_string(list.ListIndex + 1), std::to_string(list.ItemCount())});
 }
 
+/// The chosen point; its place in the list may follow.
+ValueSpan frmStatistics::ValueIn(const Control& control, std::string_view announcement) const {
+  const auto* list = dynamic_cast<const ListView*>(&control);
+  if (!list || list->ListIndex == NoItem) return View::ValueIn(control, announcement);
+  const std::string item = Services_.Speech.SpeechFormatNumber(list->ItemText(list->ListIndex));
+  const std::string name = list->SpokenName + ", ";
+  return {announcement.starts_with(name) ? name.size() : 0, item.size()};
+}
+
 void frmStatistics::OnListEnd(ListControl&, int step) {
   const std::string words =
       Services_.Sounds.VerbosityAnnounce(step < 0 ? TopOfListEntry : BottomOfListEntry, false);

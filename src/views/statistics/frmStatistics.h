@@ -15,6 +15,7 @@ class frmStatistics : public View, private StatisticsHost {
  private:
   // View
   std::string Announcement(const Control& control) override;
+  ValueSpan ValueIn(const Control& control, std::string_view announcement) const override;
   std::string ChosenWords(const ListControl& list) const override;
   void OnListEnd(ListControl& list, int step) override;
   void OnMenu(int id) override;

@@ -1,0 +1,90 @@
+#include "speech/Pauses.h"
+
+namespace qves {
+namespace {
+
+constexpr std::string_view Punctuation = ".,;:!?";
+
+bool IsLineEnd(char c) {
+  return c == '\r' || c == '\n';
+}
+
+bool IsLetter(char c) {
+  return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
+}
+
+bool IsWordCharacter(char c) {
+  return IsLetter(c) || (c >= '0' && c <= '9') || c == '\'' || (c & 0x80) != 0;
+}
+
+class Pausing {
+ public:
+  Pausing(std::string_view text, std::span<const BookMark> marks) : Text(text), Marks(marks) {}
+
+  PausedText Run() {
+    Out.Text.reserve(Text.size() + Text.size() / 16);
+    for (; At < Text.size(); ++At) {
+      if (IsLineEnd(Text[At])) EndLine();
+      PinMarks(At);
+      Out.Text += Text[At];
+      if (EndsLetterA() || EndsThreeEqualLetters()) Out.Text += ',';
+    }
+    PinMarks(Text.size());
+    return std::move(Out);
+  }
+
+ private:
+  void PinMarks(std::size_t place) {
+    for (; NextMark < Marks.size() && Marks[NextMark].Offset <= place; ++NextMark)
+      Out.Marks.push_back({Out.Text.size(), Marks[NextMark].Number});
+  }
+
+  void EndLine() {
+    const std::size_t last = Out.Text.find_last_not_of(" \t");
+    if (last == std::string::npos || IsLineEnd(Out.Text[last])) return;
+    if (Punctuation.find(Out.Text[last]) == std::string_view::npos) Out.Text += '.';
+  }
+
+  /// A single letter is here, and no part of a word.
+  bool IsLoneLetter(std::size_t at) const {
+    return at < Text.size() && IsLetter(Text[at]) && (at == 0 || !IsWordCharacter(Text[at - 1])) &&
+           (at + 1 >= Text.size() || !IsWordCharacter(Text[at + 1]));
+  }
+
+  bool PausesNext() const {
+    return At + 1 >= Text.size() || Punctuation.find(Text[At + 1]) != std::string_view::npos ||
+           IsLineEnd(Text[At + 1]);
+  }
+
+  bool EndsLetterA() const {
+    return Text[At] == 'A' && IsLoneLetter(At) && !PausesNext() && !BeginsSentence();
+  }
+
+  /// Where an "A" is the article.
+  bool BeginsSentence() const {
+    const std::size_t before = At == 0 ? std::string_view::npos : Text.find_last_not_of(" \t", At - 1);
+    if (before == std::string_view::npos || IsLineEnd(Text[before])) return true;
+    return std::string_view(".!?:").find(Text[before]) != std::string_view::npos;
+  }
+
+  bool EndsThreeEqualLetters() const {
+    const auto isSame = [&](std::size_t at) { return IsLoneLetter(at) && Text[at] == Text[At]; };
+    const bool areThree = At >= 4 && IsLoneLetter(At) && isSame(At - 2) && isSame(At - 4) &&
+                          Text[At - 1] == ' ' && Text[At - 3] == ' ';
+    return areThree && !PausesNext() && Text[At + 1] == ' ' && isSame(At + 2);
+  }
+
+  std::string_view Text;
+  std::span<const BookMark> Marks;
+  PausedText Out;
+  std::size_t At = 0;
+  std::size_t NextMark = 0;
+};
+
+}  // namespace
+
+PausedText WithPauses(std::string_view text, std::span<const BookMark> marks) {
+  return Pausing(text, marks).Run();
+}
+
+}  // namespace qves

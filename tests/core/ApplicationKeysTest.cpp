@@ -1,0 +1,119 @@
+// What becomes of a key before a view sees it, and of one that nobody uses.
+#include "ApplicationFixture.h"
+
+namespace qves {
+namespace {
+
+TEST_F(ApplicationTest, WhileAMenuIsOpenOnlyF1IsHeardByTheCalculator) {
+  Start();
+  HintListener& hints = *Outside.Hints.GetListener();
+  hints.MenuItemHighlighted("Tools", "&", true);
+  TakeSaid();
+  EXPECT_FALSE(App->KeyDown({'7', NoShift, U'7'}));
+  EXPECT_EQ(TakeSaid(), Texts{});
+  EXPECT_TRUE(App->KeyDown({KeyF1, NoShift, 0}));
+  EXPECT_EQ(TakeSaid(), Texts{"now Tools. The mnemonic for this menu item is ampersand. More."});
+  hints.MenuItemHighlighted("Exit", "", false);
+  TakeSaid();
+  App->KeyDown({KeyF1, NoShift, 0});
+  EXPECT_EQ(TakeSaid(), Texts{"now Exit. "});
+  hints.MenusClosed();
+  EXPECT_TRUE(App->KeyDown({'7', NoShift, U'7'}));
+}
+
+TEST_F(ApplicationTest, OnlyCtrlAloneStopsSpeech) {
+  Start();
+  TakeSaid();
+  App->KeyDown({KeyControl, ControlBit, 0});
+  App->KeyDown({'C', ControlBit, 0});
+  App->KeyUp('C');
+  App->KeyUp(KeyControl);
+  EXPECT_EQ(TakeSaid(), Texts{"now "}) << "the copy's message, none in this message file";
+  App->KeyDown({KeyControl, ControlBit, 0});
+  App->KeyUp(KeyControl);
+  EXPECT_EQ(TakeSaid(), Texts{"stop"});
+  App->KeyDown({KeyControl, ControlBit, 0});
+  App->KeyDown({'T', ControlBit | AltBit, 0});  // the desktop's, and yet a key in between
+  App->KeyUp('T');
+  App->KeyUp(KeyControl);
+  EXPECT_EQ(TakeSaid(), Texts{});
+}
+
+TEST_F(ApplicationTest, WithAltGrOnlyWhatItTypesCounts) {
+  const struct {
+    int CalcView;
+    KeyEvent Key;
+    const char* Display;
+  } rows[] = {
+      {ScientificView, {'8', ControlBit | AltBit, U'('}, "("},
+      {ScientificView, {'P', ControlBit | AltBit, U'\u00FE'}, "0"},
+      {StandardView, {'7', AltBit, U'.'}, "0."},
+      {StandardView, {KeyPad0 + 7, ControlBit | AltBit, 0}, "0"},
+      {BusinessView, {'M', ControlBit | AltBit, U'\u00B5'}, "0"},
+  };
+  for (const auto& row : rows) {
+    Outside.Files.Content[Outside.OwnFile] =
+        "\"Calc Settings\"\n\"CalcView\"," + std::to_string(row.CalcView) + "\n";
+    Start();
+    App->KeyDown(row.Key);
+    EXPECT_EQ(dynamic_cast<const TextBox&>(*App->ActiveForm()->Find("txtDisplay")).Text, row.Display);
+  }
+}
+
+TEST_F(ApplicationTest, TheCommaOfTheUsersLanguageTypesThePoint) {
+  const struct {
+    const char* Setting;
+    bool InTheLanguage;
+    KeyEvent Key;
+    const char* Display;
+  } rows[] = {
+      {"auto", true, {KeyComma, NoShift, U','}, "0."},
+      {"auto", false, {KeyComma, NoShift, U','}, "0"},
+      {"on", false, {KeyComma, NoShift, U','}, "0."},
+      {"off", true, {KeyComma, NoShift, U','}, "0"},
+      {"on", false, {'M', NoShift, U','}, "0."},  // where the layout has it
+      {"on", false, {KeyComma, NoShift, U';'}, "0"},
+      {"on", false, {KeyComma, ShiftBit, U'<'}, "0"},
+      {"on", false, {KeyComma, ControlBit, 0}, "0"},
+      {"on", false, {KeyComma, ControlBit | AltBit, U','}, "0"},
+  };
+  for (const auto& row : rows) {
+    Outside.TheLocale.DecimalComma = row.InTheLanguage;
+    Outside.Files.Content[Outside.OwnFile] =
+        std::string("\"Calc Settings\"\n\"DecimalComma\",\"") + row.Setting + "\"\n";
+    Start();
+    App->KeyDown(row.Key);
+    EXPECT_EQ(dynamic_cast<const TextBox&>(*App->ActiveForm()->Find("txtDisplay")).Text, row.Display)
+        << row.Setting << " " << row.Key.Code << " " << row.Key.Shift;
+  }
+}
+
+TEST_F(ApplicationTest, AKeyWithoutAFunctionTicksOnceAndSaysNothing) {
+  const std::string tick = "/program/Sounds/NoFunction.wav";
+  const struct {
+    KeyEvent Key;
+    bool Ticks;
+  } rows[] = {
+      {{'G', NoShift, U'g'}, true},    {{'G', NoShift, U'g', true}, false},  // held
+      {{0, NoShift, U'\u00E8'}, true}, {{0, NoShift, 0}, false},             // unknown, or the desktop's
+      {{'G', AltBit, 0}, false},       {{KeyF10, NoShift, 0}, false},
+      {{KeyF10, ControlBit, 0}, true}, {{KeyScrollLock, NoShift, 0}, false},
+      {{'7', NoShift, U'7'}, false},
+  };
+  Outside.Files.Content[tick] = "RIFF";
+  Start();
+  for (const auto& row : rows) {
+    TakeSaid();
+    Outside.Sounds.Asked.clear();
+    App->KeyDown(row.Key);
+    EXPECT_EQ(Outside.Sounds.Asked, row.Ticks ? Texts{tick} : Texts{}) << row.Key.Code;
+    EXPECT_EQ(TakeSaid().empty(), row.Key.Code != '7') << row.Key.Code;
+  }
+  Outside.Hints.GetListener()->MenuItemHighlighted("File", "F", true);
+  Outside.Sounds.Asked.clear();
+  EXPECT_FALSE(App->KeyDown({'G', NoShift, U'g'}));
+  EXPECT_EQ(Outside.Sounds.Asked, Texts{}) << "the menus' key";
+}
+
+}  // namespace
+}  // namespace qves
