@@ -79,12 +79,13 @@ class RecordingEngine : public TtsEngine {
 
 }  // namespace
 
-TtsEngineInfo RecordingTts::Item(int index) const {
-  return Real ? Real->Item(index) : TtsEngineInfo{"QVES", "transcript", "transcript", 9};
+std::vector<TtsEngineInfo> RecordingTts::Engines() const {
+  if (Real) return Real->Engines();
+  return {{"QVES", "transcript", "transcript", 9}};
 }
 
-std::unique_ptr<TtsEngine> RecordingTts::Open(int index) {
-  auto real = Real ? Real->Open(index) : nullptr;
+std::unique_ptr<TtsEngine> RecordingTts::Open(TtsChooser choose) {
+  auto real = Real ? Real->Open(std::move(choose)) : nullptr;
   if (Real && !real) return nullptr;
   return std::make_unique<RecordingEngine>(Record, Reading, std::move(real));
 }

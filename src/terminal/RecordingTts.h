@@ -28,9 +28,8 @@ class RecordingTts : public TTS {
   /// Records into the transcript. With a real speech list its engines are chosen and speak too.
   explicit RecordingTts(Transcript& transcript, TTS* real = nullptr) : Record(transcript), Real(real) {}
 
-  int Count() const override { return Real ? Real->Count() : 1; }
-  TtsEngineInfo Item(int index) const override;
-  std::unique_ptr<TtsEngine> Open(int index) override;
+  std::vector<TtsEngineInfo> Engines() const override;
+  std::unique_ptr<TtsEngine> Open(TtsChooser choose) override;
   void SetListener(TtsListener* listener) override;
 
   /// The reading reaches so many of its marks, or all of them and its end.

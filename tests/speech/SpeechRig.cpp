@@ -86,13 +86,21 @@ milliseconds TimeOf(const std::function<void()>& call) {
   return std::chrono::duration_cast<milliseconds>(Ticks::now() - start);
 }
 
-int FindEngine(const TTS& list, const std::string& manufacturer, const std::string& voice) {
-  const int count = list.Count();
-  for (int i = 1; i <= count; ++i) {
-    const TtsEngineInfo item = list.Item(i);
-    if (item.Manufacturer == manufacturer && (voice.empty() || item.VoiceName == voice)) return i;
-  }
-  return 0;
+TtsChooser Named(const std::string& manufacturer, const std::string& voice) {
+  return [=](const std::vector<TtsEngineInfo>& engines) {
+    for (std::size_t i = 0; i < engines.size(); ++i) {
+      if (engines[i].Manufacturer == manufacturer && (voice.empty() || engines[i].VoiceName == voice))
+        return int(i) + 1;
+    }
+    return 0;
+  };
+}
+
+std::optional<TtsEngineInfo> Find(const TTS& list, const std::string& manufacturer,
+                                  const std::string& voice) {
+  const std::vector<TtsEngineInfo> engines = list.Engines();
+  const int index = Named(manufacturer, voice)(engines);
+  return index > 0 ? std::optional(engines[std::size_t(index) - 1]) : std::nullopt;
 }
 
 TestEnvironment::~TestEnvironment() {

@@ -10,7 +10,7 @@
 #include "speech/SpeechText.h"
 #ifdef QVES_HAVE_ESPEAK
 #include "speech/espeak/EspeakVoices.h"
-#include "speech/espeak/SoundDevice.h"
+#include "speech/sound/SoundDevice.h"
 #endif
 
 namespace qves {
@@ -118,7 +118,8 @@ std::vector<std::string> NamesFor(std::string_view desktopLanguage) {
       {"mbrola", "mb/mb-us1", {{3, "en-us"}}},
   };
   std::vector<std::string> names;
-  for (const Voice& voice : OfferedVoices(all, desktopLanguage, 0)) names.push_back(voice.Info.VoiceName);
+  for (const Voice& voice : OfferedVoices(all, desktopLanguage, nullptr))
+    names.push_back(voice.Info.VoiceName);
   return names;
 }
 

@@ -16,10 +16,10 @@ class SpeechdTest : public testing::Test {
     if (!PrivateSpeechServer::Installed() || !Sound.Ready())
       GTEST_SKIP() << "speech-dispatcher and pulseaudio are needed";
     List = MakeSpeech(SpeechChoice::SpeechDispatcher, Pump);
-    Use(1);
+    Use("Speech Dispatcher", "default");
   }
-  void Use(int number) {
-    Engine = List->Open(number);
+  void Use(const std::string& manufacturer, const std::string& voice) {
+    Engine = List->Open(Named(manufacturer, voice));
     ASSERT_NE(Engine, nullptr);
     Listener = std::make_unique<TestListener>(Engine.get());
     List->SetListener(Listener.get());
@@ -67,17 +67,11 @@ TEST_F(SpeechdTest, SentenceMarksComeAsTheSentencesBegin) {
 }
 
 TEST_F(SpeechdTest, TheListGrowsByTheModulesVoices) {
-  EXPECT_EQ(List->Count(), 1);
-  EXPECT_EQ(List->Item(1).Manufacturer, "Speech Dispatcher");
-  EXPECT_EQ(List->Item(1).Product, "speech-dispatcher");
-  EXPECT_EQ(List->Item(1).VoiceName, "default");
-  EXPECT_EQ(List->Item(1).LanguageId, 9);
-  ASSERT_TRUE(ReachedWithin(Pump, 8s, [&] { return !Listener->Reports.empty(); }));
-  EXPECT_EQ(Listener->Reports.front(), "list");
-  const int second = FindEngine(*List, "capture", "second");
-  ASSERT_GT(second, 1);
-  EXPECT_EQ(List->Item(second).LanguageId, 7);
-  Use(second);
+  ASSERT_TRUE(ReachedWithin(Pump, 8s, [&] { return List->Engines().size() == 1; }));
+  EXPECT_EQ(List->Engines()[0], (TtsEngineInfo{"Speech Dispatcher", "speech-dispatcher", "default", 9}));
+  ASSERT_TRUE(ReachedWithin(Pump, 8s, [&] { return List->Engines().size() > 1; }));
+  EXPECT_EQ(Find(*List, "capture", "second"), (TtsEngineInfo{"capture", "capture", "second", 7}));
+  Use("capture", "second");
   Engine->SetSpeed(300);
   Engine->SetPitch(20);
   Speaker->SpeakNow("eins");
@@ -105,7 +99,6 @@ TEST_F(SpeechdTest, WhoStandsInForADeadServerGoesOnWhereItStopped) {
   Server.Signal(SIGKILL);
   EXPECT_TRUE(Idle(15s));
   Pump.ProcessEvents(0);
-  std::erase(Listener->Reports, "list");
   EXPECT_EQ(Listener->Reports, (std::vector<std::string>{"mark 1 of 2", "mark 2 of 2", "mark 2 of 2",
                                                          "mark 3 of 2", "mark 4 of 2", "stopped 2"}));
 }
@@ -143,7 +136,7 @@ TEST_F(SpeechdTest, WithoutAServerTheCallsReturnAndBusyEnds) {
   Desktop.Environment().Set("PATH", "/nonexistent");
   Desktop.Environment().Set("SPEECHD_CMD", "/nonexistent/server");
   List = MakeSpeech(SpeechChoice::SpeechDispatcher, Pump);
-  Use(1);
+  Use("Speech Dispatcher", "default");
   EXPECT_LT(TimeOf([&] { Speaker->SpeakNow("nobody there"); }), Prompt);
   EXPECT_TRUE(Idle(15s));
 }

@@ -1,0 +1,128 @@
+#include "speech/espeak/EspeakBackEnd.h"
+
+#include <espeak-ng/speak_lib.h>
+
+#include <algorithm>
+#include <chrono>
+#include <utility>
+
+#include "speech/LanguageIds.h"
+#include "speech/SpeechScales.h"
+#include "speech/espeak/EspeakPlayback.h"
+#include "speech/espeak/EspeakVoices.h"
+
+namespace qves {
+namespace {
+
+using std::chrono::milliseconds;
+using std::chrono::seconds;
+
+constexpr auto LongestTurn = seconds(2);
+constexpr auto LongestConnect = milliseconds(1000);
+constexpr auto SettledAfter = milliseconds(1);
+constexpr auto SleepAfter = seconds(10);
+constexpr auto FollowsWithin = milliseconds(100);
+constexpr auto PauseBetween = milliseconds(150);  // of two texts that follow each other
+constexpr int BufferMilliseconds = 20;            // short ones bring the first samples out early
+
+std::timed_mutex& Library() {
+  static auto& library = *new std::timed_mutex;  // outlives threads that are left behind
+  return library;
+}
+
+// Samples a second, 0 or less when the library does not find its data. Once initialised it stays so.
+int LibraryRate() {
+  static const int rate =
+      espeak_Initialize(AUDIO_OUTPUT_SYNCHRONOUS, BufferMilliseconds, nullptr, espeakINITIALIZE_DONT_EXIT);
+  return rate;
+}
+
+void SetParameter(espeak_PARAMETER parameter, std::optional<int> value) {
+  const int wanted = value ? *value : espeak_GetParameter(parameter, 0);
+  if (espeak_GetParameter(parameter, 1) != wanted) espeak_SetParameter(parameter, wanted, 0);
+}
+
+template <typename T, typename Scale>
+std::optional<int> Scaled(const std::optional<T>& value, Scale scale) {
+  return value ? std::optional<int>(scale(*value)) : std::nullopt;
+}
+
+}  // namespace
+
+bool EspeakBackEnd::Start() {
+  if (Started) return !Offered.empty();
+  Started = true;
+  Turn = std::unique_lock(Library(), LongestTurn);
+  if (!Turn || LibraryRate() <= 0) return false;
+  espeak_SetSynthCallback(EspeakPlayback::Receive);
+  Offered = OfferedVoices(InstalledVoices(), DesktopLanguage(), this);
+  Server.emplace(Changed, LibraryRate());
+  Device.emplace(Changed, LibraryRate());
+  return !Offered.empty();
+}
+
+const std::vector<Voice>& EspeakBackEnd::Voices() {
+  Start();
+  return Offered;
+}
+
+bool EspeakBackEnd::Play(const Utterance& text, Playing& playing) {
+  if (!Start()) return false;
+  SoundStream* stream = Output();
+  if (!stream || playing.Stopped()) return true;
+  Apply(text);
+  Awake = stream;
+  const bool follows = !LastStopped && SteadyClock::now() < LastPlayed + FollowsWithin;
+  EspeakPlayback playback(*stream, LibraryRate(), text, playing);
+  if (!playback.Run(follows ? PauseBetween : milliseconds(0))) stream->Close();
+  LastPlayed = SteadyClock::now();
+  LastStopped = playing.Stopped();
+  return true;
+}
+
+// The sound server; without one the device. Null: nothing would be heard.
+SoundStream* EspeakBackEnd::Output() {
+  switch (Server->Connect(LongestConnect)) {
+    case PulseStream::Link::Ready:
+      Device->Close();
+      return &*Server;
+    case PulseStream::Link::NoServer:
+      return HasSoundDevice(Places) && Device->Open() ? &*Device : nullptr;
+    case PulseStream::Link::NoAnswer:
+      break;  // the device may lead to the same server and hang
+  }
+  return nullptr;
+}
+
+TimePoint EspeakBackEnd::Rest() {
+  if (Server && !std::exchange(LookedForServer, true)) Server->Connect(LongestConnect);
+  if (!Awake) return TimePoint::max();
+  const TimePoint now = SteadyClock::now();
+  if (now < LastPlayed + SettledAfter) return LastPlayed + SettledAfter;
+  Awake->Alive();  // the server's last answers are read now and not with the next text
+  if (now < LastPlayed + SleepAfter) return LastPlayed + SleepAfter;
+  Awake->Sleep();
+  Awake = nullptr;
+  return TimePoint::max();
+}
+
+void EspeakBackEnd::Apply(const Utterance& text) {
+  const std::string& key = KeyFor(text.Speaking);
+  if (key != CurrentKey) espeak_SetVoiceByName(key.c_str());
+  CurrentKey = key;
+  const VoiceSettings& settings = text.Settings;
+  SetParameter(espeakRATE, Scaled(settings.WordsPerMinute, EspeakRate));
+  SetParameter(espeakVOLUME, Scaled(settings.Volume, EspeakVolume));
+  SetParameter(espeakPITCH, Scaled(settings.Pitch, [](double pitch) { return FromFraction(pitch, 0, 100); }));
+}
+
+// A text of another back end's voice is spoken by the best voice of its language.
+const std::string& EspeakBackEnd::KeyFor(const Voice& voice) const {
+  if (voice.Speaker == this) return voice.Key;
+  const auto own = std::find_if(Offered.begin(), Offered.end(), [&](const Voice& offered) {
+    return offered.Info.LanguageId == voice.Info.LanguageId;
+  });
+  return own == Offered.end() ? Offered.front().Key : own->Key;
+}
+
+}  // namespace qves
