@@ -178,7 +178,11 @@ int PrivateSound::LoudestOfLast(milliseconds span) const {
   return loudest;
 }
 
-PrivateSpeechServer::PrivateSpeechServer(const PrivateDesktop& desktop) : Folder(desktop.Folder()) {
+PrivateSpeechServer::PrivateSpeechServer(PrivateDesktop& desktop) : Folder(desktop.Folder()) {
+  const std::string program = Folder + "/server";
+  std::ofstream(program) << "#!/bin/sh\nexec speech-dispatcher \"$@\"\n";
+  std::filesystem::permissions(program, std::filesystem::perms::owner_all);
+  desktop.Environment().Set("SPEECHD_CMD", program);
   const std::string settings = Folder + "/.config/speech-dispatcher";
   std::filesystem::create_directories(settings + "/modules");
   std::ofstream(settings + "/speechd.conf") << "LogLevel 1\nTimeout 2\n"
@@ -206,12 +210,17 @@ std::string PrivateSpeechServer::Spoken() const {
   return spoken;
 }
 
-bool PrivateSpeechServer::Running() const {
-  return PidIn(Folder + "/speech-dispatcher/pid/speech-dispatcher.pid") > 1;
+bool PrivateSpeechServer::Answers() const {
+  return std::filesystem::exists(Folder + "/speech-dispatcher/speechd.sock") &&
+         PidIn(Folder + "/speech-dispatcher/pid/speech-dispatcher.pid") > 1;
 }
 
 void PrivateSpeechServer::Signal(int signal) const {
   SendSignal(Folder + "/speech-dispatcher/pid/speech-dispatcher.pid", signal);
+}
+
+void PrivateSpeechServer::Remove() const {
+  std::filesystem::remove(Folder + "/server");
 }
 
 }  // namespace qves

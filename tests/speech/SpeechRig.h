@@ -107,7 +107,7 @@ class PrivateSound {
 /// speaking.
 class PrivateSpeechServer {
  public:
-  explicit PrivateSpeechServer(const PrivateDesktop& desktop);
+  explicit PrivateSpeechServer(PrivateDesktop& desktop);
   ~PrivateSpeechServer();
   PrivateSpeechServer(const PrivateSpeechServer&) = delete;
   PrivateSpeechServer& operator=(const PrivateSpeechServer&) = delete;
@@ -115,8 +115,11 @@ class PrivateSpeechServer {
   static bool Installed();
   /// What has been spoken.
   std::string Spoken() const;
-  bool Running() const;
+  /// It is there.
+  bool Answers() const;
   void Signal(int signal) const;
+  /// From now on none can be started.
+  void Remove() const;
 
  private:
   std::string Folder;

@@ -45,14 +45,15 @@ class SpeechdTest : public testing::Test {
 TEST_F(SpeechdTest, SpeaksInOrderAndInterrupts) {
   EXPECT_LT(TimeOf([&] { Speaker->SpeakNow("one"); }), Prompt);
   Speaker->SpeakQueued("two & <b>");
+  Speaker->SpeakQueued(".");  // which alone in its line ends a text on its way to the server
   EXPECT_TRUE(Idle());
-  EXPECT_EQ(Server.Spoken(), "one|two & <b>|");
+  EXPECT_EQ(Server.Spoken(), "one|two & <b>|.|");
   Speaker->SpeakNow("three");
   EXPECT_TRUE(Spoken("three"));
   Speaker->SpeakQueued("never");
   Speaker->SpeakNow("four");
   EXPECT_TRUE(Idle());
-  EXPECT_EQ(Server.Spoken(), "one|two & <b>|three|four|");
+  EXPECT_EQ(Server.Spoken(), "one|two & <b>|.|three|four|");
   for (int i = 0; i < 200; ++i) Speaker->SpeakNow("key " + std::to_string(i));
   EXPECT_TRUE(Idle()) << "the interrupted texts were dropped";
   EXPECT_TRUE(Server.Spoken().ends_with("key 199|"));
@@ -95,7 +96,7 @@ TEST_F(SpeechdTest, WhoStandsInForADeadServerGoesOnWhereItStopped) {
   Speaker->SpeakNow("One. Two. Three. Four.", marks);
   ASSERT_TRUE(Spoken("Two"));
   ASSERT_TRUE(ReachedWithin(Pump, 2s, [&] { return Listener->Reports.size() == 2; }));
-  Desktop.Environment().Set("SPEECHD_CMD", "/nonexistent/server");
+  Server.Remove();
   Server.Signal(SIGKILL);
   EXPECT_TRUE(Idle(15s));
   Pump.ProcessEvents(0);
@@ -131,14 +132,23 @@ TEST_F(SpeechdTest, IsLeftAtOnceAlsoWhenTheServerHangs) {
             2 * Prompt);
 }
 
-TEST_F(SpeechdTest, WithoutAServerTheCallsReturnAndBusyEnds) {
-  Desktop.Environment().Set("SPEECHD_ADDRESS", "unix_socket:/nonexistent/socket");
-  Desktop.Environment().Set("PATH", "/nonexistent");
-  Desktop.Environment().Set("SPEECHD_CMD", "/nonexistent/server");
-  List = MakeSpeech(SpeechChoice::SpeechDispatcher, Pump);
-  Use("Speech Dispatcher", "default");
-  EXPECT_LT(TimeOf([&] { Speaker->SpeakNow("nobody there"); }), Prompt);
-  EXPECT_TRUE(Idle(15s));
+TEST_F(SpeechdTest, AServerThatHangsWhileItListsItsVoicesDelaysNoMoreThanUsual) {
+  ASSERT_TRUE(ReachedWithin(Pump, 8s, [&] { return Server.Answers(); }));
+  Server.Signal(SIGSTOP);
+  ReachedWithin(Pump, 1700ms, [] { return false; });  // the list has been asked for by then
+  Speaker->SpeakNow("7");
+  EXPECT_TRUE(ReachedWithin(Pump, 2500ms, [&] { return Sound.LoudestOfLast(300ms) > 500; }));
+  EXPECT_TRUE(Idle(2s));
+}
+
+TEST(SpeechdMissingTest, TheCallsReturnAndBusyEnds) {
+  PrivateDesktop desktop;
+  desktop.Environment().Set("SPEECHD_CMD", "/nonexistent/server");
+  TestPump pump;
+  const auto list = MakeSpeech(SpeechChoice::SpeechDispatcher, pump);
+  const auto engine = list->Open([](const auto&) { return 1; });
+  EXPECT_LT(TimeOf([&] { engine->Speaker(2)->SpeakNow("nobody there"); }), Prompt);
+  EXPECT_TRUE(ReachedWithin(pump, 5s, [&] { return !engine->Busy(); }));
 }
 
 }  // namespace

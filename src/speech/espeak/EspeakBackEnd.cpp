@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <chrono>
+#include <thread>
 #include <utility>
 
 #include "speech/LanguageIds.h"
@@ -25,9 +26,18 @@ constexpr auto FollowsWithin = milliseconds(100);
 constexpr auto PauseBetween = milliseconds(150);  // of two texts that follow each other
 constexpr int BufferMilliseconds = 20;            // short ones bring the first samples out early
 
-std::timed_mutex& Library() {
-  static auto& library = *new std::timed_mutex;  // outlives threads that are left behind
+// The library, free or in use. It outlives threads that are left behind.
+std::mutex& Library() {
+  static auto& library = *new std::mutex;
   return library;
+}
+
+std::unique_lock<std::mutex> TakeLibrary() {
+  std::unique_lock turn(Library(), std::try_to_lock);
+  for (const TimePoint deadline = SteadyClock::now() + LongestTurn; !turn && SteadyClock::now() < deadline;
+       turn.try_lock())
+    std::this_thread::sleep_for(milliseconds(5));
+  return turn;
 }
 
 // Samples a second, 0 or less when the library does not find its data. Once initialised it stays so.
@@ -52,7 +62,7 @@ std::optional<int> Scaled(const std::optional<T>& value, Scale scale) {
 bool EspeakBackEnd::Start() {
   if (Started) return !Offered.empty();
   Started = true;
-  Turn = std::unique_lock(Library(), LongestTurn);
+  Turn = TakeLibrary();
   if (!Turn || LibraryRate() <= 0) return false;
   espeak_SetSynthCallback(EspeakPlayback::Receive);
   Offered = OfferedVoices(InstalledVoices(), DesktopLanguage(), this);

@@ -29,7 +29,7 @@ class EspeakBackEnd : public SpeechBackEnd {
 
   Wake& Changed;
   bool Started = false;
-  std::unique_lock<std::timed_mutex> Turn;
+  std::unique_lock<std::mutex> Turn;
   std::vector<Voice> Offered;  // empty: the library cannot speak
   std::string CurrentKey;
   std::optional<PulseStream> Server;
