@@ -33,10 +33,6 @@ struct Utterance {
   std::vector<BookMark> Marks;  ///< in order
   VoiceSettings Settings;
   Voice Speaking;
-
-  /// So many bytes, to a character's start, have been spoken: what is left is the rest with its marks, one at
-  /// its start included.
-  void DropFront(std::size_t length);
 };
 
 /// What a back end looks at and tells while it plays a text.

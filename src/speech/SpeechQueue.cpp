@@ -5,6 +5,16 @@
 #include <utility>
 
 namespace qves {
+namespace {
+
+// So many bytes have been spoken: what is left is the rest with its marks, one at its start included.
+void DropFront(Utterance& text, std::size_t length) {
+  text.Text.erase(0, length);
+  std::erase_if(text.Marks, [length](const BookMark& mark) { return mark.Offset < length; });
+  for (BookMark& mark : text.Marks) mark.Offset -= length;
+}
+
+}  // namespace
 
 void SpeechQueue::Add(std::unique_ptr<SpeechBackEnd> backEnd, bool listed) {
   BackEnds.push_back(std::move(backEnd));
@@ -105,7 +115,7 @@ void SpeechQueue::Play(QueuedText& text) {
   for (SpeechBackEnd* backEnd : InOrder(*chosen)) {
     Playing playing(Woken, StopCurrent, [&](std::int32_t number) { ReportMark(text, number); });
     if (playing.Stopped() || backEnd->Play(text.What, playing)) return;
-    text.What.DropFront(playing.Spoken);
+    DropFront(text.What, playing.Spoken);
   }
 }
 

@@ -147,6 +147,7 @@ PrivateSound::PrivateSound(const PrivateDesktop& desktop)
           " -L 'module-null-sink sink_name=null rate=48000 channels=2 norewinds=1'") &&
       Run("command -v parec");
   if (!IsReady) return;
+  std::filesystem::remove(Recording);  // of a server before
   const std::string record =
       "timeout 300 parec --device=null.monitor --format=s16le --channels=1 --latency-msec=20 --rate=" +
       std::to_string(RecordedRate) + " > " + Recording + " & echo $! > " + Folder;
@@ -208,11 +209,6 @@ std::string PrivateSpeechServer::Spoken() const {
   std::string spoken = Contents(Folder + "/spoken");
   std::replace(spoken.begin(), spoken.end(), '\n', '|');
   return spoken;
-}
-
-bool PrivateSpeechServer::Answers() const {
-  return std::filesystem::exists(Folder + "/speech-dispatcher/speechd.sock") &&
-         PidIn(Folder + "/speech-dispatcher/pid/speech-dispatcher.pid") > 1;
 }
 
 void PrivateSpeechServer::Signal(int signal) const {

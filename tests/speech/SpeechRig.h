@@ -115,8 +115,6 @@ class PrivateSpeechServer {
   static bool Installed();
   /// What has been spoken.
   std::string Spoken() const;
-  /// It is there.
-  bool Answers() const;
   void Signal(int signal) const;
   /// From now on none can be started.
   void Remove() const;

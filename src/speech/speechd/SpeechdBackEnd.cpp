@@ -244,7 +244,7 @@ TimePoint SpeechdBackEnd::Rest() {
   return ListAt;
 }
 
-// False: a text has come, which goes first.
+// False: a text has come, which goes first, or the server hangs.
 bool SpeechdBackEnd::ListVoices() {
   const int socket = Eager || Server.Runs() ? Server.Connect() : -1;
   if (socket < 0) return true;
@@ -262,7 +262,7 @@ bool SpeechdBackEnd::ListVoices() {
       found.push_back(std::move(voice));
     }
   }
-  if (Changed.Notified()) return false;
+  if (connection.Hangs()) return false;
   std::move(found.begin(), found.end(), std::back_inserter(Known));
   return true;
 }
