@@ -17,8 +17,8 @@ class SpeechBackEnd;
 
 struct Voice {
   TtsEngineInfo Info;
-  std::string Key;                         ///< its name for the back end; empty: the back end's own default
-  const SpeechBackEnd* Speaker = nullptr;  ///< whose voice it is
+  std::string Key;                       ///< its name for the back end; empty: the back end's own default
+  const SpeechBackEnd* Owner = nullptr;  ///< whose voice it is
 };
 
 /// What was never set is left to the back end.

@@ -124,7 +124,7 @@ std::vector<SpeechBackEnd*> SpeechQueue::InOrder(const Voice& voice) const {
   std::vector<SpeechBackEnd*> order;
   for (const auto& backEnd : BackEnds) order.push_back(backEnd.get());
   std::stable_partition(order.begin(), order.end(),
-                        [&](const SpeechBackEnd* backEnd) { return backEnd == voice.Speaker; });
+                        [&](const SpeechBackEnd* backEnd) { return backEnd == voice.Owner; });
   return order;
 }
 

@@ -64,7 +64,7 @@ class FakeBackEnd : public SpeechBackEnd {
   void AddVoice(const char* number) {
     Voice& voice = Known.emplace_back();
     voice.Info = {"Maker", "Product", Name + number, 9};
-    voice.Speaker = this;
+    voice.Owner = this;
   }
 
   std::string Name;

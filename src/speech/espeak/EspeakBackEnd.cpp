@@ -128,7 +128,7 @@ void EspeakBackEnd::Apply(const Utterance& text) {
 
 // A text of another back end's voice is spoken by the best voice of its language.
 const std::string& EspeakBackEnd::KeyFor(const Voice& voice) const {
-  if (voice.Speaker == this) return voice.Key;
+  if (voice.Owner == this) return voice.Key;
   const auto own = std::find_if(Offered.begin(), Offered.end(), [&](const Voice& offered) {
     return offered.Info.LanguageId == voice.Info.LanguageId;
   });

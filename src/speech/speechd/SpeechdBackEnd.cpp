@@ -33,6 +33,10 @@ constexpr auto TryHungAgainAfter = seconds(600);  // or as soon as it answers
 constexpr std::size_t LongestPiece = 2000;
 constexpr int MostFailures = 2;  // the second one after reconnecting
 
+constexpr const char* Preparations[] = {"SET SELF PRIORITY MESSAGE", "SET SELF NOTIFICATION BEGIN ON",
+                                        "SET SELF NOTIFICATION END ON", "SET SELF NOTIFICATION CANCEL ON",
+                                        "SET SELF NOTIFICATION INDEX_MARKS ON"};
+
 constexpr int IndexMark = 700, Begin = 701, End = 702, Canceled = 703;
 
 std::string ClientName(const char* part) {
@@ -150,7 +154,7 @@ bool SpeechdBackEnd::Say(Passage& passage) {
 
 SpeechdBackEnd::Manner SpeechdBackEnd::MannerOf(const Utterance& text, bool markup) const {
   Manner manner{{"SSML_MODE", markup ? "on" : "off"}};
-  if (text.Speaking.Speaker == this && !text.Speaking.Key.empty()) {
+  if (text.Speaking.Owner == this && !text.Speaking.Key.empty()) {
     manner["OUTPUT_MODULE"] = text.Speaking.Info.Product;
     manner["SYNTHESIS_VOICE"] = text.Speaking.Key;
   }
@@ -193,19 +197,16 @@ bool SpeechdBackEnd::Open(milliseconds longest) {
   if (socket < 0) return false;
   Link = std::make_unique<SpeechdConnection>(socket);
   LinkManner.clear();
-  const TimePoint deadline = SteadyClock::now() + longest;
-  for (const std::string& command :
-       {ClientName("main"), std::string("SET SELF PRIORITY MESSAGE"),
-        std::string("SET SELF NOTIFICATION BEGIN ON"), std::string("SET SELF NOTIFICATION END ON"),
-        std::string("SET SELF NOTIFICATION CANCEL ON"),
-        std::string("SET SELF NOTIFICATION INDEX_MARKS ON")}) {
-    if (Do(command, deadline)) continue;
-    DropLink();
-    return false;
+  const auto done = [&, deadline = SteadyClock::now() + longest](const std::string& command) {
+    return Do(command, deadline);
+  };
+  if (done(ClientName("main")) && std::all_of(std::begin(Preparations), std::end(Preparations), done)) {
+    Hanging.reset();
+    DownUntil = {};
+    return true;
   }
-  Hanging.reset();
-  DownUntil = {};
-  return true;
+  DropLink();
+  return false;
 }
 
 bool SpeechdBackEnd::Do(const std::string& command, TimePoint deadline) {
@@ -258,7 +259,7 @@ bool SpeechdBackEnd::ListVoices() {
   for (const std::string& module : ask("LIST OUTPUT_MODULES")) {
     ask("SET SELF OUTPUT_MODULE " + module);
     for (Voice& voice : VoicesOf(module, ask("LIST SYNTHESIS_VOICES"))) {
-      voice.Speaker = this;
+      voice.Owner = this;
       found.push_back(std::move(voice));
     }
   }
