@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "platform/TTS.h"
+#include "speech/SpeechScales.h"
 #include "speech/Wake.h"
 
 namespace qves {
@@ -21,16 +22,15 @@ struct Voice {
   const SpeechBackEnd* Owner = nullptr;  ///< whose voice it is
 };
 
-/// What was never set is left to the back end.
 struct VoiceSettings {
-  std::optional<int> WordsPerMinute;
-  std::optional<std::int32_t> Volume;  ///< 0 to 65535
-  std::optional<double> Pitch;         ///< from 0, the lowest, to 1, the highest
+  int WordsPerMinute = UnsetSpeed;
+  std::int32_t Volume = UnsetVolume;  ///< 0 to 65535
+  std::optional<int> Pitch;           ///< 0 to HighestPitch; unset: the voice's own
 };
 
 struct Utterance {
-  std::string Text;             ///< clean
-  std::vector<BookMark> Marks;  ///< in order
+  std::string Text;             ///< clean, when a back end gets it
+  std::vector<BookMark> Marks;  ///< in order, then
   VoiceSettings Settings;
   Voice Speaking;
 };

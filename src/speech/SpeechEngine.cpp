@@ -2,9 +2,6 @@
 
 #include <utility>
 
-#include "speech/SpeechScales.h"
-#include "speech/SpeechText.h"
-
 namespace qves {
 
 SpeechSpeaker::SpeechSpeaker(SpeechEngine& engine) : Engine(engine) {
@@ -28,7 +25,7 @@ void SpeechSpeaker::SpeakQueued(std::string_view text, std::span<const BookMark>
 }
 
 void SpeechSpeaker::Speak(std::string_view text, std::span<const BookMark> marks, bool interrupts) {
-  Utterance what{CleanText(text), OrderedMarks(marks, text.size()), Engine.Settings, {}};
+  Utterance what{std::string(text), {marks.begin(), marks.end()}, Engine.Settings, {}};
   Engine.Queue->Speak({std::move(what), Engine.Voice, Record, interrupts});
 }
 
@@ -43,19 +40,6 @@ bool SpeechSpeaker::Busy() const {
 SpeechEngine::SpeechEngine(std::shared_ptr<SpeechQueue> queue, TtsChooser choose)
     : Queue(std::move(queue)), Speakers{SpeechSpeaker(*this), SpeechSpeaker(*this)} {
   Voice->Choose = std::move(choose);
-}
-
-void SpeechEngine::SetPitch(int pitch) {
-  Settings.Pitch = Fraction(pitch, MinimumPitch(), MaximumPitch());
-}
-
-// The back end may not be known yet, so all of them have one range, fine enough for each.
-int SpeechEngine::MinimumPitch() const {
-  return 0;
-}
-
-int SpeechEngine::MaximumPitch() const {
-  return 1000;
 }
 
 TtsSpeaker* SpeechEngine::Speaker(int number) {

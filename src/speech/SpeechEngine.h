@@ -36,9 +36,9 @@ class SpeechEngine : public TtsEngine {
   bool Initialise() override { return true; }
   void SetSpeed(int wordsPerMinute) override { Settings.WordsPerMinute = wordsPerMinute; }
   void SetVolume(std::int32_t volume) override { Settings.Volume = volume; }
-  void SetPitch(int pitch) override;
-  int MinimumPitch() const override;
-  int MaximumPitch() const override;
+  void SetPitch(int pitch) override { Settings.Pitch = pitch; }
+  int MinimumPitch() const override { return 0; }
+  int MaximumPitch() const override { return HighestPitch; }
   TtsSpeaker* Speaker(int number) override;
   bool Busy() const override { return Speakers[0].Busy() || Speakers[1].Busy(); }
 

@@ -4,6 +4,8 @@
 #include <iterator>
 #include <utility>
 
+#include "speech/SpeechText.h"
+
 namespace qves {
 namespace {
 
@@ -112,6 +114,8 @@ void SpeechQueue::Play(QueuedText& text) {
   if (text.Interrupts || !chosen) Choose(*text.Engine);
   if (!chosen) return;
   text.What.Speaking = *chosen;
+  text.What.Text = CleanText(text.What.Text);
+  text.What.Marks = OrderedMarks(text.What.Marks, text.What.Text.size());
   for (SpeechBackEnd* backEnd : InOrder(*chosen)) {
     Playing playing(Woken, StopCurrent, [&](std::int32_t number) { ReportMark(text, number); });
     if (playing.Stopped() || backEnd->Play(text.What, playing)) return;

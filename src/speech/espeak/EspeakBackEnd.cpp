@@ -8,7 +8,6 @@
 #include <utility>
 
 #include "speech/LanguageIds.h"
-#include "speech/SpeechScales.h"
 #include "speech/espeak/EspeakPlayback.h"
 #include "speech/espeak/EspeakVoices.h"
 
@@ -47,14 +46,8 @@ int LibraryRate() {
   return rate;
 }
 
-void SetParameter(espeak_PARAMETER parameter, std::optional<int> value) {
-  const int wanted = value ? *value : espeak_GetParameter(parameter, 0);
+void SetParameter(espeak_PARAMETER parameter, int wanted) {
   if (espeak_GetParameter(parameter, 1) != wanted) espeak_SetParameter(parameter, wanted, 0);
-}
-
-template <typename T, typename Scale>
-std::optional<int> Scaled(const std::optional<T>& value, Scale scale) {
-  return value ? std::optional<int>(scale(*value)) : std::nullopt;
 }
 
 }  // namespace
@@ -121,9 +114,10 @@ void EspeakBackEnd::Apply(const Utterance& text) {
   if (key != CurrentKey) espeak_SetVoiceByName(key.c_str());
   CurrentKey = key;
   const VoiceSettings& settings = text.Settings;
-  SetParameter(espeakRATE, Scaled(settings.WordsPerMinute, EspeakRate));
-  SetParameter(espeakVOLUME, Scaled(settings.Volume, EspeakVolume));
-  SetParameter(espeakPITCH, Scaled(settings.Pitch, [](double pitch) { return FromFraction(pitch, 0, 100); }));
+  SetParameter(espeakRATE, EspeakRate(settings.WordsPerMinute));
+  SetParameter(espeakVOLUME, EspeakVolume(settings.Volume));
+  SetParameter(espeakPITCH,
+               settings.Pitch ? EspeakPitch(*settings.Pitch) : espeak_GetParameter(espeakPITCH, 0));
 }
 
 // A text of another back end's voice is spoken by the best voice of its language.

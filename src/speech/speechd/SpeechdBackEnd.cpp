@@ -9,7 +9,6 @@
 #include <utility>
 
 #include "speech/LanguageIds.h"
-#include "speech/SpeechScales.h"
 #include "speech/SpeechText.h"
 
 namespace qves {
@@ -159,11 +158,10 @@ SpeechdBackEnd::Manner SpeechdBackEnd::MannerOf(const Utterance& text, bool mark
     manner["SYNTHESIS_VOICE"] = text.Speaking.Key;
   }
   const VoiceSettings& settings = text.Settings;
-  if (settings.WordsPerMinute.value_or(UnsetSpeed) != UnsetSpeed)
-    manner["RATE"] = std::to_string(SpeechdRate(*settings.WordsPerMinute));
-  if (settings.Volume.value_or(UnsetVolume) != UnsetVolume)
-    manner["VOLUME"] = std::to_string(SpeechdVolume(*settings.Volume));
-  if (settings.Pitch) manner["PITCH"] = std::to_string(FromFraction(*settings.Pitch, -100, 100));
+  const auto set = [&](const char* name, int value) { manner[name] = std::to_string(value); };
+  if (settings.WordsPerMinute != UnsetSpeed) set("RATE", SpeechdRate(settings.WordsPerMinute));
+  if (settings.Volume != UnsetVolume) set("VOLUME", SpeechdVolume(settings.Volume));
+  if (settings.Pitch) set("PITCH", SpeechdPitch(*settings.Pitch));
   return manner;
 }
 
