@@ -134,8 +134,9 @@ void PulseStream::Sleep() {
 }
 
 void PulseStream::SetCorked(bool wanted) {
-  if (Corked != wanted) Forget(pa_stream_cork(Stream, wanted, nullptr, nullptr));
+  if (Corked == wanted) return;
   Corked = wanted;
+  Forget(pa_stream_cork(Stream, wanted, nullptr, nullptr));
   SendAndReceive();
 }
 
