@@ -2,6 +2,7 @@
 #include <fontconfig/fontconfig.h>
 #include <xcb/xcb.h>
 
+#include <QAbstractEventDispatcher>
 #include <QSessionManager>
 #include <QSettings>
 #include <algorithm>
@@ -86,12 +87,17 @@ int RunCalculator(const Options& options, QtEventPump& events, LateTts& speech,
   ServiceSet services(platform);
 
   DesktopShell shell({services.All.Settings, hints, windowMessages, windows, events, fileDialog});
-  fileDialog.Speak = [&services](const std::string& text) { services.All.Speech.SpeakText(text); };
+  fileDialog.Speak = [&services](const std::string& text) { services.All.Speech.SpeakText(text, Prose); };
   CalculatorApp app(services.All, shell);
   shell.Attach(app);
   if (!app.Main({options.View})) return 0;
   services.All.Speech.EndTurn();
   application.OnHandled = [&services] { services.All.Speech.EndTurn(); };
+  // What the toolkit sets off by itself, outside of any event.
+  QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, qApp,
+                   [&application] {
+                     if (application.OnHandled) application.OnHandled();
+                   });
 
   windows.ListenForCopies([&shell](const std::string& token) { shell.Raise(token); });
   const EndSignals endSignals([&shell] { shell.EndSession(); });

@@ -78,8 +78,7 @@ void ReadingDialog::ReadOn(bool queued) {
   HeardAll = false;
   marks.push_back({Document->Text.size() - start, static_cast<std::int32_t>(Sentences.size())});
   ShowSentence();
-  Services_.Speech.ReadAloud(std::string_view(Document->Text).substr(start), marks, queued,
-                             IsReport ? ValueKind::Number : ValueKind::Prose);
+  Services_.Speech.ReadAloud(std::string_view(Document->Text).substr(start), marks, queued, Numbers());
 }
 
 void ReadingDialog::ShowSentence() {
@@ -193,7 +192,7 @@ void ReadingDialog::SayLine() {
   const std::string text = Document->Text.substr(line.Start, line.Length);
   // An empty line has to be heard too.
   const bool isBlank = text.find_first_not_of(" \t") == std::string::npos;
-  Services_.Speech.SpeakText(isBlank ? Services_.Speech.SpeakableChar("\r") : text);
+  Services_.Speech.SpeakText(isBlank ? Services_.Speech.SpeakableChar("\r") : text, {0, 0, Numbers()});
 }
 
 void ReadingDialog::SayCharacter() {

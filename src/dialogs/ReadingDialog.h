@@ -35,6 +35,8 @@ class ReadingDialog : public Form {
   void OnGotFocus(Control& control) override;
   KeyUse OnControlKey(Control& control, const KeyEvent& event) override;
 
+  /// What the numbers of the document are.
+  ValueKind Numbers() const { return IsReport ? ValueKind::Number : ValueKind::Prose; }
   bool ReaderKey(const KeyEvent& event);
   /// After what is being spoken, or at once.
   void ReadOn(bool queued);

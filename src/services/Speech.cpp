@@ -84,7 +84,7 @@ void SpeechService::ApplyVoiceSettings() {
 
 void SpeechService::ShutDownSpeech() {
   StopSpeech();
-  EndTurn();  // what is to be waited for
+  EndTurn();  // so that it is silent before the wait
   const std::int64_t end = std::int64_t{Outside.Clock.TickCount()} + ShutDownWait;
   if (end > std::numeric_limits<std::int32_t>::max()) throw ArithmeticFault("the tick count overflows");
   const auto deadline = static_cast<std::int32_t>(end);

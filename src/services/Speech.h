@@ -35,8 +35,7 @@ class SpeechService {
   /// Releases the speech objects without a wait.
   void ReleaseSpeech();
 
-  /// Silences what is being spoken and says the text at once. `value` is where a value stands in it that is
-  /// no plain number.
+  /// Silences what is being spoken and says the text at once. `value` is where a value stands in it, and what it is.
   void SpeakText(std::string_view text, ValueSpan value = {});
   /// Says the text after what is being spoken.
   void SpeakTextQueued(std::string_view text, ValueSpan value = {});

@@ -29,7 +29,7 @@ bool IsGlued(char neighbour) {
 class Voicing {
  public:
   Voicing(std::string_view text, const VoicingRules& rules, ValueSpan value, std::span<const BookMark> marks)
-      : Text(text), Rules(rules), Words(rules.Words), Value(value), ValueLength(value.Length), Marks(marks) {
+      : Text(text), Rules(rules), Words(rules.Words), Value(value), Marks(marks) {
     Out.Text.reserve(text.size() + text.size() / 2);
     Out.Marks.reserve(marks.size());
   }
@@ -73,7 +73,7 @@ class Voicing {
 
   bool TakeValue() {
     if (At != Value.Start || Value.Length == 0) return false;
-    const std::string_view value = Text.substr(At, std::exchange(Value.Length, 0));
+    const std::string_view value = Text.substr(At, Value.Length);
     switch (Value.Kind) {
       case ValueKind::Number:
       case ValueKind::Prose:
@@ -137,7 +137,7 @@ class Voicing {
     return number.has_value();
   }
 
-  bool IsInValue() const { return At >= Value.Start && At < Value.Start + ValueLength; }
+  bool IsInValue() const { return At >= Value.Start && At < Value.Start + Value.Length; }
 
   /// An open parenthesis that is shown is heard.
   bool TakeParen() {
@@ -148,14 +148,14 @@ class Voicing {
 
   /// The place of an item in its list is another number.
   void PauseBehindValue() {
-    const bool isBehind = ValueLength > 0 && At == Value.Start + ValueLength;
+    const bool isBehind = Value.Length > 0 && At == Value.Start + Value.Length;
     if (isBehind && At + 1 < Text.size() && Text[At] == ' ' && Text[At + 1] >= '0' && Text[At + 1] <= '9')
       Out.Text += ',';
   }
 
   /// A number that was spoken with its digits apart ends where its value does: digits of others may follow.
   std::string_view TextOfNumber() const {
-    return IsInValue() ? Text.substr(0, Value.Start + ValueLength) : Text;
+    return IsInValue() ? Text.substr(0, Value.Start + Value.Length) : Text;
   }
 
   /// "=" anywhere, the other signs between blanks.
@@ -209,7 +209,6 @@ class Voicing {
   const VoicingRules& Rules;
   const VoiceWords& Words;
   ValueSpan Value;
-  std::size_t ValueLength;
   std::span<const BookMark> Marks;
   VoicedText Out;
   std::size_t At = 0;
@@ -229,9 +228,9 @@ VoicedText MakeVoiced(std::string_view spoken, const VoicingRules& rules, ValueS
   const bool isLeftAlone = rules.Reading == NumberReading::Voice || !rules.Words.Complete();
   if (isLeftAlone || (value.Length == 0 && IsPlain(spoken)))
     return {std::string(spoken), {marks.begin(), marks.end()}};
-  if (value.Kind != ValueKind::Prose) return Voicing(spoken, rules, value, marks).Run();
-  const VoicingRules unrounded = {rules.Words, rules.Reading, AllDecimals, rules.DigitsApart};
-  return Voicing(spoken, unrounded, value, marks).Run();
+  VoicingRules used = rules;
+  if (value.Kind == ValueKind::Prose) used.Decimals = AllDecimals;
+  return Voicing(spoken, used, value, marks).Run();
 }
 
 }  // namespace qves

@@ -5,20 +5,20 @@
 
 namespace qves {
 
-inline const VoiceWords English = {".",
-                                   "point",
-                                   "point",
-                                   " minus ",
-                                   "plus",
-                                   "minus",
-                                   "times",
-                                   "divided by",
-                                   "equals",
-                                   "left paren",
-                                   "of",
-                                   "about",
-                                   "times ten to the",
-                                   {{"Sqr", "square root"}},
-                                   {{"Apr", "April"}, {"Dec", "December"}}};
+inline const VoiceWords English = {.Separator = ".",
+                                   .Point = "point",
+                                   .HeardPoint = "point",
+                                   .SpokenMinus = " minus ",
+                                   .Plus = "plus",
+                                   .Minus = "minus",
+                                   .Times = "times",
+                                   .DividedBy = "divided by",
+                                   .Equals = "equals",
+                                   .LeftParen = "left paren",
+                                   .Of = "of",
+                                   .About = "about",
+                                   .TimesTenToThe = "times ten to the",
+                                   .Functions = {{"Sqr", "square root"}},
+                                   .Months = {{"Apr", "April"}, {"Dec", "December"}}};
 
 }  // namespace qves
