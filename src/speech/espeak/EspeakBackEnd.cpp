@@ -71,16 +71,24 @@ const std::vector<Voice>& EspeakBackEnd::Voices() {
 
 bool EspeakBackEnd::Play(const Utterance& text, Playing& playing) {
   if (!Start()) return false;
-  SoundStream* stream = Output();
-  if (!stream || playing.Stopped()) return true;
   Apply(text);
-  Awake = stream;
-  const bool follows = !LastStopped && SteadyClock::now() < LastPlayed + FollowsWithin;
-  EspeakPlayback playback(*stream, LibraryRate(), text, playing);
-  if (!playback.Run(follows ? PauseBetween : milliseconds(0))) stream->Close();
+  // A server that was lost since the last text is noticed only now: the next one gets the text from its start.
+  if (!PlayOn(Output(), text, playing)) PlayOn(Output(), text, playing);
   LastPlayed = SteadyClock::now();
   LastStopped = playing.Stopped();
   return true;
+}
+
+// False: the stream was lost before anything was heard.
+bool EspeakBackEnd::PlayOn(SoundStream* stream, const Utterance& text, Playing& playing) {
+  if (!stream || playing.Stopped()) return true;
+  Awake = stream;
+  const bool follows = !LastStopped && SteadyClock::now() < LastPlayed + FollowsWithin;
+  EspeakPlayback playback(*stream, LibraryRate(), text, playing);
+  if (playback.Run(follows ? PauseBetween : milliseconds(0))) return true;
+  const bool lost = !stream->Alive() && !playback.HasBegun();
+  stream->Close();
+  return !lost;
 }
 
 // The sound server; without one the device. Null: nothing would be heard.
