@@ -153,7 +153,6 @@ void SpeechQueue::ListVoices() {
   Voices.clear();
   for (std::size_t i = 0; i < Listed; ++i)
     Voices.insert(Voices.end(), BackEnds[i]->Voices().begin(), BackEnds[i]->Voices().end());
-  Reporter.Post([](TtsListener& listener) { listener.EngineListChanged(); });
 }
 
 TimePoint SpeechQueue::Rest() {
