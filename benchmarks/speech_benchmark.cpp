@@ -27,6 +27,7 @@ namespace {
 using Clock = std::chrono::steady_clock;
 
 constexpr int Rounds = 200;
+constexpr int LibrarySpeed = 175;  // the bare library's own: both make the same samples
 constexpr const char* Texts[] = {"7", "5", "plus", "= 12", "memory recall"};
 
 std::atomic<Clock::rep> firstSamples = 0;  // when a sample came out; 0: not yet
@@ -206,6 +207,7 @@ int main() {
   while (list->Engines().empty()) std::this_thread::sleep_for(std::chrono::milliseconds(1));
   const auto engine = list->Open([](const auto&) { return 1; });
   if (!engine) return std::puts("espeak-ng has no voices"), 1;
+  engine->SetSpeed(LibrarySpeed);
   const BackEndTimes ours = MeasureBackEnd(*engine->Speaker(2));
   std::puts("microseconds from the call to               any sample   audible sample");
   const auto print = [](const char* what, const FirstSample& times) {

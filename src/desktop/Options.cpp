@@ -1,7 +1,5 @@
 #include "desktop/Options.h"
 
-#include "speech/SpeechNames.h"
-
 namespace qves {
 namespace {
 

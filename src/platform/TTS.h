@@ -70,8 +70,6 @@ class TtsListener {
   virtual ~TtsListener() = default;
   virtual void BookMarkReached(std::int32_t number, TtsSpeaker& speaker) = 0;
   virtual void SpeechStopped(TtsSpeaker& speaker) = 0;
-  /// More engines are known now.
-  virtual void EngineListChanged() {}
 };
 
 /// Takes one engine out of a list: its number, counted from 1; what lies outside the list is none.

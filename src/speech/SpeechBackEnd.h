@@ -25,7 +25,7 @@ struct Voice {
 struct VoiceSettings {
   int WordsPerMinute = UnsetSpeed;
   std::int32_t Volume = UnsetVolume;  ///< 0 to 65535
-  std::optional<int> Pitch;           ///< 0 to HighestPitch; unset: the voice's own
+  std::optional<int> Pitch;           ///< on PitchScale; unset: the voice's own
 };
 
 struct Utterance {

@@ -38,7 +38,7 @@ class SpeechEngine : public TtsEngine {
   void SetVolume(std::int32_t volume) override { Settings.Volume = volume; }
   void SetPitch(int pitch) override { Settings.Pitch = pitch; }
   int MinimumPitch() const override { return 0; }
-  int MaximumPitch() const override { return HighestPitch; }
+  int MaximumPitch() const override { return PitchScale.To; }
   TtsSpeaker* Speaker(int number) override;
   bool Busy() const override { return Speakers[0].Busy() || Speakers[1].Busy(); }
 

@@ -69,8 +69,14 @@ std::vector<TtsEngineInfo> SpeechQueue::Engines() const {
   return engines;
 }
 
+void SpeechQueue::SetListener(TtsListener* listener) {
+  const std::lock_guard lock(Mutex);
+  if (CurrentEar) CurrentEar->Listener = nullptr;
+  CurrentEar = listener && !Closed ? std::make_shared<Ear>(Ear{listener}) : nullptr;
+}
+
 void SpeechQueue::Close() {
-  Reporter.Close();
+  SetListener(nullptr);
   {
     const std::lock_guard lock(Mutex);
     Closed = true;
@@ -153,7 +159,6 @@ void SpeechQueue::ListVoices() {
   Voices.clear();
   for (std::size_t i = 0; i < Listed; ++i)
     Voices.insert(Voices.end(), BackEnds[i]->Voices().begin(), BackEnds[i]->Voices().end());
-  Reporter.Post([](TtsListener& listener) { listener.EngineListChanged(); });
 }
 
 TimePoint SpeechQueue::Rest() {
@@ -163,16 +168,25 @@ TimePoint SpeechQueue::Rest() {
   return next;
 }
 
+// With the mutex held.
+void SpeechQueue::Report(std::function<void(TtsListener&)> event) {
+  if (!CurrentEar) return;
+  Pump->Post([ear = CurrentEar, event = std::move(event)] {
+    if (ear->Listener) event(*ear->Listener);
+  });
+}
+
 void SpeechQueue::ReportStopped(const std::shared_ptr<SpeakerRecord>& speaker) {
   // A speaker that has been given another text by the time of delivery has not stopped: that text will report
   // it.
-  Reporter.Post([self = shared_from_this(), speaker](TtsListener& listener) {
+  Report([self = shared_from_this(), speaker](TtsListener& listener) {
     if (speaker->Speaker && !self->Busy(*speaker)) listener.SpeechStopped(*speaker->Speaker);
   });
 }
 
 void SpeechQueue::ReportMark(const QueuedText& text, std::int32_t number) {
-  Reporter.Post([speaker = text.Speaker, silenced = text.Silenced, number](TtsListener& listener) {
+  const std::lock_guard lock(Mutex);
+  Report([speaker = text.Speaker, silenced = text.Silenced, number](TtsListener& listener) {
     if (speaker->Speaker && speaker->Silenced == silenced)
       listener.BookMarkReached(number, *speaker->Speaker);
   });

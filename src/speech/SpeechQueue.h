@@ -3,14 +3,15 @@
 
 #include <atomic>
 #include <deque>
+#include <functional>
 #include <memory>
 #include <mutex>
 #include <optional>
 #include <vector>
 
+#include "platform/Outside.h"
 #include "platform/TTS.h"
 #include "speech/SpeechBackEnd.h"
-#include "speech/SpeechReporter.h"
 
 namespace qves {
 
@@ -37,7 +38,7 @@ struct QueuedText {
 
 class SpeechQueue : public std::enable_shared_from_this<SpeechQueue> {
  public:
-  explicit SpeechQueue(EventPump& pump) : Reporter(pump) {}
+  explicit SpeechQueue(EventPump& pump) : Pump(&pump) {}
 
   /// Before Run: first those that are listed, in order of preference, then those that only stand in for them.
   void Add(std::unique_ptr<SpeechBackEnd> backEnd, bool listed);
@@ -48,8 +49,9 @@ class SpeechQueue : public std::enable_shared_from_this<SpeechQueue> {
   void Silence(const std::shared_ptr<SpeakerRecord>& speaker);
   bool Busy(const SpeakerRecord& speaker) const;
   std::vector<TtsEngineInfo> Engines() const;
-  void SetListener(TtsListener* listener) { Reporter.SetListener(listener); }
-  /// Ends Run soon. Nothing is reported or spoken any more.
+  /// Null: nobody listens. What is still on its way is dropped.
+  void SetListener(TtsListener* listener);
+  /// Ends Run soon. Nothing is reported or spoken any more, and the pump is not used.
   void Close();
 
   /// The thread: returns after Close, with the back ends destroyed.
@@ -67,10 +69,16 @@ class SpeechQueue : public std::enable_shared_from_this<SpeechQueue> {
   TimePoint Rest();
   bool Drop(const SpeakerRecord& speaker);
   bool BusyNow(const SpeakerRecord& speaker) const;
+  void Report(std::function<void(TtsListener&)> event);
   void ReportStopped(const std::shared_ptr<SpeakerRecord>& speaker);
   void ReportMark(const QueuedText& text, std::int32_t number);
 
-  SpeechReporter Reporter;
+  /// Its events reach the listener on the calculator's thread, which alone reads and writes it.
+  struct Ear {
+    TtsListener* Listener;
+  };
+
+  EventPump* Pump;
   Wake Woken;
   std::vector<std::unique_ptr<SpeechBackEnd>> BackEnds;  // of the thread, once it runs
   std::size_t Listed = 0;                                // how many of them
@@ -81,6 +89,7 @@ class SpeechQueue : public std::enable_shared_from_this<SpeechQueue> {
   std::deque<QueuedText> Texts;
   const SpeakerRecord* Current = nullptr;  // whose text is being played
   std::vector<Voice> Voices;               // changed by the thread only
+  std::shared_ptr<Ear> CurrentEar;         // null: nobody listens, or the queue is closed
 };
 
 }  // namespace qves

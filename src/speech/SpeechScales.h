@@ -2,6 +2,7 @@
 // range.
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 
 namespace qves {
@@ -11,20 +12,28 @@ namespace qves {
 inline constexpr int UnsetSpeed = 170;
 inline constexpr std::int32_t UnsetVolume = 65535;
 
-/// The voice's back end may not be known yet, so all have one range, from 0, which is fine enough for each.
-inline constexpr int HighestPitch = 1000;
+struct Scale {
+  int From;
+  int To;
+};
 
-/// Words per minute, 80 to 450.
-int EspeakRate(int wordsPerMinute);
-/// From 0..65535 to 0..100, the library's full volume without amplification.
-int EspeakVolume(std::int32_t volume);
-/// From 0..HighestPitch to 0..100.
-int EspeakPitch(int pitch);
-/// From 80..450 words per minute to -100..100, with 175 at 0.
-int SpeechdRate(int wordsPerMinute);
-/// From 0..65535 to -100..100.
-int SpeechdVolume(std::int32_t volume);
-/// From 0..HighestPitch to -100..100.
-int SpeechdPitch(int pitch);
+inline constexpr Scale SpeedScale = {80, 450};  ///< words per minute
+inline constexpr Scale VolumeScale = {0, 65535};
+inline constexpr int NormalSpeed = 175;  ///< the middle of speech-dispatcher's scale
+/// The voice's back end may not be known yet, so all have one range, from 0, which is fine enough for each.
+inline constexpr Scale PitchScale = {0, 1000};
+
+/// The value's place on another scale, rounded. Both go upwards.
+constexpr int Scaled(int value, Scale scale, Scale wanted) {
+  const double part =
+      double(std::clamp(value, scale.From, scale.To) - scale.From) / double(scale.To - scale.From);
+  return wanted.From + int(part * double(wanted.To - wanted.From) + 0.5);
+}
+
+/// From words per minute to -100..100.
+constexpr int SpeechdRate(int wordsPerMinute) {
+  if (wordsPerMinute < NormalSpeed) return Scaled(wordsPerMinute, {SpeedScale.From, NormalSpeed}, {-100, 0});
+  return Scaled(wordsPerMinute, {NormalSpeed, SpeedScale.To}, {0, 100});
+}
 
 }  // namespace qves

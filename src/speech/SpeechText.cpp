@@ -61,33 +61,14 @@ std::size_t CutBefore(std::string_view text, std::size_t from, std::size_t limit
   return limit;
 }
 
-std::string_view EscapeOf(char c) {
-  constexpr std::pair<char, std::string_view> escapes[] = {
-      {'<', "&lt;"}, {'>', "&gt;"}, {'&', "&amp;"}, {'"', "&quot;"}, {'\'', "&apos;"}};
-  for (const auto& [plain, escape] : escapes) {
-    if (plain == c) return escape;
-  }
-  return {};
-}
-
-void AppendEscaped(std::string& out, std::string_view text) {
-  for (const char c : text) {
-    const std::string_view escape = EscapeOf(c);
-    if (escape.empty()) out += c;
-    out += escape;
-  }
-}
-
 // Gives each mark to the piece that it lies in. `starts` are the pieces' offsets.
 void DealMarks(std::vector<TextPiece>& pieces, const std::vector<std::size_t>& starts,
                std::span<const BookMark> marks) {
   std::size_t piece = 0;
   for (const BookMark& mark : marks) {
     while (piece + 1 < pieces.size() && starts[piece + 1] <= mark.Offset) ++piece;
-    if (mark.Offset <= starts[piece])
-      pieces[piece].FirstMarks.push_back(mark.Number);
-    else
-      pieces[piece].InnerMarks.push_back({mark.Offset - starts[piece], mark.Number});
+    const bool begins = mark.Offset <= starts[piece];
+    (begins ? pieces[piece].FirstMarks : pieces[piece].LaterMarks).push_back(mark.Number);
   }
 }
 
@@ -142,20 +123,6 @@ std::vector<TextPiece> CutText(std::string_view text, std::span<const BookMark> 
   }
   if (!pieces.empty()) DealMarks(pieces, starts, marks);
   return pieces;
-}
-
-std::string SsmlOf(std::string_view text, std::span<const BookMark> marks) {
-  std::string out = "<speak>";
-  std::size_t from = 0;
-  for (const BookMark& mark : marks) {
-    std::size_t at = mark.Offset;
-    while (at < text.size() && IsContinuation(text[at])) ++at;
-    AppendEscaped(out, text.substr(from, at - from));
-    out += "<mark name=\"" + std::to_string(mark.Number) + "\"/>";
-    from = at;
-  }
-  AppendEscaped(out, text.substr(from));
-  return out + "</speak>";
 }
 
 }  // namespace qves

@@ -25,14 +25,11 @@ std::vector<std::size_t> CharacterPositions(std::string_view text, std::span<con
 struct TextPiece {
   std::string Text;
   std::vector<std::int32_t> FirstMarks;  ///< reached when the piece begins
-  std::vector<BookMark> InnerMarks;      ///< offsets within the piece, above 0
+  std::vector<std::int32_t> LaterMarks;  ///< those within it
 };
 
 /// Cuts a clean text at the marks that begin a sentence or a line, and at the ends of lines, sentences or
 /// words so that a piece has about `longest` bytes at most. The marks are ordered.
 std::vector<TextPiece> CutText(std::string_view text, std::span<const BookMark> marks, std::size_t longest);
-
-/// A clean text as markup with `<mark name="N"/>` at each mark.
-std::string SsmlOf(std::string_view text, std::span<const BookMark> marks);
 
 }  // namespace qves

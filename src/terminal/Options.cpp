@@ -3,8 +3,6 @@
 #include <charconv>
 #include <chrono>
 
-#include "speech/SpeechNames.h"
-
 namespace qves {
 namespace {
 

@@ -176,6 +176,24 @@ TEST_F(EspeakHeardTest, ASoundServerThatDiesIsSurvived) {
   EXPECT_TRUE(Idle(6s));
 }
 
+TEST_F(EspeakHeardTest, ATextAfterASoundServerWasReplacedUnnoticedIsHeardWhole) {
+  const BookMark marks[] = {{0, 1}, {6, 2}};
+  Speaker->SpeakNow("Before.");
+  ASSERT_TRUE(Idle(6s));
+  Sound.Signal(SIGKILL);
+  std::optional<PrivateSound> next;
+  ASSERT_TRUE(ReachedWithin(Pump, 10s, [&] {
+    next.emplace(Desktop);
+    return next->Ready();
+  }));
+  Pump.ProcessEvents(0);
+  Listener->Reports.clear();
+  Speaker->SpeakNow("First and second.", marks);
+  EXPECT_TRUE(ReachedWithin(Pump, 2s, [&] { return next->LoudestOfLast(300ms) > Loud; }));
+  EXPECT_TRUE(ReachedWithin(Pump, 6s, [&] { return Listener->Reports.size() == 3; }));
+  EXPECT_EQ(Listener->Reports, (std::vector<std::string>{"mark 1 of 2", "mark 2 of 2", "stopped 2"}));
+}
+
 TEST_F(EspeakHeardTest, WhatADyingSoundServerCutsOffIsNotReportedAndTheNextOneIsUsedAtOnce) {
   if (HasSoundDevice(OwnSoundPlaces())) GTEST_SKIP() << "the sound device stands in for the server";
   const BookMark marks[] = {{0, 1}, {LongText.size() / 2, 2}};

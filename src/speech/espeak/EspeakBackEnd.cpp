@@ -23,7 +23,6 @@ constexpr auto SettledAfter = milliseconds(1);
 constexpr auto SleepAfter = seconds(10);
 constexpr auto FollowsWithin = milliseconds(100);
 constexpr auto PauseBetween = milliseconds(150);  // of two texts that follow each other
-constexpr int BufferMilliseconds = 20;            // short ones bring the first samples out early
 
 // The library, free or in use. It outlives threads that are left behind.
 std::mutex& Library() {
@@ -41,8 +40,7 @@ std::unique_lock<std::mutex> TakeLibrary() {
 
 // Samples a second, 0 or less when the library does not find its data. Once initialised it stays so.
 int LibraryRate() {
-  static const int rate =
-      espeak_Initialize(AUDIO_OUTPUT_SYNCHRONOUS, BufferMilliseconds, nullptr, espeakINITIALIZE_DONT_EXIT);
+  static const int rate = espeak_Initialize(AUDIO_OUTPUT_SYNCHRONOUS, 0, nullptr, espeakINITIALIZE_DONT_EXIT);
   return rate;
 }
 
@@ -71,16 +69,25 @@ const std::vector<Voice>& EspeakBackEnd::Voices() {
 
 bool EspeakBackEnd::Play(const Utterance& text, Playing& playing) {
   if (!Start()) return false;
-  SoundStream* stream = Output();
-  if (!stream || playing.Stopped()) return true;
   Apply(text);
-  Awake = stream;
-  const bool follows = !LastStopped && SteadyClock::now() < LastPlayed + FollowsWithin;
-  EspeakPlayback playback(*stream, LibraryRate(), text, playing);
-  if (!playback.Run(follows ? PauseBetween : milliseconds(0))) stream->Close();
+  // A server that was lost since the last text is noticed only now: the next one gets the text from its
+  // start.
+  if (!PlayOn(Output(), text, playing)) PlayOn(Output(), text, playing);
   LastPlayed = SteadyClock::now();
   LastStopped = playing.Stopped();
   return true;
+}
+
+// False: the stream was lost before anything was heard.
+bool EspeakBackEnd::PlayOn(SoundStream* stream, const Utterance& text, Playing& playing) {
+  if (!stream || playing.Stopped()) return true;
+  Awake = stream;
+  const bool follows = !LastStopped && SteadyClock::now() < LastPlayed + FollowsWithin;
+  EspeakPlayback playback(*stream, LibraryRate(), text, playing);
+  if (playback.Run(follows ? PauseBetween : milliseconds(0))) return true;
+  const bool lost = !stream->Alive() && !playback.HasBegun();
+  stream->Close();
+  return !lost;
 }
 
 // The sound server; without one the device. Null: nothing would be heard.
@@ -114,10 +121,10 @@ void EspeakBackEnd::Apply(const Utterance& text) {
   if (key != CurrentKey) espeak_SetVoiceByName(key.c_str());
   CurrentKey = key;
   const VoiceSettings& settings = text.Settings;
-  SetParameter(espeakRATE, EspeakRate(settings.WordsPerMinute));
-  SetParameter(espeakVOLUME, EspeakVolume(settings.Volume));
-  SetParameter(espeakPITCH,
-               settings.Pitch ? EspeakPitch(*settings.Pitch) : espeak_GetParameter(espeakPITCH, 0));
+  SetParameter(espeakRATE, Scaled(settings.WordsPerMinute, SpeedScale, SpeedScale));
+  SetParameter(espeakVOLUME, Scaled(settings.Volume, VolumeScale, {0, 100}));  // without amplification
+  SetParameter(espeakPITCH, settings.Pitch ? Scaled(*settings.Pitch, PitchScale, {0, 100})
+                                           : espeak_GetParameter(espeakPITCH, 0));
 }
 
 // A text of another back end's voice is spoken by the best voice of its language.

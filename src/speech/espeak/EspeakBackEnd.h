@@ -24,6 +24,7 @@ class EspeakBackEnd : public SpeechBackEnd {
  private:
   bool Start();
   SoundStream* Output();
+  bool PlayOn(SoundStream* stream, const Utterance& text, Playing& playing);
   void Apply(const Utterance& text);
   const std::string& KeyFor(const Voice& voice) const;
 

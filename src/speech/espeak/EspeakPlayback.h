@@ -20,6 +20,8 @@ class EspeakPlayback {
   /// Returns when the text has been heard, after a pause before it, or is interrupted, or the stream has
   /// failed: then false.
   bool Run(std::chrono::milliseconds pauseBefore);
+  /// Something of it has been heard.
+  bool HasBegun() const { return LastPlayed > 0; }
   /// For espeak_SetSynthCallback.
   static int Receive(short* samples, int count, espeak_EVENT* events);
 

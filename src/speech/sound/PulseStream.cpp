@@ -54,6 +54,7 @@ void PulseStream::WaitForServer(TimePoint deadline) {
 
 // A server that has not answered in time is not waited for again: it is used as soon as it has answered.
 PulseStream::Link PulseStream::Connect(std::chrono::milliseconds longest) {
+  if (State() == Link::Ready) return Link::Ready;
   SendAndReceive();
   if (State() == Link::NoServer) Close();
   const TimePoint deadline = SteadyClock::now() + (Context ? std::chrono::milliseconds(0) : longest);

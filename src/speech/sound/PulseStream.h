@@ -23,7 +23,8 @@ class PulseStream : public SoundStream {
   PulseStream(const PulseStream&) = delete;
   PulseStream& operator=(const PulseStream&) = delete;
 
-  /// Connects when not connected. Waits for an answer no longer than given, and only once.
+  /// Connects when not connected. Waits for an answer no longer than given, and only once. A stream that was
+  /// ready when its server was last heard counts as ready: whether it still is shows in use.
   Link Connect(std::chrono::milliseconds longest);
   bool Alive() override;
   void Restart() override;

@@ -33,10 +33,11 @@ constexpr std::size_t LongestPiece = 2000;
 constexpr int MostFailures = 2;  // the second one after reconnecting
 
 constexpr const char* Preparations[] = {"SET SELF PRIORITY MESSAGE", "SET SELF NOTIFICATION BEGIN ON",
-                                        "SET SELF NOTIFICATION END ON", "SET SELF NOTIFICATION CANCEL ON",
-                                        "SET SELF NOTIFICATION INDEX_MARKS ON"};
+                                        "SET SELF NOTIFICATION END ON", "SET SELF NOTIFICATION CANCEL ON"};
 
-constexpr int IndexMark = 700, Begin = 701, End = 702, Canceled = 703;
+constexpr Scale ServerScale = {-100, 100};
+
+constexpr int Begin = 701, End = 702, Canceled = 703;
 
 std::string ClientName(const char* part) {
   const char* user = std::getenv("USER");
@@ -64,30 +65,23 @@ std::vector<Voice> VoicesOf(const std::string& module, const std::vector<std::st
 struct SpeechdBackEnd::Passage {
   const Utterance& Text;
   Playing& Now;
-  TextPiece* Piece = nullptr;
+  const TextPiece* Piece = nullptr;
   std::string Message = {};  // the server's number for it
   bool Ended = false;
   TimePoint Deadline = {};    // for what is to come next
   TimePoint NextAnswer = {};  // when to look whether the server still answers
 
-  // The marks up to the given one, or all: none is left out when the server has lost one.
-  void ReachMarks(const std::string* last) {
-    auto& marks = Piece->InnerMarks;
-    auto end = marks.begin();
-    while (end != marks.end() && !(last && std::to_string(end->Number) == *last)) ++end;
-    if (end != marks.end()) ++end;
-    for (auto at = marks.begin(); at != end; ++at) Now.ReachMark(at->Number);
-    marks.erase(marks.begin(), end);
+  void ReachMarks(const std::vector<std::int32_t>& marks) {
+    for (const std::int32_t number : marks) Now.ReachMark(number);
   }
 
   void Take(const SpeechdReply& event) {
     if (event.Lines.empty() || event.Lines[0] != Message) return;
     if (event.Code == Begin) {
       Deadline = SteadyClock::now() + LongestUntilEnd + LongestByte * Piece->Text.size();
-      for (const std::int32_t number : std::exchange(Piece->FirstMarks, {})) Now.ReachMark(number);
+      ReachMarks(Piece->FirstMarks);
     }
-    if (event.Code == IndexMark && event.Lines.size() > 2) ReachMarks(&event.Lines[2]);
-    if (event.Code == End) ReachMarks(nullptr);
+    if (event.Code == End) ReachMarks(Piece->LaterMarks);
     Ended = Ended || event.Code == End || event.Code == Canceled;
   }
 };
@@ -106,7 +100,7 @@ bool SpeechdBackEnd::Play(const Utterance& text, Playing& playing) {
   if (!Eager) ListAt = TimePoint::max();  // the voice that is wanted is found already
   if (!Usable()) return false;
   Passage passage{text, playing};
-  for (TextPiece& piece : CutText(text.Text, text.Marks, LongestPiece)) {
+  for (const TextPiece& piece : CutText(text.Text, text.Marks, LongestPiece)) {
     passage.Piece = &piece;
     while (!playing.Stopped() && !PlayPiece(passage)) {
       DropLink();
@@ -128,9 +122,7 @@ bool SpeechdBackEnd::PlayPiece(Passage& passage) {
 }
 
 bool SpeechdBackEnd::Say(Passage& passage) {
-  const TextPiece& piece = *passage.Piece;
-  const bool markup = !piece.InnerMarks.empty();
-  const Manner wanted = MannerOf(passage.Text, markup);
+  const Manner wanted = MannerOf(passage.Text);
   // A connection's settings can be changed but not unset.
   const auto unset = [&](const auto& setting) { return !wanted.contains(setting.first); };
   if (std::any_of(LinkManner.begin(), LinkManner.end(), unset)) Link.reset();
@@ -141,8 +133,7 @@ bool SpeechdBackEnd::Say(Passage& passage) {
     LinkManner[name] = value;
   }
   if (!Do("SPEAK", deadline)) return false;
-  const std::string text = markup ? SsmlOf(piece.Text, piece.InnerMarks) : piece.Text;
-  const auto queued = Link->Ask(SpeechdText(text), deadline);
+  const auto queued = Link->Ask(SpeechdText(passage.Piece->Text), deadline);
   if (!queued || queued->Lines.empty()) return false;
   passage.Message = queued->Lines[0];
   passage.Ended = false;
@@ -151,8 +142,8 @@ bool SpeechdBackEnd::Say(Passage& passage) {
   return true;
 }
 
-SpeechdBackEnd::Manner SpeechdBackEnd::MannerOf(const Utterance& text, bool markup) const {
-  Manner manner{{"SSML_MODE", markup ? "on" : "off"}};
+SpeechdBackEnd::Manner SpeechdBackEnd::MannerOf(const Utterance& text) const {
+  Manner manner;
   if (text.Speaking.Owner == this && !text.Speaking.Key.empty()) {
     manner["OUTPUT_MODULE"] = text.Speaking.Info.Product;
     manner["SYNTHESIS_VOICE"] = text.Speaking.Key;
@@ -160,8 +151,8 @@ SpeechdBackEnd::Manner SpeechdBackEnd::MannerOf(const Utterance& text, bool mark
   const VoiceSettings& settings = text.Settings;
   const auto set = [&](const char* name, int value) { manner[name] = std::to_string(value); };
   if (settings.WordsPerMinute != UnsetSpeed) set("RATE", SpeechdRate(settings.WordsPerMinute));
-  if (settings.Volume != UnsetVolume) set("VOLUME", SpeechdVolume(settings.Volume));
-  if (settings.Pitch) set("PITCH", SpeechdPitch(*settings.Pitch));
+  if (settings.Volume != UnsetVolume) set("VOLUME", Scaled(settings.Volume, VolumeScale, ServerScale));
+  if (settings.Pitch) set("PITCH", Scaled(*settings.Pitch, PitchScale, ServerScale));
   return manner;
 }
 

@@ -28,7 +28,7 @@ class SpeechdBackEnd : public SpeechBackEnd {
   using Manner = std::map<std::string, std::string>;
   struct Passage;
 
-  Manner MannerOf(const Utterance& text, bool markup) const;
+  Manner MannerOf(const Utterance& text) const;
   bool PlayPiece(Passage& passage);
   bool Say(Passage& passage);
   bool Follow(Passage& passage);
