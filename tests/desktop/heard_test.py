@@ -78,7 +78,7 @@ def main():
     try:
         hear(calculator)
     finally:
-        calculator.kill()
+        calculator.end()
         manager.terminate()
         manager.wait(10)
         sound.stop()
