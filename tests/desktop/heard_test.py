@@ -77,12 +77,15 @@ def main():
     calculator = Calculator(os.path.abspath(sys.argv[1]), os.path.join(os.environ["HOME"], "home"), speech="espeak-ng")
     try:
         hear(calculator)
+        calculator.end()
+    except AssertionError as error:
+        FAILED.append(str(error))
     finally:
-        calculator.kill()
+        calculator.process.kill()
         manager.terminate()
         manager.wait(10)
         sound.stop()
-    print("failed:", FAILED) if FAILED else print("all heard")
+    print("failed:", *FAILED, sep="\n") if FAILED else print("all heard")
     sys.exit(1 if FAILED else 0)
 
 

@@ -72,7 +72,7 @@ class ReadingTestCase(unittest.TestCase):
         folder = tempfile.TemporaryDirectory(prefix="qvescalc-test-")
         self.addCleanup(folder.cleanup)
         calculator = Calculator(program, folder.name, "--view", "standard", *options, **more)
-        self.addCleanup(calculator.kill)
+        self.addCleanup(calculator.end)
         calculator.window()
         return calculator
 
@@ -192,7 +192,7 @@ class DocumentTest(ReadingTestCase):
                 self.close(calculator, window)
                 keys("7")
                 calculator.expect_display("7")
-                calculator.kill()
+                calculator.end()
 
 
 class ScreenReaderTest(ReadingTestCase):

@@ -13,7 +13,8 @@ from pathlib import Path
 SESSION_TOOLS = ["xvfb-run", "Xvfb", "dbus-run-session", "openbox", "xdotool", "xprop"]
 SOUND_TOOLS = ["pulseaudio", "pactl", "parec"]
 INSIDE = "QVES_TEST_SESSION"
-PATIENCE = 10.0  # seconds; what is waited for comes within fractions of one
+SLOWNESS = int(os.environ.get("QVES_SLOWNESS", "1"))  # how much longer anything may take, with sanitizers
+PATIENCE = 10.0 * SLOWNESS  # seconds; what is waited for comes within fractions of one
 RATE = 16000
 LOUD = 300  # of 32767
 
@@ -139,11 +140,16 @@ class Calculator:
     def ended(self):
         return wait_for("the end of the program", lambda: self.process.poll() is not None) and self.process.returncode
 
-    def kill(self):
-        if self.process.poll() is None:
+    def end(self):
+        """Ends the program, if it has not ended. What a sanitizer says of it, its leaks too, is an error."""
+        self.process.terminate()
+        try:
+            said = self.process.communicate(timeout=PATIENCE)[1]
+        except subprocess.TimeoutExpired:
             self.process.kill()
-        self.process.wait()
-        self.process.stderr.close()
+            said = self.process.communicate()[1]
+        if "Sanitizer" in said or "runtime error: " in said:
+            raise AssertionError(said)
 
 
 class SoundServer:

@@ -41,7 +41,7 @@ class SessionTest(unittest.TestCase):
 
     def start(self, *options, **more):
         calculator = Calculator(PROGRAM, self.home, *options, **more)
-        self.addCleanup(calculator.kill)
+        self.addCleanup(calculator.end)
         return calculator
 
     def started(self):
@@ -371,10 +371,11 @@ class SessionTest(unittest.TestCase):
         wait_for("the minimised window", lambda: not xdotool("search", "--onlyvisible", "--pid", str(first.process.pid)))
         self.assertEqual(self.start().ended(), 0)
         self.assertEqual(first.window(), window)
-        with tempfile.TemporaryDirectory(prefix="qvescalc-test-") as other:
-            elsewhere = Calculator(PROGRAM, other)
-            self.addCleanup(elsewhere.kill)
-            elsewhere.window()
+        other = tempfile.TemporaryDirectory(prefix="qvescalc-test-")
+        self.addCleanup(other.cleanup)
+        elsewhere = Calculator(PROGRAM, other.name)
+        self.addCleanup(elsewhere.end)
+        elsewhere.window()
         first.process.kill()
         first.process.wait()
         self.started()
