@@ -37,7 +37,6 @@ class View : public Form, protected EngineHost {
   void Form_Unload() override;
   void NotifyKeyDown(bool& handled, const KeyEvent& event) override;
   void Form_KeyUp(int keyCode) override;
-  StateFields EngineState() const override { return Engine->Fields(); }
 
  protected:
   /// The view's engine; each view gives its own once, in its constructor.

@@ -22,6 +22,8 @@ struct FinancialRegisters {
   DayNumber BeginDate = 0;
   DayNumber EndDate = 0;
 
+  bool operator==(const FinancialRegisters&) const = default;
+
   std::int16_t FlowCount() const { return static_cast<std::int16_t>(CashFlows.size() - 1); }
 };
 

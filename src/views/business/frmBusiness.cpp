@@ -16,6 +16,7 @@ constexpr int FirstMonthMessage = 1587;    // January
 constexpr auto Prefix = Do<BusinessEngine, &BusinessEngine::PrefixKey>;
 
 constexpr ClickRow Clicks[] = {
+    {"cmdMemory", Do<BusinessEngine, &BusinessEngine::Memory>, FocusRule::Moves},
     {"cmdFinancial", Do<BusinessEngine, &BusinessEngine::RegisterKey>, FocusRule::Stays},
     {"cmdXchange", Do<BusinessEngine, &BusinessEngine::ExchangeKey>, FocusRule::Stays},
     {"cmdCal", Prefix, FocusRule::MovesSilently},
@@ -46,7 +47,7 @@ frmBusiness::frmBusiness(Services& services, ViewFrame& frame)
   for (std::string& name : Names.Months) name = services.Messages.GetMessage(id++);
   EngineHost& host = *this;
   BusinessHost& modes = *this;
-  auto engine = std::make_unique<BusinessEngine>(host, modes, Says);
+  auto engine = std::make_unique<BusinessEngine>(State, host, modes, Says);
   engine->ClearFinancial();
   UseEngine(std::move(engine));
 }

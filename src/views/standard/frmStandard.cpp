@@ -8,6 +8,10 @@
 namespace qves {
 namespace {
 
+constexpr ClickRow Clicks[] = {
+    {"cmdMemory", Do<StandardEngine, &StandardEngine::Memory>, FocusRule::Moves},
+};
+
 constexpr ViewTables StandardTables = {
     .FormName = "frmStandard",
     .CalcView = StandardView,
@@ -15,6 +19,7 @@ constexpr ViewTables StandardTables = {
     .Controls = standard::Controls,
     .Panels = standard::Panels,
     .KeyMap = standard::KeyMap,
+    .Clicks = Clicks,
 };
 
 }  // namespace
@@ -23,7 +28,7 @@ frmStandard::frmStandard(Services& services, ViewFrame& frame)
     : View(StandardTables, services, frame), Tape(static_cast<TextBox*>(Find("txtResult"))) {
   EngineHost& host = *this;
   TapeHost& tape = *this;
-  UseEngine(std::make_unique<StandardEngine>(host, tape, Says));
+  UseEngine(std::make_unique<StandardEngine>(State, host, tape, Says));
 }
 
 }  // namespace qves

@@ -51,7 +51,7 @@ frmStatistics::frmStatistics(Services& services, ViewFrame& frame)
       UseList2(static_cast<CheckBox*>(Find("cbUseList2"))) {
   EngineHost& host = *this;
   StatisticsHost& data = *this;
-  UseEngine(std::make_unique<StatisticsEngine>(host, data, Says));
+  UseEngine(std::make_unique<StatisticsEngine>(State, host, data, Says));
 }
 
 std::string frmStatistics::Announcement(const Control& control) {

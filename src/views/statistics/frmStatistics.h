@@ -13,6 +13,8 @@ class frmStatistics : public View, private StatisticsHost {
   frmStatistics(Services& services, ViewFrame& frame);
 
  private:
+  StateFields EngineState() const override { return Describe(State); }
+
   // View
   std::string Announcement(const Control& control) override;
   ValueSpan ValueIn(const Control& control, std::string_view announcement) const override;
@@ -34,6 +36,7 @@ class frmStatistics : public View, private StatisticsHost {
   void Import();
   void ImportFile(const std::string& path);
 
+  StatisticsState State;
   std::array<ListView*, 2> Lists;
   CheckBox* IgnoreZero;
   CheckBox* UseList2;

@@ -5,7 +5,7 @@
 
 namespace qves {
 
-enum class LastAction {
+enum class ActionKind {
   None,
   Num,
   Decimal,
@@ -25,7 +25,7 @@ enum class LastAction {
 };
 
 /// The word of an action: "num", "biop", ...; "" for None.
-constexpr std::string_view ToWord(LastAction action) {
+constexpr std::string_view ToWord(ActionKind action) {
   constexpr std::string_view words[] = {"",    "num",   "decimal", "backspace", "CE",     "biop",
                                         "uop", "equal", "memory",  "lparen",    "rparen", "rcl",
                                         "sto", "cal",   "fin",     "ex"};
