@@ -51,6 +51,8 @@ void View::AddMenus() {
     Menu shown{menu.Title, Message(menu.Title), {}};
     for (const int item : menu.Items)
       if (item != NoMessage) shown.Items.push_back({item, Message(item)});
+    if (menu.Title == ViewMenu)
+      for (const int item : Frame.ViewItems()) shown.Items.push_back({item, Message(item)});
     MenuList.push_back(std::move(shown));
   }
 }
@@ -63,8 +65,8 @@ void View::Form_Load() {
   Engine->ClearAll();
   // Silently: the view's name is being spoken.
   PlaceFocus(*Display);
-  Services_.Settings.CalcView = static_cast<std::int16_t>(Tables.CalcView);
-  Services_.Speech.SpeakTextQueued(Message(Tables.NameMessage));
+  Services_.Settings.CalcView = static_cast<std::int16_t>(Frame.Identity().CalcView);
+  Services_.Speech.SpeakTextQueued(Message(Frame.Identity().NameMessage));
   Frame.ViewLoaded();
 }
 
@@ -237,16 +239,8 @@ void View::OnMenu(int id) {
     case StatisticsHotKeysItem:
       return Frame.OpenHelp(id);
     default:
-      return ChooseView(id);
+      return Frame.ChooseView(id);
   }
-}
-
-void View::ChooseView(int id) {
-  const int calcView = CalcViewOf(id);
-  if (calcView == Tables.CalcView)
-    Services_.Speech.SpeakText(Message(id));
-  else
-    Frame.SwitchView(calcView);
 }
 
 }  // namespace qves

@@ -2,8 +2,6 @@
 
 #include <charconv>
 
-#include "services/AppSettings.h"
-#include "views/MenuIds.h"
 #include "views/business/BusinessControls.h"
 #include "views/business/BusinessKeyMap.h"
 
@@ -26,8 +24,6 @@ constexpr ClickRow Clicks[] = {
 
 constexpr ViewTables BusinessTables = {
     .FormName = "frmBusiness",
-    .CalcView = BusinessView,
-    .NameMessage = BusinessItem,
     .Controls = business::Controls,
     .Panels = business::Panels,
     .KeyMap = business::KeyMap,

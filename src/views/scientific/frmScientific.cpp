@@ -1,7 +1,5 @@
 #include "views/scientific/frmScientific.h"
 
-#include "services/AppSettings.h"
-#include "views/MenuIds.h"
 #include "views/scientific/BaseButtons.h"
 #include "views/scientific/ScientificControls.h"
 #include "views/scientific/ScientificKeyMap.h"
@@ -24,8 +22,6 @@ constexpr ClickRow Clicks[] = {
 
 constexpr ViewTables ScientificTables = {
     .FormName = "frmScientific",
-    .CalcView = ScientificView,
-    .NameMessage = ScientificItem,
     .Controls = scientific::Controls,
     .Panels = scientific::Panels,
     .KeyMap = scientific::KeyMap,

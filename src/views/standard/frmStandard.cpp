@@ -1,7 +1,5 @@
 #include "views/standard/frmStandard.h"
 
-#include "services/AppSettings.h"
-#include "views/MenuIds.h"
 #include "views/standard/StandardControls.h"
 #include "views/standard/StandardKeyMap.h"
 
@@ -14,8 +12,6 @@ constexpr ClickRow Clicks[] = {
 
 constexpr ViewTables StandardTables = {
     .FormName = "frmStandard",
-    .CalcView = StandardView,
-    .NameMessage = StandardItem,
     .Controls = standard::Controls,
     .Panels = standard::Panels,
     .KeyMap = standard::KeyMap,

@@ -2,7 +2,6 @@
 
 #include "engine/Numbers.h"
 #include "model/ArithmeticFault.h"
-#include "services/AppSettings.h"
 #include "views/statistics/FreeFormat.h"
 #include "views/statistics/StatisticsControls.h"
 #include "views/statistics/StatisticsKeyMap.h"
@@ -17,7 +16,7 @@ constexpr int ImportFilterMessage = 401;
 
 constexpr MenuSpec Menus[] = {
     {FileMenu, {ImportItem, ExitItem}},
-    {ViewMenu, {ScientificItem, StatisticsItem, StandardItem, BusinessItem}},
+    {ViewMenu, {}},
     {HelpMenu, {AboutStatisticsItem, StatisticsHotKeysItem, InverseItem}},
 };
 
@@ -32,8 +31,6 @@ constexpr ClickRow Clicks[] = {
 
 constexpr ViewTables StatisticsTables = {
     .FormName = "frmStatistics",
-    .CalcView = StatisticsView,
-    .NameMessage = StatisticsItem,
     .Controls = statistics::Controls,
     .Panels = statistics::Panels,
     .KeyMap = statistics::KeyMap,
@@ -49,6 +46,8 @@ frmStatistics::frmStatistics(Services& services, ViewFrame& frame)
       Lists{static_cast<ListView*>(Find("lvwData")), static_cast<ListView*>(Find("lvwData2"))},
       IgnoreZero(static_cast<CheckBox*>(Find("cbIgnoreZero"))),
       UseList2(static_cast<CheckBox*>(Find("cbUseList2"))) {
+  for (const DataList list : {DataList::Main, DataList::Second})
+    ListOf(list).Items = &State.Lists[static_cast<std::size_t>(list)];
   EngineHost& host = *this;
   StatisticsHost& data = *this;
   UseEngine(std::make_unique<StatisticsEngine>(State, host, data, Says));

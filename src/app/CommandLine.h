@@ -15,21 +15,19 @@ struct CommonOptions {
   std::string Home;         ///< the folder below which everything lies; "" for the user's own places
 };
 
-/// An option that takes a value. `Set` returns false when the value is wrong.
+/// An option that takes a value. `Set` tells what it wants when the value is wrong, "" when it is right.
 template <class Options>
 struct ValueOption {
   std::string_view Name;
-  std::string_view Wants;
-  bool (*Set)(Options&, const std::string& value);
+  std::string (*Set)(Options&, const std::string& value);
 };
 
-/// standard, scientific, business or statistics.
-bool SetView(CommonOptions& options, const std::string& value);
+/// The words of the views.
+std::string ViewWords(std::string_view separator, std::string_view lastSeparator);
+/// One of those words.
+std::string SetView(CommonOptions& options, const std::string& value);
 /// A folder, made when missing.
-bool SetHome(CommonOptions& options, const std::string& value);
-
-inline constexpr std::string_view ViewWants = "standard, scientific, business or statistics";
-inline constexpr std::string_view HomeWants = "a folder";
+std::string SetHome(CommonOptions& options, const std::string& value);
 
 /// Takes the option at `at`, and its value. False with the reason in `error`.
 template <class Options>
@@ -40,9 +38,9 @@ bool TakeOption(Options& options, std::span<const ValueOption<Options>> table,
   if (argument == "--version") return options.Version = true;
   for (const auto& option : table) {
     if (option.Name != argument) continue;
-    if (at + 1 < arguments.size() && option.Set(options, arguments[++at])) return true;
-    error = argument + " wants " + std::string(option.Wants);
-    return false;
+    const std::string wanted = option.Set(options, at + 1 < arguments.size() ? arguments[++at] : "");
+    if (!wanted.empty()) error = argument + " wants " + wanted;
+    return wanted.empty();
   }
   error = "unknown option " + argument;
   return false;
