@@ -203,7 +203,8 @@ int main() {
   const FirstSample onThread = BareFirstSample(AUDIO_OUTPUT_RETRIEVAL);
   NoPump pump;
   const auto list = qves::MakeSpeech(qves::SpeechChoice::EspeakNg, pump);
-  const auto engine = list->Count() > 0 ? list->Open(1) : nullptr;
+  while (list->Engines().empty()) std::this_thread::sleep_for(std::chrono::milliseconds(1));
+  const auto engine = list->Open([](const auto&) { return 1; });
   if (!engine) return std::puts("espeak-ng has no voices"), 1;
   const BackEndTimes ours = MeasureBackEnd(*engine->Speaker(2));
   std::puts("microseconds from the call to               any sample   audible sample");

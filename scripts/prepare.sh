@@ -8,7 +8,7 @@ RefusedPackages="$Root/build/refused-packages"
 
 # The parts that the build can leave out, and the switch of each.
 declare -A PartSwitch=(
-  [desktop]=QVES_DESKTOP [speechd]=QVES_SPEECHD [espeak]=QVES_ESPEAK [sounds]=QVES_SOUNDS
+  [desktop]=QVES_DESKTOP [espeak]=QVES_ESPEAK [sounds]=QVES_SOUNDS
   [tests]=QVES_TESTS [benchmarks]=QVES_BENCHMARKS)
 
 say() { echo "$(basename "$0"): $*" >&2; }
@@ -105,7 +105,7 @@ install_packages() {
 build_switches() {
   is_debian || return 0
   local part package value
-  for part in desktop speechd espeak sounds tests benchmarks; do
+  for part in desktop espeak sounds tests benchmarks; do
     value=ON
     while read -r _ package; do
       [[ -n ${Installed[$package]:-} ]] || value=OFF

@@ -97,8 +97,4 @@ void frmCTLApp::SpeechStopped(TtsSpeaker& speaker) {
   if (SpeechStoppedTarget) SpeechStoppedTarget->NotifySpeechStopped(speaker);
 }
 
-void frmCTLApp::EngineListChanged() {
-  Services_.Speech.EngineListChanged();
-}
-
 }  // namespace qves

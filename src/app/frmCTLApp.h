@@ -41,7 +41,6 @@ class frmCTLApp : private KeyListener,
   void QueryUnload(int reason) override;
   void BookMarkReached(std::int32_t number, TtsSpeaker& speaker) override;
   void SpeechStopped(TtsSpeaker& speaker) override;
-  void EngineListChanged() override;
   void DescribeMenuItem();
   bool FocusCancelControl();
 

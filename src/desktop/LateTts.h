@@ -14,9 +14,8 @@ class LateTts : public TTS {
   /// `load` never gives null.
   explicit LateTts(std::function<std::unique_ptr<TTS>()> load) : Load(std::move(load)) {}
 
-  int Count() const override { return Speech().Count(); }
-  TtsEngineInfo Item(int index) const override { return Speech().Item(index); }
-  std::unique_ptr<TtsEngine> Open(int index) override { return Speech().Open(index); }
+  std::vector<TtsEngineInfo> Engines() const override { return Speech().Engines(); }
+  std::unique_ptr<TtsEngine> Open(TtsChooser choose) override { return Speech().Open(std::move(choose)); }
   /// By itself this loads nothing: a calculator that is not to speak never does.
   void SetListener(TtsListener* listener) override {
     Listener = listener;

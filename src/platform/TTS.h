@@ -7,10 +7,12 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace qves {
 
@@ -68,19 +70,22 @@ class TtsListener {
   virtual ~TtsListener() = default;
   virtual void BookMarkReached(std::int32_t number, TtsSpeaker& speaker) = 0;
   virtual void SpeechStopped(TtsSpeaker& speaker) = 0;
-  /// The list of engines has grown or shrunk since it was read last.
+  /// More engines are known now.
   virtual void EngineListChanged() {}
 };
+
+/// Takes one engine out of a list: its number, counted from 1; what lies outside the list is none.
+using TtsChooser = std::function<int(const std::vector<TtsEngineInfo>&)>;
 
 class TTS {
  public:
   virtual ~TTS() = default;
-  /// How many engines are known by now.
-  virtual int Count() const = 0;
-  /// The engine's description; `index` counts from 1.
-  virtual TtsEngineInfo Item(int index) const = 0;
-  /// The engine itself; `index` counts from 1. Null when it cannot be had.
-  virtual std::unique_ptr<TtsEngine> Open(int index) = 0;
+  /// The engines known by now, the best for the desktop's user first.
+  virtual std::vector<TtsEngineInfo> Engines() const = 0;
+  /// The engine that is chosen; null when there is none. A list that is still to be read is not waited for:
+  /// the engine's texts are, and it is chosen then. When the list has grown it is chosen anew, with the next
+  /// text that interrupts. So `choose` may be called later and on any thread.
+  virtual std::unique_ptr<TtsEngine> Open(TtsChooser choose) = 0;
   /// Null: nobody listens. Events of before are dropped.
   virtual void SetListener(TtsListener* listener) = 0;
 };

@@ -1,8 +1,10 @@
 #include "services/Speech.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <limits>
+#include <vector>
 
 #include "model/ArithmeticFault.h"
 #include "services/Text.h"
@@ -30,40 +32,40 @@ bool Wants(std::string_view setting, std::string_view item) {
   return setting.empty() || setting == item;
 }
 
+struct Wish {
+  std::string Voice;
+  std::string Manufacturer;
+  std::string Product;
+  int Language = 0;
+
+  bool Matches(const TtsEngineInfo& item) const {
+    return Wants(Voice, item.VoiceName) && Wants(Product, item.Product) &&
+           Wants(Manufacturer, item.Manufacturer) &&
+           (Language == 0 || Language == (item.LanguageId & PrimaryLanguageMask));
+  }
+};
+
+/// The number of the first engine that matches, from 1; -1 when there is none.
+int FindEngine(const std::vector<TtsEngineInfo>& engines, const Wish& wish) {
+  const auto found = std::ranges::find_if(engines, [&](const auto& item) { return wish.Matches(item); });
+  return found == engines.end() ? -1 : static_cast<int>(found - engines.begin()) + 1;
+}
+
+/// The engine that matches all, else one of the language, else the first.
+int ChooseEngine(const std::vector<TtsEngineInfo>& engines, const Wish& wish) {
+  int index = FindEngine(engines, wish);
+  if (index < 0) index = FindEngine(engines, {"", "", "", wish.Language});
+  return index < 0 ? 1 : index;
+}
+
 }  // namespace
 
 bool SpeechService::CreateSpeech(std::string_view voice, std::string_view manufacturer,
                                  std::string_view product, int language) {
   Words = ReadVoiceWords(Messages);
-  return OpenEngine(ChooseEngine(voice, manufacturer, product, language));
-}
-
-/// The engine that matches all, else one of the language, else the first.
-int SpeechService::ChooseEngine(std::string_view voice, std::string_view manufacturer,
-                                std::string_view product, int language) const {
-  int index = FindEngine(voice, manufacturer, product, language);
-  if (index < 0) index = FindEngine("", "", "", language);
-  return index < 0 ? 1 : index;
-}
-
-int SpeechService::FindEngine(std::string_view voice, std::string_view manufacturer, std::string_view product,
-                              int language) const {
-  const int count = Outside.Speech.Count();
-  for (int index = 1; index <= count; ++index) {
-    const TtsEngineInfo item = Outside.Speech.Item(index);
-    if (Wants(voice, item.VoiceName) && Wants(product, item.Product) &&
-        Wants(manufacturer, item.Manufacturer) &&
-        (language == 0 || language == (item.LanguageId & PrimaryLanguageMask)))
-      return index;
-  }
-  return -1;
-}
-
-bool SpeechService::OpenEngine(int index) {
   ReleaseSpeech();
-  if (index > Outside.Speech.Count()) return false;
-  Opened = Outside.Speech.Item(index);
-  SpeechEngine = Outside.Speech.Open(index);
+  const Wish wish{std::string(voice), std::string(manufacturer), std::string(product), language};
+  SpeechEngine = Outside.Speech.Open([wish](const auto& engines) { return ChooseEngine(engines, wish); });
   if (!SpeechEngine || !SpeechEngine->Initialise()) return false;
   ApplyVoiceSettings();
   PrimarySpeaker = SpeechEngine->Speaker(2);
@@ -245,15 +247,6 @@ void SpeechService::DetachSpeakingControls(Form& form) const {
     control->Speaking.Referee = nullptr;
     control->Speaking.Quiescent = true;
   }
-}
-
-void SpeechService::EngineListChanged() {
-  if (!SpeechEngine) return;
-  const int index = ChooseEngine(Settings.SystemVoice, Settings.SystemManuf, Settings.SystemProduct,
-                                 Settings.SystemLanguage);
-  if (index > Outside.Speech.Count() || Outside.Speech.Item(index) == Opened) return;
-  const bool speaking = SpeechEngine->Busy();
-  if (OpenEngine(index) && speaking) SpeakText(std::string(LastText));
 }
 
 }  // namespace qves

@@ -25,7 +25,8 @@ class SpeechService {
       : Outside(platform), Settings(settings), Messages(messages) {}
 
   /// Chooses the engine that matches (texts: "" is any; language 0 is any), else one of the language, else
-  /// the first; applies the voice settings and gets both speakers. False when there is no engine or it fails.
+  /// the first, now and when more engines are known; applies the voice settings and gets both speakers. False
+  /// when there is no engine or it fails.
   bool CreateSpeech(std::string_view voice, std::string_view manufacturer, std::string_view product,
                     int language);
   /// Stops speech and releases the speech objects, waiting no longer than ShutDownWait in all. Faults when
@@ -73,15 +74,7 @@ class SpeechService {
   void AttachSpeakingControls(Form& form, const VerbosityTable& verbosity) const;
   void DetachSpeakingControls(Form& form) const;
 
-  /// Other engines are known now: a better one for the settings may be among them.
-  void EngineListChanged();
-
  private:
-  int ChooseEngine(std::string_view voice, std::string_view manufacturer, std::string_view product,
-                   int language) const;
-  int FindEngine(std::string_view voice, std::string_view manufacturer, std::string_view product,
-                 int language) const;
-  bool OpenEngine(int index);
   void ApplyVoiceSettings();
   void HandOver(SpeechAct act);
   VoicingRules Rules() const;
@@ -101,7 +94,6 @@ class SpeechService {
   std::vector<SpeechAct> Turn;
   PiecewiseReading Reading;
   SpeechObserver* Observer = nullptr;
-  TtsEngineInfo Opened;  ///< what the engine is
 };
 
 }  // namespace qves

@@ -5,8 +5,7 @@
 #include <memory>
 
 #include "platform/TTS.h"
-#include "speech/SpeechList.h"
-#include "speech/Utterance.h"
+#include "speech/SpeechQueue.h"
 
 namespace qves {
 
@@ -14,41 +13,39 @@ class SpeechEngine;
 
 class SpeechSpeaker : public TtsSpeaker {
  public:
-  SpeechSpeaker(SpeechEngine& engine, std::shared_ptr<SpeechReporter> reporter);
+  explicit SpeechSpeaker(SpeechEngine& engine);
   ~SpeechSpeaker() override;
   SpeechSpeaker(const SpeechSpeaker&) = delete;
   SpeechSpeaker& operator=(const SpeechSpeaker&) = delete;
   void SpeakNow(std::string_view text, std::span<const BookMark> marks) override;
   void SpeakQueued(std::string_view text, std::span<const BookMark> marks) override;
   void Stop() override;
-  bool Busy() const override { return State->Busy(); }
+  bool Busy() const override;
 
  private:
+  void Speak(std::string_view text, std::span<const BookMark> marks, bool interrupts);
+
   SpeechEngine& Engine;
-  std::shared_ptr<SpeakerState> State;
+  std::shared_ptr<SpeakerRecord> Record = std::make_shared<SpeakerRecord>();
 };
 
 /// The two speakers share the voice: their texts are spoken one after another.
 class SpeechEngine : public TtsEngine {
  public:
-  SpeechEngine(std::shared_ptr<const Voice> voice, std::shared_ptr<SpeechRoute> route,
-               const std::shared_ptr<SpeechReporter>& reporter);
+  SpeechEngine(std::shared_ptr<SpeechQueue> queue, TtsChooser choose);
   bool Initialise() override { return true; }
-  void SetSpeed(int wordsPerMinute) override;
-  void SetVolume(std::int32_t volume) override;
-  void SetPitch(int pitch) override;
-  int MinimumPitch() const override;
-  int MaximumPitch() const override;
+  void SetSpeed(int wordsPerMinute) override { Settings.WordsPerMinute = wordsPerMinute; }
+  void SetVolume(std::int32_t volume) override { Settings.Volume = volume; }
+  void SetPitch(int pitch) override { Settings.Pitch = pitch; }
+  int MinimumPitch() const override { return 0; }
+  int MaximumPitch() const override { return HighestPitch; }
   TtsSpeaker* Speaker(int number) override;
-  bool Busy() const override;
+  bool Busy() const override { return Speakers[0].Busy() || Speakers[1].Busy(); }
 
  private:
   friend class SpeechSpeaker;
-  void Speak(std::string_view text, std::span<const BookMark> marks, SpeechTicket ticket);
-  const SpeechDriver& Driver() const { return *Route->Driver(Speaking->BackEnd); }
-
-  std::shared_ptr<const Voice> Speaking;
-  std::shared_ptr<SpeechRoute> Route;
+  std::shared_ptr<SpeechQueue> Queue;
+  std::shared_ptr<EngineVoice> Voice = std::make_shared<EngineVoice>();
   VoiceSettings Settings;
   std::array<SpeechSpeaker, 2> Speakers;
 };

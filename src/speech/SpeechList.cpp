@@ -1,93 +1,44 @@
 #include "speech/SpeechList.h"
 
-#include <iterator>
+#include <pthread.h>
+
+#include <chrono>
 #include <utility>
 
 #include "speech/SpeechEngine.h"
 
 namespace qves {
+namespace {
 
-void SpeechRoute::Add(std::shared_ptr<SpeechDriver> driver) {
-  Drivers.push_back(std::move(driver));
+constexpr auto LongestFarewell = std::chrono::milliseconds(50);
+
+}  // namespace
+
+SpeechList::SpeechList(EventPump& pump, const std::vector<BackEndMaker>& listed,
+                       const std::vector<BackEndMaker>& standIns)
+    : Empty(listed.empty()), Queue(std::make_shared<SpeechQueue>(pump)) {
+  for (const BackEndMaker& make : listed) Queue->Add(make(Queue->Changed()), true);
+  for (const BackEndMaker& make : standIns) Queue->Add(make(Queue->Changed()), false);
+  std::packaged_task<void()> run([queue = Queue] { queue->Run(); });
+  Ended = run.get_future();
+  if (Empty) return;
+  Thread = std::thread(std::move(run));
+  pthread_setname_np(Thread.native_handle(), "speech");
 }
-
-void SpeechRoute::Speak(Utterance text) {
-  const std::lock_guard lock(Mutex);
-  Lead(std::move(text));
-}
-
-void SpeechRoute::Interrupt() {
-  for (const auto& driver : Drivers) driver->Interrupt();
-}
-
-void SpeechRoute::TakeBack(int number, std::vector<Utterance> texts) {
-  const std::lock_guard lock(Mutex);
-  Driver(number)->PutDown();
-  for (Utterance& text : texts) {
-    if (!text.Ticket.Outdated()) Lead(std::move(text));
-  }
-}
-
-void SpeechRoute::Lead(Utterance text) {
-  const std::size_t own = std::size_t(text.Speaking->BackEnd);
-  for (std::size_t i = 0; i < Drivers.size(); ++i) {
-    SpeechDriver& driver = *Drivers[(own + i) % Drivers.size()];
-    if (driver.Usable()) return driver.Speak(std::move(text));
-  }
-}
-
-SpeechList::SpeechList(EventPump& pump)
-    : Reporter(std::make_shared<SpeechReporter>(pump)), Route(std::make_shared<SpeechRoute>()) {}
 
 SpeechList::~SpeechList() {
-  Reporter->Close();
+  Queue->Close();
+  if (Empty) return;
+  if (Ended.wait_for(LongestFarewell) == std::future_status::ready)
+    Thread.join();
+  else
+    Thread.detach();
 }
 
-void SpeechList::Add(const DriverMaker& maker, bool listed) {
-  const int number = Route->DriverCount();
-  DriverLinks links;
-  links.Number = number;
-  links.VoicesChanged = [reporter = Reporter] {
-    reporter->Post([](TtsListener& listener) { listener.EngineListChanged(); });
-  };
-  links.HandBack = [weak = std::weak_ptr(Route), number](std::vector<Utterance> texts) {
-    if (const auto lasting = weak.lock()) lasting->TakeBack(number, std::move(texts));
-  };
-  Route->Add(maker(std::move(links)));
-  if (!listed) return;
-  ListedDrivers.push_back(number);
-  Route->Driver(number)->Prepare();
-}
-
-int SpeechList::Count() const {
-  std::vector<Voice> all;
-  for (const int number : ListedDrivers) {
-    std::vector<Voice> some = Route->Driver(number)->Voices();
-    std::move(some.begin(), some.end(), std::back_inserter(all));
-  }
-  Voices = std::move(all);
-  return int(Voices.size());
-}
-
-TtsEngineInfo SpeechList::Item(int index) const {
-  const Voice* voice = VoiceAt(index);
-  return voice ? voice->Info : TtsEngineInfo{};
-}
-
-std::unique_ptr<TtsEngine> SpeechList::Open(int index) {
-  const Voice* voice = VoiceAt(index);
-  if (!voice) return nullptr;
-  return std::make_unique<SpeechEngine>(std::make_shared<const Voice>(*voice), Route, Reporter);
-}
-
-void SpeechList::SetListener(TtsListener* listener) {
-  Reporter->SetListener(listener);
-}
-
-const Voice* SpeechList::VoiceAt(int index) const {
-  if (Voices.empty()) Count();
-  if (index < 1 || std::size_t(index) > Voices.size()) return nullptr;
-  return &Voices[std::size_t(index) - 1];
+// A list that is still to be read may hold what is wanted, so this one is not looked at.
+std::unique_ptr<TtsEngine> SpeechList::Open(TtsChooser choose) {
+  if (Empty) return nullptr;
+  return std::make_unique<SpeechEngine>(Queue, std::move(choose));
 }
 
 }  // namespace qves

@@ -1,57 +1,40 @@
 // The one list of engines, over the voices of all back ends.
 #pragma once
 
+#include <functional>
+#include <future>
 #include <memory>
-#include <mutex>
+#include <thread>
 #include <vector>
 
 #include "platform/Outside.h"
 #include "platform/TTS.h"
-#include "speech/SpeechDriver.h"
-#include "speech/SpeechReporter.h"
+#include "speech/SpeechQueue.h"
 
 namespace qves {
 
-/// Leads each text to the back end of its voice or, while that one fails, to the next that does not.
-class SpeechRoute {
- public:
-  void Add(std::shared_ptr<SpeechDriver> driver);
-  const std::shared_ptr<SpeechDriver>& Driver(int number) const { return Drivers[std::size_t(number)]; }
-  int DriverCount() const { return int(Drivers.size()); }
-  void Speak(Utterance text);
-  void Interrupt();
-  /// A back end cannot speak these texts.
-  void TakeBack(int number, std::vector<Utterance> texts);
-
- private:
-  void Lead(Utterance text);
-
-  std::mutex Mutex;  // keeps the order of texts that come from two threads
-  std::vector<std::shared_ptr<SpeechDriver>> Drivers;
-};
+/// `changed` is what the back end is to wait with.
+using BackEndMaker = std::function<std::unique_ptr<SpeechBackEnd>(Wake& changed)>;
 
 class SpeechList : public TTS {
  public:
-  explicit SpeechList(EventPump& pump);
+  /// The listed ones in order of preference; those that stand in speak when all of them fail.
+  SpeechList(EventPump& pump, const std::vector<BackEndMaker>& listed,
+             const std::vector<BackEndMaker>& standIns);
+  /// Does not wait for a back end that hangs: the thread is left behind, with all that it needs.
   ~SpeechList() override;
   SpeechList(const SpeechList&) = delete;
   SpeechList& operator=(const SpeechList&) = delete;
 
-  /// Adds a back end. One that is not listed only stands in for those that fail.
-  void Add(const DriverMaker& maker, bool listed);
-
-  int Count() const override;
-  TtsEngineInfo Item(int index) const override;
-  std::unique_ptr<TtsEngine> Open(int index) override;
-  void SetListener(TtsListener* listener) override;
+  std::vector<TtsEngineInfo> Engines() const override { return Queue->Engines(); }
+  std::unique_ptr<TtsEngine> Open(TtsChooser choose) override;
+  void SetListener(TtsListener* listener) override { Queue->SetListener(listener); }
 
  private:
-  const Voice* VoiceAt(int index) const;
-
-  std::shared_ptr<SpeechReporter> Reporter;
-  std::shared_ptr<SpeechRoute> Route;
-  std::vector<int> ListedDrivers;
-  mutable std::vector<Voice> Voices;  // as they were counted last
+  bool Empty;
+  std::shared_ptr<SpeechQueue> Queue;
+  std::future<void> Ended;
+  std::thread Thread;
 };
 
 }  // namespace qves

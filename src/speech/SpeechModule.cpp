@@ -10,9 +10,8 @@ namespace {
 /// No voices: everything stays silent.
 class NoSpeech : public TTS {
  public:
-  int Count() const override { return 0; }
-  TtsEngineInfo Item(int) const override { return {}; }
-  std::unique_ptr<TtsEngine> Open(int) override { return nullptr; }
+  std::vector<TtsEngineInfo> Engines() const override { return {}; }
+  std::unique_ptr<TtsEngine> Open(TtsChooser) override { return nullptr; }
   void SetListener(TtsListener*) override {}
 };
 

@@ -50,7 +50,7 @@ class SilentEngine : public TtsEngine {
 
 }  // namespace
 
-std::unique_ptr<TtsEngine> SilentTts::Open(int) {
+std::unique_ptr<TtsEngine> SilentTts::Open(TtsChooser) {
   return std::make_unique<SilentEngine>(Reading);
 }
 

@@ -16,9 +16,8 @@ struct SilentReading {
 
 class SilentTts : public TTS {
  public:
-  int Count() const override { return 1; }
-  TtsEngineInfo Item(int) const override { return {"QVES", "transcript", "transcript", 9}; }
-  std::unique_ptr<TtsEngine> Open(int index) override;
+  std::vector<TtsEngineInfo> Engines() const override { return {{"QVES", "transcript", "transcript", 9}}; }
+  std::unique_ptr<TtsEngine> Open(TtsChooser choose) override;
   void SetListener(TtsListener* listener) override { Listener = listener; }
 
   /// The reading reaches so many of its marks, or all of them and its end.

@@ -52,7 +52,7 @@ class NumberReader {
   }
 
   bool TakePoint() {
-    if (Rules.Words.Point.empty()) return false;
+    if (Rules.Words.HeardPoint.empty()) return false;
     return Take(Rules.Words.Separator) || Take(".") || Take(Rules.Words.Point);
   }
 
@@ -159,7 +159,7 @@ std::string NumberInWords(SpokenNumber number, const VoicingRules& rules) {
   }
   if (number.Negative) out += words.Minus + " ";
   out += WholeInWords(number.Whole, rules.Reading);
-  if (!number.Fraction.empty()) out += " " + words.Point + " " + FractionInWords(number.Fraction);
+  if (!number.Fraction.empty()) out += " " + words.HeardPoint + " " + FractionInWords(number.Fraction);
   if (number.Exponent.empty()) return out;
   return out + " " + words.TimesTenToThe + " " + (number.ExponentNegative ? words.Minus + " " : "") +
          WithoutLeadingZeros(number.Exponent);
@@ -170,7 +170,7 @@ std::string DateNumberInWords(const SpokenNumber& number, const VoicingRules& ru
   const std::string_view fraction = number.Fraction;
   std::string out = WholeInWords(number.Whole, rules.Reading);
   if (fraction.empty()) return out;
-  out += " " + rules.Words.Point + " " + FractionInWords(fraction.substr(0, dayDigits));
+  out += " " + rules.Words.HeardPoint + " " + FractionInWords(fraction.substr(0, dayDigits));
   if (fraction.size() <= dayDigits) return out;
   const std::string_view year = fraction.substr(dayDigits);
   return out + ", " + DigitByDigit(year, year.size(), false);

@@ -23,13 +23,15 @@ inline constexpr int AllDecimals = 0;
 /// All of these are messages.
 struct VoiceWords {
   std::string Separator;      ///< the decimal separator of number texts
-  std::string Point;          ///< what is spoken in its place, and heard
+  std::string Point;          ///< what is spoken in its place
+  std::string HeardPoint;     ///< what is heard in its place
   std::string SpokenMinus;    ///< what is spoken in place of a number's "-", with its blanks
   std::string Plus;           ///< of "+" between blanks
   std::string Minus;          ///< of "-" between blanks, and before a number
   std::string Times;          ///< of "*" between blanks
   std::string DividedBy;      ///< of "/" between blanks
   std::string Equals;         ///< of "="
+  std::string LeftParen;      ///< of "(" in a value
   std::string Of;             ///< between a function and its operand
   std::string About;          ///< before a rounded number
   std::string TimesTenToThe;  ///< before an exponent

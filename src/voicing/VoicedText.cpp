@@ -1,5 +1,6 @@
 #include "voicing/VoicedText.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "voicing/SpokenNumber.h"
@@ -34,8 +35,12 @@ class Voicing {
   }
 
   VoicedText Run() {
-    while (At < Text.size())
-      if (!TakeValue() && !TakeNumber() && !TakeSign() && !TakeFunction() && !TakeFunctionEnd()) Copy();
+    while (At < Text.size()) {
+      if (!TakeValue() && !TakeParen() && !TakeNumber() && !TakeSign() && !TakeFunction() &&
+          !TakeFunctionEnd())
+        Copy();
+      PauseBehindValue();
+    }
     PinMarks(Text.size());
     return std::move(Out);
   }
@@ -78,7 +83,7 @@ class Voicing {
       case ValueKind::DateNumber:
         return TakeDateNumber();
       case ValueKind::DateText:
-        Say(InFull(value), value.size());
+        Say(InFull(Rules.DigitsApart ? Joined(value) : std::string(value)), value.size());
         return true;
     }
     return false;
@@ -103,6 +108,16 @@ class Voicing {
     return date.has_value();
   }
 
+  /// A date text whose digits were spoken apart: its last four are the year.
+  static std::string Joined(std::string_view date) {
+    constexpr std::size_t yearDigits = 4;
+    const std::size_t first = std::min(date.find_first_of("0123456789"), date.size());
+    std::string digits(date.substr(first));
+    std::erase(digits, ' ');
+    if (digits.size() > yearDigits) digits.insert(digits.size() - yearDigits, 1, ' ');
+    return std::string(date.substr(0, first)) + digits;
+  }
+
   /// A date text with its month in full. The day and the year are no values to be taken apart.
   std::string InFull(std::string_view date) const {
     for (const auto& [brief, full] : Words.Months) {
@@ -122,10 +137,25 @@ class Voicing {
     return number.has_value();
   }
 
+  bool IsInValue() const { return At >= Value.Start && At < Value.Start + ValueLength; }
+
+  /// An open parenthesis that is shown is heard.
+  bool TakeParen() {
+    if (Text[At] != '(' || !IsInValue() || Words.LeftParen.empty()) return false;
+    SayWord(Words.LeftParen, 1);
+    return true;
+  }
+
+  /// The place of an item in its list is another number.
+  void PauseBehindValue() {
+    const bool isBehind = ValueLength > 0 && At == Value.Start + ValueLength;
+    if (isBehind && At + 1 < Text.size() && Text[At] == ' ' && Text[At + 1] >= '0' && Text[At + 1] <= '9')
+      Out.Text += ',';
+  }
+
   /// A number that was spoken with its digits apart ends where its value does: digits of others may follow.
   std::string_view TextOfNumber() const {
-    const std::size_t end = Value.Start + ValueLength;
-    return At >= Value.Start && At < end ? Text.substr(0, end) : Text;
+    return IsInValue() ? Text.substr(0, Value.Start + ValueLength) : Text;
   }
 
   /// "=" anywhere, the other signs between blanks.

@@ -127,7 +127,7 @@ TEST_F(ApplicationTest, DocumentsThatAreNotAsTheyShouldBeAreShownAsFarAsTheyGoAn
 }
 
 TEST_F(ApplicationTest, WithoutAVoiceADocumentIsMovedInAndNothingReadsIt) {
-  Outside.Speech.Engines.clear();
+  Outside.Speech.Known.clear();
   Outside.Files.Content["/program/AboutStd.rtf"] = "{\\rtf1 One. Two.\\par}";
   Start();
   App->ActiveForm()->ChooseMenu(351);

@@ -134,7 +134,7 @@ struct FakeWindows : WindowSystem {
 
 /// Speaks into `Said`: "now ...", "queued ...", "stop". Stops of the speaker that never speaks are not said.
 struct FakeTts : TTS {
-  std::vector<TtsEngineInfo> Engines = {{"Maker", "Product", "Voice", 9}};
+  std::vector<TtsEngineInfo> Known = {{"Maker", "Product", "Voice", 9}};
   std::vector<std::string> Said;
   std::vector<std::string> Settings;  ///< "open 1", "speed 170", ...
   bool BusyNow = false;
@@ -174,9 +174,10 @@ struct FakeTts : TTS {
     bool Busy() const override { return Owner.BusyNow; }
   };
 
-  int Count() const override { return static_cast<int>(Engines.size()); }
-  TtsEngineInfo Item(int index) const override { return Engines.at(static_cast<std::size_t>(index - 1)); }
-  std::unique_ptr<TtsEngine> Open(int index) override {
+  std::vector<TtsEngineInfo> Engines() const override { return Known; }
+  std::unique_ptr<TtsEngine> Open(TtsChooser choose) override {
+    const int index = choose(Known);
+    if (index < 1 || index > static_cast<int>(Known.size())) return nullptr;
     Settings.push_back("open " + std::to_string(index));
     return std::make_unique<FakeEngine>(*this);
   }

@@ -22,10 +22,10 @@ struct SpeechTest : testing::Test {
 };
 
 TEST_F(SpeechTest, TheEngineIsChosenByTheSettingsThenByLanguageThenTheFirst) {
-  Outside.Speech.Engines = {{"Ace", "P", "Hans", 7},
-                            {"Ace", "P", "Anna", 1033},
-                            {"IBM", "P", "Reed", 2057},
-                            {"IBM", "P", "reed", 9}};
+  Outside.Speech.Known = {{"Ace", "P", "Hans", 7},
+                          {"Ace", "P", "Anna", 1033},
+                          {"IBM", "P", "Reed", 2057},
+                          {"IBM", "P", "reed", 9}};
   const struct {
     const char* Voice;
     const char* Manufacturer;
@@ -67,7 +67,7 @@ TEST_F(SpeechTest, WithoutAnEngineEverythingIsSilent) {
   Outside.Speech.Broken = true;
   EXPECT_FALSE(Create());
   EXPECT_TRUE(listened());
-  Outside.Speech.Engines.clear();
+  Outside.Speech.Known.clear();
   EXPECT_FALSE(Create());
   EXPECT_TRUE(listened());
   EXPECT_EQ(Speech.SpeakableChar("&"), "&");
@@ -169,21 +169,6 @@ TEST_F(SpeechTest, ShutdownNearTheEndOfTheTickCountOverflows) {
   Create();
   Outside.TheClock.Ticks = std::numeric_limits<std::int32_t>::max() - ShutDownWait + 1;
   EXPECT_THROW(Speech.ShutDownSpeech(), ArithmeticFault);
-}
-
-TEST_F(SpeechTest, AVoiceThatIsFoundLaterIsTakenThen) {
-  Set.All.Settings.SystemVoice = "Late";
-  const AppSettings& s = Set.All.Settings;
-  Speech.CreateSpeech(s.SystemVoice, s.SystemManuf, s.SystemProduct, s.SystemLanguage);
-  Speech.SpeakText("hello");
-  Speech.EndTurn();
-  Outside.Speech.Engines.push_back({"IBM", "Product", "Late", 9});
-  Outside.Speech.BusyNow = true;
-  Speech.EngineListChanged();
-  Speech.EndTurn();
-  EXPECT_EQ(Outside.Speech.Said, (std::vector<std::string>{"now hello", "now hello"}));
-  Speech.EngineListChanged();
-  EXPECT_EQ(std::count(Outside.Speech.Settings.begin(), Outside.Speech.Settings.end(), "open 2"), 1);
 }
 
 }  // namespace

@@ -118,7 +118,8 @@ TEST(Voicing, ValuesThatAreNoPlainNumbers) {
       {"= ", "DEADBEEF", BaseDigits, "equals D E A, D, B E E F"},
       {"AS A ", "A", BaseDigits, "AS A A"},
       {"", "1BAD", BaseDigits, "1 B A, D"},
-      {"", "101(", BaseDigits, "1 0 1("},
+      {"", "101(", BaseDigits, "1 0 1 left paren"},
+      {"value is  ", "((", Number, "value is  left paren left paren"},
       {"", "0", BaseDigits, "0"},
       {"begin date ", "4.072004", DateNumber, "begin date 4 point 0 7, 2 0 0 4"},
       {"= ", "12point312010", DateNumber, "equals 12 point 3 1, 2 0 1 0"},
@@ -128,6 +129,7 @@ TEST(Voicing, ValuesThatAreNoPlainNumbers) {
     EXPECT_EQ(VoicedValue(row.LeadIn, row.Value, row.Kind), row.Heard) << row.Value;
   EXPECT_EQ(Voiced("DEAD Dec 4.072004"), "DEAD Dec 4 point 0 7 2, 0 0 4") << "nobody guesses";
   EXPECT_EQ(VoicedValue("= ", "1 1 0 1 1", BaseDigits, true), "equals 1, 1 0 1 1");
+  EXPECT_EQ(VoicedValue("= ", "Monday, Dec 2 7 2 0 0 4", DateText, true), "equals Monday, December 27 2004");
 }
 
 TEST(Voicing, DigitsThatWereSpokenApartBelongTogether) {
@@ -137,7 +139,7 @@ TEST(Voicing, DigitsThatWereSpokenApartBelongTogether) {
   EXPECT_EQ(MakeVoiced("May 27 2004, 5 of 12", apart).Text, "May 2 7 2 0 0 4, 5 of 1 2");
   const std::string item = "Data list, 1 2point2 5";
   EXPECT_EQ(MakeVoiced(item + " 2 of 5", apart, {11, item.size() - 11}).Text,
-            "Data list, 1 2 point 2 5 2 of 5")
+            "Data list, 1 2 point 2 5, 2 of 5")
       << "a value ends where its span does";
 }
 
@@ -156,7 +158,7 @@ TEST(Voicing, MarksStayBeforeWhatTheyStoodBefore) {
 
 TEST(Voicing, BadInput) {
   VoiceWords words = English;
-  words.Point.clear();
+  words.HeardPoint.clear();
   words.Minus.clear();
   EXPECT_EQ(MakeVoiced("= -2.2360679 2236", {words}).Text, "equals -2.2360679 2236") << "no word is made up";
   words = English;

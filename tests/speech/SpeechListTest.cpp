@@ -1,5 +1,7 @@
-// The list, its engines and the reports, over back ends that only collect their texts.
+// The list, its queue and the reports, over back ends that only note their texts.
 #include <gtest/gtest.h>
+
+#include <atomic>
 
 #include "SpeechRig.h"
 #include "speech/SpeechBackEnds.h"
@@ -8,77 +10,144 @@
 namespace qves {
 namespace {
 
-class FakeDriver : public SpeechDriver {
+using namespace std::chrono_literals;
+using Texts = std::vector<std::string>;
+
+/// What a back end has done and is to do.
+class Stage {
  public:
-  explicit FakeDriver(DriverLinks links) : Links(std::move(links)) {}
-  void Prepare() override {}
-  std::vector<Voice> Voices() override {
-    return {{{"Maker", "Product", "Voice " + std::to_string(Links.Number), 9}, "key", Links.Number}};
+  std::atomic<bool> Silent = false;     ///< the library has not read its voices yet
+  std::atomic<bool> Fails = false;      ///< having spoken the first 4 bytes
+  std::atomic<bool> Holds = false;      ///< a text is played until it is stopped or this ends
+  std::atomic<bool> ListsMore = false;  ///< one more voice is known from the next rest on
+  std::atomic<int> NextMark = 0;        ///< it is reached while a text is held
+
+  void Note(const std::string& what) {
+    const std::lock_guard lock(Mutex);
+    Played.push_back(what);
   }
-  int MinimumPitch() const override { return 0; }
-  int MaximumPitch() const override { return 100; }
-  void Speak(Utterance text) override { Texts.push_back(std::move(text)); }
-  void Interrupt() override {
-    std::erase_if(Texts, [](const Utterance& text) { return text.Ticket.Outdated(); });
-  }
-  bool Usable() const override { return Up; }
-  void PutDown() override { Up = false; }
-  std::string All() const {
-    std::string all;
-    for (const Utterance& text : Texts) all += text.Text + "|";
-    return all;
+  Texts All() const {
+    const std::lock_guard lock(Mutex);
+    return Played;
   }
 
-  DriverLinks Links;
-  std::vector<Utterance> Texts;
-  bool Up = true;
+ private:
+  mutable std::mutex Mutex;
+  Texts Played;
 };
+
+class FakeBackEnd : public SpeechBackEnd {
+ public:
+  FakeBackEnd(std::string name, Stage& stage) : Name(std::move(name)), Does(stage) { AddVoice("1"); }
+
+  const std::vector<Voice>& Voices() override {
+    while (Does.Silent) std::this_thread::sleep_for(1ms);
+    return Known;
+  }
+  bool Play(const Utterance& text, Playing& playing) override {
+    playing.Spoken = 4;
+    if (Does.Fails) return false;
+    Does.Note(text.Speaking.Info.VoiceName + ": " + text.Text);
+    while (Does.Holds && !playing.Stopped()) {
+      if (const int mark = Does.NextMark.exchange(0)) playing.ReachMark(mark);
+      playing.Changed.Clear();
+      playing.Changed.Wait(SteadyClock::now() + 1ms);
+    }
+    return true;
+  }
+  TimePoint Rest() override {
+    if (Does.ListsMore.exchange(false)) AddVoice("2");
+    return SteadyClock::now() + 1ms;
+  }
+
+ private:
+  void AddVoice(const char* number) {
+    Voice& voice = Known.emplace_back();
+    voice.Info = {"Maker", "Product", Name + number, 9};
+    voice.Owner = this;
+  }
+
+  std::string Name;
+  Stage& Does;
+  std::vector<Voice> Known;
+};
+
+BackEndMaker MakerOf(const char* name, Stage& stage) {
+  return [name, &stage](Wake&) { return std::make_unique<FakeBackEnd>(name, stage); };
+}
+
+/// The voice with this name, else the first.
+TtsChooser ByName(const std::string& name) {
+  return [name](const std::vector<TtsEngineInfo>& engines) {
+    for (std::size_t i = 0; i < engines.size(); ++i)
+      if (engines[i].VoiceName == name) return int(i) + 1;
+    return 1;
+  };
+}
 
 class SpeechListTest : public testing::Test {
  protected:
-  SpeechListTest() {
-    for (const auto& driver : {&First, &Second}) {
-      List->Add(
-          [driver](DriverLinks links) {
-            *driver = std::make_shared<FakeDriver>(std::move(links));
-            return *driver;
-          },
-          driver == &First);
-    }
-    Engine = List->Open(1);
+  void Open(const std::string& voice = "first1") {
+    Engine = List->Open(ByName(voice));
     Listener = std::make_unique<TestListener>(Engine.get());
     List->SetListener(Listener.get());
   }
-  const std::vector<std::string>& Reports() {
+  void SetUp() override {
+    Make();
+    Open();
+    ASSERT_TRUE(ReachedWithin(Pump, 5s, [&] { return !List->Engines().empty(); }));
+  }
+  void Make() {
+    List = std::make_unique<SpeechList>(Pump, std::vector{MakerOf("first", First)},
+                                        std::vector{MakerOf("second", Second)});
+  }
+  bool Idle() {
+    return ReachedWithin(Pump, 5s, [&] { return !Engine->Busy(); });
+  }
+  testing::AssertionResult Played(const Stage& stage, const Texts& texts) {
+    ReachedWithin(Pump, 2s, [&] { return stage.All() == texts; });
+    if (stage.All() == texts) return testing::AssertionSuccess();
+    return testing::AssertionFailure() << testing::PrintToString(stage.All());
+  }
+  const Texts& Reports() {
     Pump.ProcessEvents(0);
     return Listener->Reports;
   }
-  using Texts = std::vector<std::string>;
 
+  Stage First;
+  Stage Second;
   TestPump Pump;
-  std::unique_ptr<SpeechList> List = std::make_unique<SpeechList>(Pump);
-  std::shared_ptr<FakeDriver> First;
-  std::shared_ptr<FakeDriver> Second;
+  std::unique_ptr<SpeechList> List;
   std::unique_ptr<TtsEngine> Engine;
   std::unique_ptr<TestListener> Listener;
 };
 
 TEST_F(SpeechListTest, ABackEndThatStandsInIsNotListed) {
-  EXPECT_EQ(List->Count(), 1);
-  EXPECT_EQ(List->Item(1).VoiceName, "Voice 0");
-  for (const int wrong : {0, 2, -1}) EXPECT_EQ(List->Open(wrong), nullptr);
+  ASSERT_EQ(List->Engines().size(), 1U);
+  EXPECT_EQ(List->Engines()[0].VoiceName, "first1");
   for (const int wrong : {0, 3}) EXPECT_EQ(Engine->Speaker(wrong), nullptr);
+  for (const int wrong : {-1, 0, 2}) {
+    Engine = List->Open([wrong](const auto&) { return wrong; });
+    Engine->Speaker(2)->SpeakNow("unheard");
+    EXPECT_TRUE(Idle());
+  }
+  EXPECT_EQ(First.All(), Texts{});
 }
 
 TEST_F(SpeechListTest, ASpeakerSilencesItsOwnTextsOnly) {
+  First.Holds = true;
   Engine->Speaker(1)->SpeakQueued("other");
   Engine->Speaker(2)->SpeakNow("one");
-  Engine->Speaker(2)->SpeakQueued("two\xff");
-  EXPECT_EQ(First->All(), "other|one|two |");
-  Engine->Speaker(2)->SpeakNow("three");
-  EXPECT_EQ(First->All(), "other|three|");
+  Engine->Speaker(2)->SpeakQueued("two");
+  Engine->Speaker(2)->SpeakNow("three\xff");
+  EXPECT_TRUE(Played(First, {"first1: other"}));
+  First.Holds = false;
+  EXPECT_TRUE(Played(First, {"first1: other", "first1: three "}));
+  EXPECT_TRUE(Idle());
+  First.Holds = true;
+  Engine->Speaker(1)->SpeakQueued("more");
+  Engine->Speaker(2)->SpeakQueued("never");
   Engine->Speaker(2)->SpeakNow("");
-  EXPECT_EQ(First->All(), "other|");
   EXPECT_FALSE(Engine->Speaker(2)->Busy());
   EXPECT_TRUE(Engine->Busy());
 }
@@ -87,44 +156,54 @@ TEST_F(SpeechListTest, StoppedIsReportedOnceTheSpeakerIsIdle) {
   TtsSpeaker* speaker = Engine->Speaker(2);
   speaker->Stop();
   EXPECT_EQ(Reports(), Texts{});
+  First.Holds = true;
   speaker->SpeakNow("one");
   speaker->SpeakNow("two");
   speaker->SpeakQueued("three");
+  EXPECT_TRUE(Played(First, {"first1: two"}) || Played(First, {"first1: one", "first1: two"}));
   EXPECT_EQ(Reports(), Texts{});
-  First->Texts.clear();
-  EXPECT_EQ(Reports(), Texts{"stopped 2"});
+  First.Holds = false;
+  EXPECT_TRUE(Idle());
+  EXPECT_TRUE(ReachedWithin(Pump, 1s, [&] { return Reports() == Texts{"stopped 2"}; }));
+  First.Holds = true;
   speaker->SpeakNow("four");
-  First->Texts.clear();
-  speaker->SpeakNow("five");  // before the report about "four" was delivered
-  EXPECT_EQ(Reports(), Texts{"stopped 2"});
+  speaker->SpeakQueued("five");
+  speaker->Stop();
+  EXPECT_TRUE(ReachedWithin(Pump, 1s, [&] { return Reports() == Texts{"stopped 2", "stopped 2"}; }));
 }
 
 TEST_F(SpeechListTest, MarksOfOutdatedTextsAreNotReported) {
-  const BookMark marks[] = {{1, 7}};
-  Engine->Speaker(1)->SpeakNow("one", marks);
-  First->Texts[0].Ticket.ReachMark(7);
-  EXPECT_EQ(Reports(), Texts{"mark 7 of 1"});
-  First->Texts[0].Ticket.ReachMark(8);
+  First.Holds = true;
+  Engine->Speaker(1)->SpeakNow("one");
+  First.NextMark = 7;
+  EXPECT_TRUE(ReachedWithin(Pump, 1s, [&] { return Reports() == Texts{"mark 7 of 1"}; }));
+  First.NextMark = 8;
+  while (First.NextMark != 0) std::this_thread::sleep_for(1ms);
+  std::this_thread::sleep_for(5ms);  // it is on its way, and not delivered yet
   Engine->Speaker(1)->SpeakNow("two");
+  EXPECT_TRUE(Played(First, {"first1: one", "first1: two"}));
   EXPECT_EQ(Reports(), Texts{"mark 7 of 1"});
 }
 
 TEST_F(SpeechListTest, NothingReachesWhatIsGone) {
-  Engine->Speaker(2)->SpeakNow("one");
-  First->Texts[0].Ticket.ReachMark(1);
+  First.Holds = true;
+  const auto reachMark = [this] {
+    Engine->Speaker(2)->SpeakNow("text");
+    First.NextMark = 1;
+    while (First.NextMark != 0) std::this_thread::sleep_for(1ms);
+    std::this_thread::sleep_for(5ms);
+  };
+  reachMark();
   Engine.reset();
-  EXPECT_EQ(First->All(), "");
   EXPECT_EQ(Reports(), Texts{});
 
-  Engine = List->Open(1);
-  Engine->Speaker(2)->SpeakNow("two");
-  First->Texts[0].Ticket.ReachMark(1);
+  Open();
+  reachMark();
   List->SetListener(nullptr);
   List->SetListener(Listener.get());
   EXPECT_EQ(Reports(), Texts{});
 
-  First->Texts[0].Ticket.ReachMark(1);
-  First->Links.VoicesChanged();
+  reachMark();
   List.reset();
   EXPECT_EQ(Reports(), Texts{});
   Engine->Speaker(2)->SpeakNow("the list is gone");
@@ -132,30 +211,60 @@ TEST_F(SpeechListTest, NothingReachesWhatIsGone) {
 }
 
 TEST_F(SpeechListTest, ABackEndThatFailsHandsItsTextsOn) {
-  TtsSpeaker* speaker = Engine->Speaker(2);
-  speaker->SpeakQueued("one");
-  speaker->SpeakQueued("two");
-  First->Links.HandBack(std::exchange(First->Texts, {}));
-  speaker->SpeakQueued("three");
-  EXPECT_EQ(Second->All(), "one|two|three|");
-  EXPECT_EQ(Reports(), Texts{});
-  First->Up = true;
-  speaker->SpeakNow("back");
-  EXPECT_EQ(First->All() + Second->All(), "back|");
+  First.Fails = true;
+  const BookMark marks[] = {{0, 1}, {4, 2}};
+  Engine->Speaker(2)->SpeakQueued("one two", marks);
+  Engine->Speaker(2)->SpeakQueued("three");
+  EXPECT_TRUE(Played(Second, {"first1: two", "first1: e"}));
+  First.Fails = false;
+  Engine->Speaker(2)->SpeakNow("back");
+  EXPECT_TRUE(Played(First, {"first1: back"}));
+  EXPECT_TRUE(Idle());
+  First.Fails = Second.Fails = true;
+  Engine->Speaker(2)->SpeakNow("nobody");
+  EXPECT_TRUE(Idle());
 }
 
-TEST_F(SpeechListTest, WithNoBackEndLeftThereIsSilence) {
-  First->Up = Second->Up = false;
-  Engine->Speaker(2)->SpeakNow("one");
-  EXPECT_FALSE(Engine->Busy());
-  EXPECT_EQ(Reports(), Texts{"stopped 2"});
+TEST_F(SpeechListTest, ASlowStartHoldsNobodyUpAndTheChosenVoiceSpeaks) {
+  List.reset();
+  First.Silent = true;
+  First.ListsMore = false;
+  Make();
+  EXPECT_LT(TimeOf([&] {
+              Open("first1");
+              EXPECT_TRUE(List->Engines().empty());
+              Engine->Speaker(2)->SpeakNow("one");
+              Engine->Speaker(2)->SpeakQueued("two");
+            }),
+            Prompt);
+  EXPECT_TRUE(Engine->Busy());
+  First.Silent = false;
+  EXPECT_TRUE(Played(First, {"first1: one", "first1: two"}));
+}
+
+TEST_F(SpeechListTest, AVoiceThatIsFoundLaterIsTakenWithTheNextTextThatInterrupts) {
+  Open("first2");
+  First.Holds = true;
+  Engine->Speaker(2)->SpeakNow("a reading");
+  ASSERT_TRUE(Played(First, {"first1: a reading"}));
+  Engine->Speaker(2)->SpeakQueued("its end");
+  First.Holds = false;
+  First.ListsMore = true;
+  ASSERT_TRUE(ReachedWithin(Pump, 2s, [&] { return List->Engines().size() == 2; }));
+  EXPECT_TRUE(Played(First, {"first1: a reading", "first1: its end"}));
+  Engine->Speaker(2)->SpeakQueued("more of it");
+  Engine->Speaker(2)->SpeakQueued("still more");
+  EXPECT_TRUE(Idle());
+  Engine->Speaker(2)->SpeakNow("a key");
+  EXPECT_TRUE(Played(First, {"first1: a reading", "first1: its end", "first1: more of it",
+                             "first1: still more", "first2: a key"}));
 }
 
 TEST(SpeechBackEnds, OffIsAnEmptyList) {
   TestPump pump;
   const auto list = MakeSpeech(SpeechChoice::Off, pump);
-  EXPECT_EQ(list->Count(), 0);
-  EXPECT_EQ(list->Open(1), nullptr);
+  EXPECT_TRUE(list->Engines().empty());
+  EXPECT_EQ(list->Open([](const auto&) { return 1; }), nullptr);
 }
 
 }  // namespace

@@ -86,13 +86,21 @@ milliseconds TimeOf(const std::function<void()>& call) {
   return std::chrono::duration_cast<milliseconds>(Ticks::now() - start);
 }
 
-int FindEngine(const TTS& list, const std::string& manufacturer, const std::string& voice) {
-  const int count = list.Count();
-  for (int i = 1; i <= count; ++i) {
-    const TtsEngineInfo item = list.Item(i);
-    if (item.Manufacturer == manufacturer && (voice.empty() || item.VoiceName == voice)) return i;
-  }
-  return 0;
+TtsChooser Named(const std::string& manufacturer, const std::string& voice) {
+  return [=](const std::vector<TtsEngineInfo>& engines) {
+    for (std::size_t i = 0; i < engines.size(); ++i) {
+      if (engines[i].Manufacturer == manufacturer && (voice.empty() || engines[i].VoiceName == voice))
+        return int(i) + 1;
+    }
+    return 0;
+  };
+}
+
+std::optional<TtsEngineInfo> Find(const TTS& list, const std::string& manufacturer,
+                                  const std::string& voice) {
+  const std::vector<TtsEngineInfo> engines = list.Engines();
+  const int index = Named(manufacturer, voice)(engines);
+  return index > 0 ? std::optional(engines[std::size_t(index) - 1]) : std::nullopt;
 }
 
 TestEnvironment::~TestEnvironment() {
@@ -139,6 +147,7 @@ PrivateSound::PrivateSound(const PrivateDesktop& desktop)
           " -L 'module-null-sink sink_name=null rate=48000 channels=2 norewinds=1'") &&
       Run("command -v parec");
   if (!IsReady) return;
+  std::filesystem::remove(Recording);  // of a server before
   const std::string record =
       "timeout 300 parec --device=null.monitor --format=s16le --channels=1 --latency-msec=20 --rate=" +
       std::to_string(RecordedRate) + " > " + Recording + " & echo $! > " + Folder;
@@ -170,7 +179,11 @@ int PrivateSound::LoudestOfLast(milliseconds span) const {
   return loudest;
 }
 
-PrivateSpeechServer::PrivateSpeechServer(const PrivateDesktop& desktop) : Folder(desktop.Folder()) {
+PrivateSpeechServer::PrivateSpeechServer(PrivateDesktop& desktop) : Folder(desktop.Folder()) {
+  const std::string program = Folder + "/server";
+  std::ofstream(program) << "#!/bin/sh\nexec speech-dispatcher \"$@\"\n";
+  std::filesystem::permissions(program, std::filesystem::perms::owner_all);
+  desktop.Environment().Set("SPEECHD_CMD", program);
   const std::string settings = Folder + "/.config/speech-dispatcher";
   std::filesystem::create_directories(settings + "/modules");
   std::ofstream(settings + "/speechd.conf") << "LogLevel 1\nTimeout 2\n"
@@ -198,12 +211,12 @@ std::string PrivateSpeechServer::Spoken() const {
   return spoken;
 }
 
-bool PrivateSpeechServer::Running() const {
-  return PidIn(Folder + "/speech-dispatcher/pid/speech-dispatcher.pid") > 1;
-}
-
 void PrivateSpeechServer::Signal(int signal) const {
   SendSignal(Folder + "/speech-dispatcher/pid/speech-dispatcher.pid", signal);
+}
+
+void PrivateSpeechServer::Remove() const {
+  std::filesystem::remove(Folder + "/server");
 }
 
 }  // namespace qves

@@ -35,13 +35,12 @@ class TestPump : public EventPump {
 /// Handles events until `reached` holds; false when that takes longer, by the measure of a plain build.
 bool ReachedWithin(TestPump& pump, std::chrono::milliseconds longest, const std::function<bool()>& reached);
 
-/// Remembers reports as texts: "mark 3 of 2", "stopped 2", "list".
+/// Remembers reports as texts: "mark 3 of 2", "stopped 2".
 class TestListener : public TtsListener {
  public:
   explicit TestListener(TtsEngine* engine = nullptr) : Engine(engine) {}
   void BookMarkReached(std::int32_t number, TtsSpeaker& speaker) override;
   void SpeechStopped(TtsSpeaker& speaker) override;
-  void EngineListChanged() override { Reports.push_back("list"); }
   std::vector<std::string> Reports;
 
  private:
@@ -52,8 +51,11 @@ class TestListener : public TtsListener {
 /// How long a call takes.
 std::chrono::milliseconds TimeOf(const std::function<void()>& call);
 
-/// The number of the first engine with this manufacturer and voice ("": any); 0 when there is none.
-int FindEngine(const TTS& list, const std::string& manufacturer, const std::string& voice);
+/// Chooses the first engine with this manufacturer and voice ("": any).
+TtsChooser Named(const std::string& manufacturer, const std::string& voice);
+
+/// What is known of that engine; nothing as long as it is not in the list.
+std::optional<TtsEngineInfo> Find(const TTS& list, const std::string& manufacturer, const std::string& voice);
 
 /// Environment variables for the time of a test.
 class TestEnvironment {
@@ -105,7 +107,7 @@ class PrivateSound {
 /// speaking.
 class PrivateSpeechServer {
  public:
-  explicit PrivateSpeechServer(const PrivateDesktop& desktop);
+  explicit PrivateSpeechServer(PrivateDesktop& desktop);
   ~PrivateSpeechServer();
   PrivateSpeechServer(const PrivateSpeechServer&) = delete;
   PrivateSpeechServer& operator=(const PrivateSpeechServer&) = delete;
@@ -113,8 +115,9 @@ class PrivateSpeechServer {
   static bool Installed();
   /// What has been spoken.
   std::string Spoken() const;
-  bool Running() const;
   void Signal(int signal) const;
+  /// From now on none can be started.
+  void Remove() const;
 
  private:
   std::string Folder;

@@ -1,7 +1,8 @@
 #include "speech/espeak/EspeakVoices.h"
 
+#include <espeak-ng/speak_lib.h>
+
 #include <algorithm>
-#include <chrono>
 #include <tuple>
 
 #include "speech/LanguageIds.h"
@@ -9,7 +10,6 @@
 namespace qves {
 namespace {
 
-constexpr auto LongestWait = std::chrono::milliseconds(500);
 constexpr int NoPriority = 1000;
 
 bool IsVariant(const EspeakVoice& voice) {
@@ -47,12 +47,23 @@ std::string Trimmed(const std::string& text) {
   return text.substr(0, text.find_last_not_of(' ') + 1);
 }
 
-Voice Offered(const EspeakVoice& voice, int backEnd) {
+Voice Offered(const EspeakVoice& voice, const SpeechBackEnd* backEnd) {
   const int id = voice.Languages.empty() ? UnknownLanguageId : LanguageIdOf(voice.Languages.front().second);
   return {{"eSpeak NG", "espeak-ng", Trimmed(voice.Name), id}, voice.Name, backEnd};
 }
 
 }  // namespace
+
+std::vector<EspeakVoice> InstalledVoices() {
+  std::vector<EspeakVoice> voices;
+  const espeak_VOICE** list = espeak_ListVoices(nullptr);
+  for (; list && *list; ++list) {
+    const espeak_VOICE& voice = **list;
+    if (voice.name && voice.identifier)
+      voices.push_back({voice.name, voice.identifier, UnpackLanguages(voice.languages)});
+  }
+  return voices;
+}
 
 std::vector<std::pair<int, std::string>> UnpackLanguages(const char* packed) {
   std::vector<std::pair<int, std::string>> languages;
@@ -65,7 +76,7 @@ std::vector<std::pair<int, std::string>> UnpackLanguages(const char* packed) {
 }
 
 std::vector<Voice> OfferedVoices(const std::vector<EspeakVoice>& all, std::string_view desktopLanguage,
-                                 int backEnd) {
+                                 const SpeechBackEnd* backEnd) {
   std::vector<const EspeakVoice*> order;
   for (const EspeakVoice& voice : all) {
     if (!IsVariant(voice)) order.push_back(&voice);
@@ -76,31 +87,6 @@ std::vector<Voice> OfferedVoices(const std::vector<EspeakVoice>& all, std::strin
   std::vector<Voice> offered;
   for (const EspeakVoice* voice : order) offered.push_back(Offered(*voice, backEnd));
   return offered;
-}
-
-EspeakVoiceBox::EspeakVoiceBox(std::function<void()> changed) : Changed(std::move(changed)) {}
-
-void EspeakVoiceBox::Fill(std::vector<Voice> list) {
-  bool late = false;
-  {
-    const std::lock_guard lock(Mutex);
-    Voices = std::move(list);
-    Filled = true;
-    late = Missed;
-  }
-  FilledChanged.notify_all();
-  if (late) Changed();
-}
-
-std::vector<Voice> EspeakVoiceBox::Wait() {
-  std::unique_lock lock(Mutex);
-  if (!Missed) Missed = !FilledChanged.wait_for(lock, LongestWait, [this] { return Filled; });
-  return Voices;
-}
-
-bool EspeakVoiceBox::Failed() const {
-  const std::lock_guard lock(Mutex);
-  return Filled && Voices.empty();
 }
 
 }  // namespace qves

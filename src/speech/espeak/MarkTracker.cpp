@@ -6,22 +6,21 @@
 
 namespace qves {
 
-MarkTracker::MarkTracker(const Utterance& text)
-    : Text(text), Positions(CharacterPositions(text.Text, text.Marks)) {}
+MarkTracker::MarkTracker(const Utterance& text, const Playing& playing)
+    : Marks(text.Marks), Now(playing), Positions(CharacterPositions(text.Text, text.Marks)) {}
 
 void MarkTracker::Meet(int characterPosition, std::int64_t sample) {
   while (Unmet < Positions.size() && Positions[Unmet] + 1 <= std::size_t(characterPosition))
-    Met.push_back({sample, Text.Marks[Unmet++].Number});
+    Met.push_back({sample, Marks[Unmet++].Number});
 }
 
 void MarkTracker::Heard(std::int64_t sample) {
-  for (; !Met.empty() && Met.front().Sample <= sample; Met.pop_front())
-    Text.Ticket.ReachMark(Met.front().Number);
+  for (; !Met.empty() && Met.front().Sample <= sample; Met.pop_front()) Now.ReachMark(Met.front().Number);
 }
 
 void MarkTracker::HeardAll() {
   Heard(std::numeric_limits<std::int64_t>::max());
-  while (Unmet < Positions.size()) Text.Ticket.ReachMark(Text.Marks[Unmet++].Number);
+  while (Unmet < Positions.size()) Now.ReachMark(Marks[Unmet++].Number);
 }
 
 }  // namespace qves

@@ -7,7 +7,7 @@
 #include <deque>
 #include <vector>
 
-#include "speech/Utterance.h"
+#include "speech/SpeechBackEnd.h"
 
 namespace qves {
 
@@ -16,7 +16,7 @@ namespace qves {
 /// heard.
 class MarkTracker {
  public:
-  explicit MarkTracker(const Utterance& text);
+  MarkTracker(const Utterance& text, const Playing& playing);
   /// The word or sentence that begins at a character (from 1) has its first sample at `sample`.
   void Meet(int characterPosition, std::int64_t sample);
   /// All samples up to this one have been heard.
@@ -32,7 +32,8 @@ class MarkTracker {
     std::int32_t Number;
   };
 
-  const Utterance& Text;
+  const std::vector<BookMark>& Marks;
+  const Playing& Now;
   std::vector<std::size_t> Positions;  // of the text's marks, in characters
   std::size_t Unmet = 0;               // the first mark that is not in Met yet
   std::deque<MetMark> Met;

@@ -7,16 +7,16 @@
 #include <cstdint>
 #include <span>
 
-#include "speech/SpeechWorker.h"
+#include "speech/SpeechBackEnd.h"
 #include "speech/espeak/MarkTracker.h"
-#include "speech/espeak/PulseStream.h"
+#include "speech/sound/SoundStream.h"
 
 namespace qves {
 
 /// Speaks within its one call; the library's callback leads here by the text's user data.
-class StreamPlayback {
+class EspeakPlayback {
  public:
-  StreamPlayback(PulseStream& stream, int samplesPerSecond, const Utterance& text, PlayControl& control);
+  EspeakPlayback(SoundStream& stream, int samplesPerSecond, const Utterance& text, Playing& playing);
   /// Returns when the text has been heard, after a pause before it, or is interrupted, or the stream has
   /// failed: then false.
   bool Run(std::chrono::milliseconds pauseBefore);
@@ -29,14 +29,14 @@ class StreamPlayback {
   std::span<const std::int16_t> WithoutLead(std::span<const std::int16_t> samples);
   void NoteEvents(const espeak_EVENT* events);
   bool WaitUntilHeard();
-  void Pause(std::uint64_t seen);
+  void Pause();
   std::int64_t Played();
   bool Stalled();
 
-  PulseStream& Stream;
+  SoundStream& Stream;
   int Rate;
   const Utterance& Text;
-  PlayControl& Control;
+  Playing& Now;
   MarkTracker Marks;
   std::int64_t Written = 0;  // samples
   std::int64_t Lead = 0;     // samples of silence that were left out, less those put before
@@ -44,7 +44,7 @@ class StreamPlayback {
   bool Audible = false;
   bool Broken = false;  // the output has failed
   std::int64_t LastPlayed = -1;
-  SteadyClock::time_point LastProgress = SteadyClock::now();
+  TimePoint LastProgress = SteadyClock::now();
 };
 
 }  // namespace qves

@@ -1,4 +1,4 @@
-#include "speech/espeak/SoundDevice.h"
+#include "speech/sound/SoundDevice.h"
 
 #include <algorithm>
 #include <cstdlib>

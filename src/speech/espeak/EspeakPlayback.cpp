@@ -1,4 +1,4 @@
-#include "speech/espeak/StreamPlayback.h"
+#include "speech/espeak/EspeakPlayback.h"
 
 #include <algorithm>
 #include <chrono>
@@ -21,50 +21,50 @@ bool IsAudible(std::int16_t sample) {
 
 }  // namespace
 
-StreamPlayback::StreamPlayback(PulseStream& stream, int samplesPerSecond, const Utterance& text,
-                               PlayControl& control)
+EspeakPlayback::EspeakPlayback(SoundStream& stream, int samplesPerSecond, const Utterance& text,
+                               Playing& playing)
     : Stream(stream),
       Rate(samplesPerSecond),
       Text(text),
-      Control(control),
-      Marks(text),
+      Now(playing),
+      Marks(text, playing),
       LeadLeft(std::int64_t(samplesPerSecond) * LongestLeadMilliseconds / 1000) {}
 
-bool StreamPlayback::Run(milliseconds pauseBefore) {
+bool EspeakPlayback::Run(milliseconds pauseBefore) {
   Stream.Restart();
   const std::vector<std::int16_t> pause(std::size_t(Rate * pauseBefore.count() / 1000));
   Lead = -std::int64_t(pause.size());
   WriteAll(pause);
   espeak_Synth(Text.Text.c_str(), Text.Text.size() + 1, 0, POS_CHARACTER, 0, espeakCHARS_UTF8, nullptr, this);
   const bool heard = !Broken && WaitUntilHeard();
-  if (Control.Interrupted() || !heard)
+  if (Now.Stopped() || !heard)
     Stream.Flush();
   else
     Marks.HeardAll();
   return heard;
 }
 
-int StreamPlayback::Receive(short* samples, int count, espeak_EVENT* events) {
-  auto* self = static_cast<StreamPlayback*>(events->user_data);
+int EspeakPlayback::Receive(short* samples, int count, espeak_EVENT* events) {
+  auto* self = static_cast<EspeakPlayback*>(events->user_data);
   if (!self) return 1;
   const std::size_t length = samples && count > 0 ? std::size_t(count) : 0;
   return self->Take({samples, length}, events) ? 0 : 1;
 }
 
-bool StreamPlayback::Take(std::span<const std::int16_t> samples, const espeak_EVENT* events) {
+bool EspeakPlayback::Take(std::span<const std::int16_t> samples, const espeak_EVENT* events) {
   NoteEvents(events);
-  Broken = !WriteAll(WithoutLead(samples)) && !Control.Interrupted();
-  return !Broken && !Control.Interrupted();
+  Broken = !WriteAll(WithoutLead(samples)) && !Now.Stopped();
+  return !Broken && !Now.Stopped();
 }
 
-void StreamPlayback::NoteEvents(const espeak_EVENT* events) {
+void EspeakPlayback::NoteEvents(const espeak_EVENT* events) {
   for (; events->type != espeakEVENT_LIST_TERMINATED; ++events) {
     if (TellsPosition(*events)) Marks.Meet(events->text_position, events->sample);
   }
 }
 
 // The silence before the first sound would only delay it.
-std::span<const std::int16_t> StreamPlayback::WithoutLead(std::span<const std::int16_t> samples) {
+std::span<const std::int16_t> EspeakPlayback::WithoutLead(std::span<const std::int16_t> samples) {
   if (Audible) return samples;
   const auto first = std::find_if(samples.begin(), samples.end(), IsAudible);
   const std::int64_t silent = std::min<std::int64_t>(first - samples.begin(), LeadLeft);
@@ -74,14 +74,14 @@ std::span<const std::int16_t> StreamPlayback::WithoutLead(std::span<const std::i
   return samples.subspan(std::size_t(silent));
 }
 
-bool StreamPlayback::WriteAll(std::span<const std::int16_t> samples) {
+bool EspeakPlayback::WriteAll(std::span<const std::int16_t> samples) {
   while (!samples.empty()) {
-    const std::uint64_t seen = Control.Wake.Count();
-    if (Control.Interrupted()) return false;
+    Now.Changed.Clear();
+    if (Now.Stopped()) return false;
     const std::size_t now = std::min(samples.size(), Stream.Room());
     if (now == 0) {
       if (!Stream.Alive() || Stalled()) return false;
-      Pause(seen);
+      Pause();
       continue;
     }
     Stream.Write(samples.first(now));
@@ -91,32 +91,31 @@ bool StreamPlayback::WriteAll(std::span<const std::int16_t> samples) {
   return true;
 }
 
-bool StreamPlayback::WaitUntilHeard() {
-  while (!Control.Interrupted()) {
-    const std::uint64_t seen = Control.Wake.Count();
-    if (Played() >= Written) return true;
+bool EspeakPlayback::WaitUntilHeard() {
+  while (true) {
+    Now.Changed.Clear();
+    if (Now.Stopped() || Played() >= Written) return true;
     if (!Stream.Alive() || Stalled()) return false;
-    Pause(seen);
+    Pause();
   }
-  return true;
 }
 
 // Until something happens, or the next mark or the end is due.
-void StreamPlayback::Pause(std::uint64_t seen) {
+void EspeakPlayback::Pause() {
   const std::int64_t played = Played();
   Marks.Heard(played + Lead);
   const std::int64_t due = Marks.Next() >= 0 ? std::min(Written, Marks.Next() - Lead) : Written;
   const auto wait =
       microseconds(std::max<std::int64_t>(due - played, 0) * 1'000'000 / Rate) + milliseconds(1);
-  Control.Wake.WaitFor(seen, std::min<SteadyClock::duration>(wait, LongestPause));
+  Stream.Wait(SteadyClock::now() + std::min<SteadyClock::duration>(wait, LongestPause));
 }
 
-std::int64_t StreamPlayback::Played() {
+std::int64_t EspeakPlayback::Played() {
   const auto unheard = Stream.Unheard();
   return unheard ? std::max<std::int64_t>(Written - *unheard, 0) : 0;
 }
 
-bool StreamPlayback::Stalled() {
+bool EspeakPlayback::Stalled() {
   const std::int64_t played = Played();
   const auto now = SteadyClock::now();
   if (played > LastPlayed) LastProgress = now;

@@ -1,11 +1,14 @@
-#include "speech/espeak/PulseStream.h"
+#include "speech/sound/PulseStream.h"
+
+#include <algorithm>
 
 namespace qves {
 namespace {
 
 constexpr std::size_t SampleSize = sizeof(std::int16_t);
 constexpr int ServerBufferMilliseconds = 250;
-constexpr int RequestMilliseconds = 10;  // also the delay that the server aims at
+constexpr int RequestMilliseconds = 10;           // also the delay that the server aims at
+constexpr std::int64_t LongestWait = 60'000'000;  // microseconds
 
 std::uint32_t BytesFor(int milliseconds, int rate) {
   return std::uint32_t(std::int64_t(rate) * milliseconds / 1000) * std::uint32_t(SampleSize);
@@ -18,69 +21,57 @@ void Forget(pa_operation* operation) {
 
 }  // namespace
 
-class PulseStream::Lock {
- public:
-  explicit Lock(pa_threaded_mainloop* loop) : Loop(loop) {
-    if (Loop) pa_threaded_mainloop_lock(Loop);
-  }
-  ~Lock() {
-    if (Loop) pa_threaded_mainloop_unlock(Loop);
-  }
-  Lock(const Lock&) = delete;
-  Lock& operator=(const Lock&) = delete;
-
- private:
-  pa_threaded_mainloop* Loop;
-};
-
-PulseStream::PulseStream(Signal& wake, int samplesPerSecond) : Wake(wake), Rate(samplesPerSecond) {}
+PulseStream::PulseStream(Wake& changed, int samplesPerSecond)
+    : Rate(samplesPerSecond), Loop(pa_mainloop_new()) {
+  const auto nothing = [](pa_mainloop_api*, pa_io_event*, int, pa_io_event_flags_t, void*) {};
+  pa_mainloop_api* api = pa_mainloop_get_api(Loop);
+  Woken = api->io_new(api, changed.Descriptor(), PA_IO_EVENT_NULL, nothing, nullptr);
+}
 
 PulseStream::~PulseStream() {
-  Disconnect();
-  if (!Loop) return;
-  pa_threaded_mainloop_stop(Loop);
-  pa_threaded_mainloop_free(Loop);
+  Close();
+  pa_mainloop_get_api(Loop)->io_free(Woken);
+  pa_mainloop_free(Loop);
 }
 
-bool PulseStream::StartLoop() {
-  if (Loop) return true;
-  Loop = pa_threaded_mainloop_new();
-  if (Loop && pa_threaded_mainloop_start(Loop) < 0) {
-    pa_threaded_mainloop_free(Loop);
-    Loop = nullptr;
-  }
-  return Loop != nullptr;
+void PulseStream::SendAndReceive() {
+  while (pa_mainloop_iterate(Loop, 0, nullptr) > 0) continue;
 }
 
+void PulseStream::Wait(TimePoint deadline) {
+  const pa_mainloop_api* api = pa_mainloop_get_api(Loop);
+  api->io_enable(Woken, PA_IO_EVENT_INPUT);
+  WaitForServer(deadline);
+  api->io_enable(Woken, PA_IO_EVENT_NULL);
+}
+
+void PulseStream::WaitForServer(TimePoint deadline) {
+  const auto left = std::chrono::ceil<std::chrono::microseconds>(deadline - SteadyClock::now()).count();
+  if (pa_mainloop_prepare(Loop, int(std::clamp<std::int64_t>(left, 0, LongestWait))) >= 0 &&
+      pa_mainloop_poll(Loop) >= 0)
+    pa_mainloop_dispatch(Loop);
+}
+
+// A server that has not answered in time is not waited for again: it is used as soon as it has answered.
 PulseStream::Link PulseStream::Connect(std::chrono::milliseconds longest) {
-  if (Alive()) return Link::Ready;
-  Disconnect();
-  if (!StartLoop() || !Begin()) return Link::NoServer;
-  const auto deadline = SteadyClock::now() + longest;
-  while (true) {
-    const std::uint64_t seen = Wake.Count();
-    const Link state = State();
-    if (state == Link::Ready) return state;
-    if (state == Link::NoServer || SteadyClock::now() >= deadline) {
-      Disconnect();
-      return state;
-    }
-    Wake.Wait(seen, deadline);
-  }
+  SendAndReceive();
+  if (State() == Link::NoServer) Close();
+  const TimePoint deadline = SteadyClock::now() + (Context ? std::chrono::milliseconds(0) : longest);
+  if (!Context && !Begin()) return Link::NoServer;
+  while (State() == Link::NoAnswer && SteadyClock::now() < deadline) WaitForServer(deadline);
+  return State();
 }
 
 bool PulseStream::Begin() {
-  const Lock lock(Loop);
-  Context = pa_context_new(pa_threaded_mainloop_get_api(Loop), "qvescalc");
+  Context = pa_context_new(pa_mainloop_get_api(Loop), "qvescalc");
   if (!Context) return false;
-  pa_context_set_state_callback(Context, ContextChanged, this);
   // Starting a server is the desktop's affair.
   return pa_context_connect(Context, nullptr, PA_CONTEXT_NOAUTOSPAWN, nullptr) >= 0;
 }
 
 // NoAnswer: not decided yet.
 PulseStream::Link PulseStream::State() {
-  const Lock lock(Loop);
+  if (!Context) return Link::NoServer;
   if (!PA_CONTEXT_IS_GOOD(pa_context_get_state(Context))) return Link::NoServer;
   if (pa_context_get_state(Context) != PA_CONTEXT_READY) return Link::NoAnswer;
   if (!Stream && !OpenStream()) return Link::NoServer;
@@ -96,8 +87,6 @@ bool PulseStream::OpenStream() {
   Stream = pa_stream_new_with_proplist(Context, "speech", &format, nullptr, properties);
   pa_proplist_free(properties);
   if (!Stream) return false;
-  pa_stream_set_state_callback(Stream, StreamChanged, this);
-  pa_stream_set_write_callback(Stream, RoomChanged, this);
   pa_buffer_attr buffers;
   buffers.maxlength = std::uint32_t(-1);
   buffers.tlength = BytesFor(ServerBufferMilliseconds, Rate);
@@ -110,16 +99,12 @@ bool PulseStream::OpenStream() {
   return pa_stream_connect_playback(Stream, nullptr, &buffers, flags, nullptr, nullptr) >= 0;
 }
 
-void PulseStream::Disconnect() {
-  const Lock lock(Loop);
+void PulseStream::Close() {
   if (Stream) {
-    pa_stream_set_state_callback(Stream, nullptr, nullptr);
-    pa_stream_set_write_callback(Stream, nullptr, nullptr);
     pa_stream_disconnect(Stream);
     pa_stream_unref(Stream);
   }
   if (Context) {
-    pa_context_set_state_callback(Context, nullptr, nullptr);
     pa_context_disconnect(Context);
     pa_context_unref(Context);
   }
@@ -128,12 +113,11 @@ void PulseStream::Disconnect() {
 }
 
 bool PulseStream::Alive() {
-  const Lock lock(Loop);
+  SendAndReceive();
   return Stream && pa_stream_get_state(Stream) == PA_STREAM_READY;
 }
 
 void PulseStream::Restart() {
-  const Lock lock(Loop);
   if (!Stream) return;
   Restarted = true;
   Burst = BytesFor(ServerBufferMilliseconds, Rate);
@@ -141,22 +125,22 @@ void PulseStream::Restart() {
 }
 
 void PulseStream::Flush() {
-  const Lock lock(Loop);
   if (Stream) Forget(pa_stream_flush(Stream, nullptr, nullptr));
+  SendAndReceive();
 }
 
-void PulseStream::Cork() {
-  const Lock lock(Loop);
+void PulseStream::Sleep() {
   if (Stream) SetCorked(true);
 }
 
 void PulseStream::SetCorked(bool wanted) {
-  if (Corked != wanted) Forget(pa_stream_cork(Stream, wanted, nullptr, nullptr));
+  if (Corked == wanted) return;
   Corked = wanted;
+  Forget(pa_stream_cork(Stream, wanted, nullptr, nullptr));
+  SendAndReceive();
 }
 
 std::size_t PulseStream::Room() {
-  const Lock lock(Loop);
   if (!Stream) return 0;
   if (Burst > 0) return Burst / SampleSize;
   const std::size_t bytes = pa_stream_writable_size(Stream);
@@ -164,7 +148,6 @@ std::size_t PulseStream::Room() {
 }
 
 void PulseStream::Write(std::span<const std::int16_t> samples) {
-  const Lock lock(Loop);
   if (!Stream) return;
   const std::size_t bytes = samples.size_bytes();
   // After a silence the server's place for new samples lies in the past.
@@ -172,27 +155,15 @@ void PulseStream::Write(std::span<const std::int16_t> samples) {
   pa_stream_write(Stream, samples.data(), bytes, nullptr, 0, place);
   if (Restarted) Forget(pa_stream_update_timing_info(Stream, nullptr, nullptr));
   Restarted = false;
-  Burst -= bytes < Burst ? bytes : Burst;
+  Burst -= std::min(bytes, Burst);
+  SendAndReceive();
 }
 
 std::optional<std::int64_t> PulseStream::Unheard() {
-  const Lock lock(Loop);
   pa_usec_t latency = 0;
   int negative = 0;
   if (!Stream || pa_stream_get_latency(Stream, &latency, &negative) < 0) return std::nullopt;
   return negative ? 0 : std::int64_t(latency) * Rate / 1'000'000;
-}
-
-void PulseStream::ContextChanged(pa_context*, void* self) {
-  static_cast<PulseStream*>(self)->Wake.Notify();
-}
-
-void PulseStream::StreamChanged(pa_stream*, void* self) {
-  static_cast<PulseStream*>(self)->Wake.Notify();
-}
-
-void PulseStream::RoomChanged(pa_stream*, std::size_t, void* self) {
-  static_cast<PulseStream*>(self)->Wake.Notify();
 }
 
 }  // namespace qves
