@@ -3,16 +3,16 @@
 
 #include "FakePlatform.h"
 #include "app/CalculatorApp.h"
-#include "engine/Numbers.h"
+#include "formulas/Numbers.h"
 #include "model/ArithmeticFault.h"
 #include "services/AppSettings.h"
 #include "services/ServiceSet.h"
 #include "views/MenuIds.h"
-#include "views/business/Amortization.h"
-#include "views/business/Annuity.h"
-#include "views/business/Bonds.h"
-#include "views/business/CashFlows.h"
-#include "views/scientific/NumberBases.h"
+#include "formulas/Amortization.h"
+#include "formulas/Annuity.h"
+#include "formulas/Bonds.h"
+#include "formulas/CashFlows.h"
+#include "formulas/NumberBases.h"
 #include "views/statistics/StatisticsEngine.h"
 
 namespace qves {

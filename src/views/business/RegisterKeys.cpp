@@ -1,8 +1,8 @@
 // The register keys with their prefixes, and the exchange key.
-#include "engine/Numbers.h"
+#include "formulas/MoneyText.h"
+#include "formulas/Numbers.h"
 #include "services/Text.h"
 #include "views/business/BusinessEngine.h"
-#include "views/business/MoneyText.h"
 
 namespace qves {
 
@@ -86,7 +86,7 @@ void BusinessEngine::Store(const RegisterRow& row) {
   else if (row.Day)
     Registers.*row.Day = ParseDateNumber(EntryText, Modes.NamesOfDates());
   else
-    Registers.*row.Number = CurrentValue / row.Scale;
+    Registers.*row.Number = Checked(CurrentValue / row.Scale);
   FinishKey(Fin);
   Says.Say(FillPlaceholders(Says.Message(StoredMessage), {RegisterName()}));
 }

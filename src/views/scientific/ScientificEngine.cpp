@@ -3,11 +3,11 @@
 #include <cmath>
 #include <utility>
 
-#include "engine/Numbers.h"
+#include "formulas/Numbers.h"
+#include "formulas/SciFormat.h"
+#include "formulas/Trigonometry.h"
 #include "model/ArithmeticFault.h"
-#include "views/scientific/SciFormat.h"
 #include "views/scientific/ScientificOperators.h"
-#include "views/scientific/Trigonometry.h"
 
 namespace qves {
 
@@ -147,7 +147,7 @@ void ScientificEngine::ChangeBase(int base) {
   if (ErrorState) return;
   if (std::exchange(ExponentEntry, false)) EntryText = NumberToText(CurrentValue);
   // The number itself: its new text, if short, may mean a negative one.
-  if (from == NumberBase::Decimal) CurrentValue = std::trunc(TextToNumber(EntryText));
+  if (from == NumberBase::Decimal) CurrentValue = Checked(std::trunc(TextToNumber(EntryText)));
   EntryText = ConvertBase(from, base, EntryText);
   Show();
   LastAction = Uop;

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "engine/EntryEngine.h"
-#include "views/scientific/NumberBases.h"
+#include "formulas/NumberBases.h"
 
 namespace qves {
 

@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "platform/Spreadsheet.h"
-#include "views/statistics/Descriptive.h"
+#include "formulas/Descriptive.h"
 
 namespace qves {
 
