@@ -44,7 +44,7 @@ AmortizedPart Amortize(double rate, double periods, double loan, int payments) {
   if (payments == 0) return {};
   if (payments > periods) throw ArithmeticFault("more payments than the loan has");
   return {Checked(loan * RepaidShare(rate, periods, payments)),
-          Checked(loan * rate * OwedTogether(rate, periods, payments))};
+          Checked(Real{loan} * rate * OwedTogether(rate, periods, payments))};
 }
 
 }  // namespace qves
