@@ -3,16 +3,16 @@
 
 #include "FakePlatform.h"
 #include "app/CalculatorApp.h"
-#include "formulas/Numbers.h"
-#include "model/ArithmeticFault.h"
-#include "services/AppSettings.h"
-#include "services/ServiceSet.h"
-#include "views/MenuIds.h"
 #include "formulas/Amortization.h"
 #include "formulas/Annuity.h"
 #include "formulas/Bonds.h"
 #include "formulas/CashFlows.h"
 #include "formulas/NumberBases.h"
+#include "formulas/Numbers.h"
+#include "model/ArithmeticFault.h"
+#include "services/AppSettings.h"
+#include "services/ServiceSet.h"
+#include "views/MenuIds.h"
 #include "views/statistics/StatisticsEngine.h"
 
 namespace qves {

@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "platform/Spreadsheet.h"
 #include "formulas/Descriptive.h"
+#include "platform/Spreadsheet.h"
 
 namespace qves {
 
