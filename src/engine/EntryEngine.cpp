@@ -1,6 +1,6 @@
 #include "engine/EntryEngine.h"
 
-#include "engine/Numbers.h"
+#include "formulas/Numbers.h"
 #include "model/ArithmeticFault.h"
 
 namespace qves {

@@ -3,7 +3,7 @@
 #include <string>
 
 #include "engine/EntryEngine.h"
-#include "engine/Numbers.h"
+#include "formulas/Numbers.h"
 
 namespace qves {
 

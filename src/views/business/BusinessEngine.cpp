@@ -1,8 +1,8 @@
 #include "views/business/BusinessEngine.h"
 
-#include "engine/Numbers.h"
+#include "formulas/MoneyText.h"
+#include "formulas/Numbers.h"
 #include "views/business/BusinessOperators.h"
-#include "views/business/MoneyText.h"
 
 namespace qves {
 

@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "views/business/Dates.h"
+#include "formulas/Dates.h"
 
 namespace qves {
 

@@ -2,13 +2,13 @@
 // to stay only when that has not failed.
 #include <cmath>
 
-#include "engine/Numbers.h"
-#include "views/business/Amortization.h"
-#include "views/business/Bonds.h"
+#include "formulas/Amortization.h"
+#include "formulas/Bonds.h"
+#include "formulas/CashFlows.h"
+#include "formulas/Depreciation.h"
+#include "formulas/Numbers.h"
 #include "views/business/BusinessEngine.h"
 #include "views/business/BusinessOperators.h"
-#include "views/business/CashFlows.h"
-#include "views/business/Depreciation.h"
 
 namespace qves {
 namespace {
@@ -51,7 +51,7 @@ double BusinessEngine::FindInterest(double) {
 }
 
 double BusinessEngine::FindNPV(double) {
-  return Checked(rtcNPV(Now.Registers.I, Now.Registers.CashFlows) + Now.Registers.CF0);
+  return rtcNPV(Now.Registers.I, Now.Registers.CF0, Now.Registers.CashFlows);
 }
 
 double BusinessEngine::FindIRR(double) {
@@ -76,12 +76,12 @@ double BusinessEngine::FindDecliningBalance(double year) {
 /// to a whole one, where a solved one is rounded up, and the chosen timing counts for it alone: wanted so.
 double BusinessEngine::FindAmortization(double payments) {
   FinancialRegisters& r = Now.Registers;
-  if (r.N == 0) r.N = std::trunc(SolvedPeriods());
+  if (r.N == 0) r.N = Checked(std::trunc(SolvedPeriods()));
   const AmortizedPart part = Amortize(r.I, r.N, r.PV, ToInt16(payments));
   r.N -= payments;
   r.PV -= part.Principal;
-  Now.AmortPrincipal = -part.Principal;
-  Now.AmortInterest = -part.Interest;
+  Now.AmortPrincipal = Checked(-part.Principal);
+  Now.AmortInterest = Checked(-part.Interest);
   return Now.AmortInterest;
 }
 

@@ -1,8 +1,8 @@
 // The register keys with their prefixes, and the exchange key.
-#include "engine/Numbers.h"
+#include "formulas/MoneyText.h"
+#include "formulas/Numbers.h"
 #include "services/Text.h"
 #include "views/business/BusinessEngine.h"
-#include "views/business/MoneyText.h"
 
 namespace qves {
 
@@ -86,7 +86,7 @@ void BusinessEngine::Store(const RegisterRow& row) {
   else if (row.Day)
     Now.Registers.*row.Day = ParseDateNumber(Now.EntryText, Modes.NamesOfDates());
   else
-    Now.Registers.*row.Number = Now.CurrentValue / row.Scale;
+    Now.Registers.*row.Number = Checked(Now.CurrentValue / row.Scale);
   FinishKey(Fin);
   Says.Say(FillPlaceholders(Says.Message(StoredMessage), {RegisterName()}));
 }

@@ -1,10 +1,10 @@
 // CAL and a register key: the register is solved from the other four.
 #include <cmath>
 
-#include "engine/Numbers.h"
-#include "views/business/Annuity.h"
+#include "formulas/Annuity.h"
+#include "formulas/Numbers.h"
+#include "formulas/OddPeriod.h"
 #include "views/business/BusinessEngine.h"
-#include "views/business/OddPeriod.h"
 
 namespace qves {
 
@@ -42,7 +42,7 @@ double BusinessEngine::OddFraction() const {
 
 /// The present value with the interest of the odd period, which comes before the whole ones.
 double BusinessEngine::AdjustedPV() const {
-  return Checked(Now.Registers.PV * OddPeriodFactor(Now.Registers.I, OddFraction(), Modes.OddPeriod()));
+  return OddPeriodGrown(Now.Registers.PV, Now.Registers.I, OddFraction(), Modes.OddPeriod());
 }
 
 /// The present value keeps the odd period's interest: solved twice in a row it has it twice. This is wanted,
@@ -64,18 +64,18 @@ double BusinessEngine::SolvePMT() {
 }
 
 double BusinessEngine::SolvePV() {
-  const double value =
-      rtcPV(Now.Registers.I, WholePeriods(), Now.Registers.PMT, Now.Registers.FV, Modes.PaymentMode());
-  return Now.Registers.PV = OddPeriodDiscount(value, Now.Registers.I, OddFraction(), Modes.OddPeriod());
+  const FinancialRegisters& r = Now.Registers;
+  return Now.Registers.PV = OddPeriodPV(
+             r.I, {WholePeriods(), OddFraction(), r.PMT, r.PV, r.FV, Modes.PaymentMode(), Modes.OddPeriod()});
 }
 
 double BusinessEngine::SolveI() {
   const FinancialRegisters& r = Now.Registers;
-  const double rate = OddFraction() == 0 ? rtcRate(WholePeriods(), r.PMT, r.PV, r.FV, Modes.PaymentMode())
-                                         : SolveRateOdd({WholePeriods(), OddFraction(), r.PMT, r.PV, r.FV,
-                                                         Modes.PaymentMode(), Modes.OddPeriod()});
+  const Real rate = OddFraction() == 0 ? rtcRate(WholePeriods(), r.PMT, r.PV, r.FV, Modes.PaymentMode())
+                                       : SolveRateOdd({WholePeriods(), OddFraction(), r.PMT, r.PV, r.FV,
+                                                       Modes.PaymentMode(), Modes.OddPeriod()});
   const double percent = Checked(rate * 100);
-  Now.Registers.I = rate;
+  Now.Registers.I = Checked(rate);
   return percent;
 }
 
@@ -83,7 +83,7 @@ double BusinessEngine::SolveI() {
 double BusinessEngine::SolvedPeriods() const {
   const FinancialRegisters& r = Now.Registers;
   const double periods = rtcNPer(r.I, r.PMT, r.PV, r.FV, Modes.PaymentMode());
-  const double nearest = std::nearbyint(periods);
+  const double nearest = Checked(std::nearbyint(periods));
   return std::fabs(periods - nearest) < WholeTolerance ? nearest : periods;
 }
 

@@ -1,5 +1,5 @@
 // Exponent entry: after "Exp" the digits, the point, Backspace and the sign belong to the exponent.
-#include "engine/Numbers.h"
+#include "formulas/Numbers.h"
 #include "views/scientific/ScientificEngine.h"
 
 namespace qves {

@@ -2,7 +2,7 @@
 // result to them as the second operand.
 #include <limits>
 
-#include "engine/Numbers.h"
+#include "formulas/Numbers.h"
 #include "model/ArithmeticFault.h"
 #include "views/scientific/ScientificEngine.h"
 

@@ -3,11 +3,11 @@
 #include <cmath>
 #include <utility>
 
-#include "engine/Numbers.h"
+#include "formulas/Numbers.h"
+#include "formulas/SciFormat.h"
+#include "formulas/Trigonometry.h"
 #include "model/ArithmeticFault.h"
-#include "views/scientific/SciFormat.h"
 #include "views/scientific/ScientificOperators.h"
-#include "views/scientific/Trigonometry.h"
 
 namespace qves {
 
@@ -145,7 +145,7 @@ void ScientificEngine::ChangeBase(int base) {
   if (Now.ErrorState) return;
   if (EndExponent()) Now.EntryText = NumberToText(Now.CurrentValue);
   // The number itself: its new text, if short, may mean a negative one.
-  if (from == NumberBase::Decimal) Now.CurrentValue = std::trunc(TextToNumber(Now.EntryText));
+  if (from == NumberBase::Decimal) Now.CurrentValue = Checked(std::trunc(TextToNumber(Now.EntryText)));
   Now.EntryText = ConvertBase(from, base, Now.EntryText);
   Show();
   Now.LastAction = Uop;

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "engine/EntryState.h"
-#include "views/scientific/NumberBases.h"
+#include "formulas/NumberBases.h"
 
 namespace qves {
 

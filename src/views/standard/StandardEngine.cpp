@@ -1,6 +1,6 @@
 #include "views/standard/StandardEngine.h"
 
-#include "engine/Numbers.h"
+#include "formulas/Numbers.h"
 #include "views/standard/StandardOperators.h"
 
 namespace qves {

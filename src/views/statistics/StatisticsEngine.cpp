@@ -1,5 +1,6 @@
 #include "views/statistics/StatisticsEngine.h"
 
+#include "formulas/Arithmetic.h"
 #include "model/ArithmeticFault.h"
 
 namespace qves {

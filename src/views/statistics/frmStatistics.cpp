@@ -1,6 +1,6 @@
 #include "views/statistics/frmStatistics.h"
 
-#include "engine/Numbers.h"
+#include "formulas/Numbers.h"
 #include "model/ArithmeticFault.h"
 #include "views/statistics/FreeFormat.h"
 #include "views/statistics/StatisticsControls.h"
