@@ -2,14 +2,12 @@
 
 #include "formulas/Numbers.h"
 #include "model/ArithmeticFault.h"
+#include "services/MessageIds.h"
 
 namespace qves {
 namespace {
 
 using enum ActionKind;
-
-constexpr int PointNameMessage = 1073;
-constexpr int SeparatorMessage = 1081;
 
 bool IsOneOf(ActionKind action, std::initializer_list<ActionKind> list) {
   for (const ActionKind one : list)
@@ -54,7 +52,7 @@ void EntryEngine::DecimalPoint(const PressedKey& key) {
 void EntryEngine::Backspace(const PressedKey&) {
   const std::string last = Now.EntryText.empty() ? "" : Now.EntryText.substr(Now.EntryText.size() - 1);
   const bool isPoint = last == Separator();
-  Says.Say(isPoint ? Says.Message(PointNameMessage) : last);
+  Says.Say(isPoint ? Says.Message(PointMessage) : last);
   // A sign change may be backspaced into; after any other result the key only speaks.
   if (!IsOneOf(Now.LastAction, {Num, ActionKind::Backspace, Decimal}) &&
       !(Now.CurrentOp == "+/-" && Now.LastAction == Uop))
@@ -238,7 +236,7 @@ void EntryEngine::ExtendEntry(std::string_view text) {
 /// The decimal separator; numbers are read with a point when the message file has none.
 const std::string& EntryEngine::Separator() const {
   static const std::string point = ".";
-  const std::string& separator = Says.Message(SeparatorMessage);
+  const std::string& separator = Says.Message(DecimalSeparatorMessage);
   return separator.empty() ? point : separator;
 }
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "model/ArithmeticFault.h"
+#include "services/MessageIds.h"
 #include "services/WindowActivation.h"
 #include "views/LockKeys.h"
 #include "views/MakeControl.h"
@@ -10,15 +11,6 @@
 namespace qves {
 namespace {
 
-constexpr int TitleMessage = 100;
-constexpr int WelcomeMessage = 101;
-constexpr int CopyMessage = 50;
-constexpr int ErrorMessage = 1202;
-constexpr int CurrentValueMessage = 1201;
-constexpr int CheckedMessage = 1134;
-constexpr int ClearMessage = 1135;
-constexpr int AllSelectedMessage = 1600;
-constexpr int DisabledMessage = 1700;
 constexpr std::string_view HostWindow = " Quorvane 1000";
 constexpr KeyEvent CopyKey{'C', ControlBit, 0};
 constexpr KeyEvent SelectAllKey{'A', ControlBit, 0};

@@ -1,19 +1,13 @@
 // The register keys with their prefixes, and the exchange key.
 #include "formulas/MoneyText.h"
 #include "formulas/Numbers.h"
+#include "services/MessageIds.h"
 #include "services/Text.h"
 #include "views/business/BusinessEngine.h"
 
 namespace qves {
 
 using enum ActionKind;
-
-namespace {
-
-constexpr int ClearAllMessage = 1062;
-constexpr int StoredMessage = 1562;
-
-}  // namespace
 
 /// A register is a number (stored divided by `Scale`), a date, or has handlers of its own.
 struct BusinessEngine::RegisterRow {

@@ -2,14 +2,12 @@
 
 #include <charconv>
 
+#include "services/MessageIds.h"
 #include "views/business/BusinessControls.h"
 #include "views/business/BusinessKeyMap.h"
 
 namespace qves {
 namespace {
-
-constexpr int FirstWeekdayMessage = 1580;  // Sunday
-constexpr int FirstMonthMessage = 1587;    // January
 
 constexpr auto Prefix = Do<BusinessEngine, &BusinessEngine::PrefixKey>;
 

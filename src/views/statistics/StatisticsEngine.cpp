@@ -2,15 +2,12 @@
 
 #include "formulas/Arithmetic.h"
 #include "model/ArithmeticFault.h"
+#include "services/MessageIds.h"
 
 namespace qves {
 namespace {
 
 using enum ActionKind;
-
-constexpr int ClearEntryMessage = 1077;
-constexpr int DegreesSetMessage = 1446;
-constexpr int AlphaSetMessage = 1447;
 
 constexpr OperatorRow SignOperator[] = {{"+/-", Arity::Unary, ChangeSign}};
 

@@ -2,6 +2,7 @@
 
 #include "formulas/Numbers.h"
 #include "model/ArithmeticFault.h"
+#include "services/MessageIds.h"
 #include "views/statistics/FreeFormat.h"
 #include "views/statistics/StatisticsControls.h"
 #include "views/statistics/StatisticsKeyMap.h"
@@ -10,9 +11,6 @@
 
 namespace qves {
 namespace {
-
-constexpr int ImportTitleMessage = 400;
-constexpr int ImportFilterMessage = 401;
 
 constexpr MenuSpec Menus[] = {
     {FileMenu, {ImportItem, ExitItem}},
