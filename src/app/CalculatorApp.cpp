@@ -1,32 +1,15 @@
 #include "app/CalculatorApp.h"
 
+#include <algorithm>
+
 #include "dialogs/HelpDialogs.h"
 #include "dialogs/ResultDialog.h"
 #include "views/MenuIds.h"
-#include "views/business/frmBusiness.h"
-#include "views/scientific/frmScientific.h"
-#include "views/standard/frmStandard.h"
-#include "views/statistics/frmStatistics.h"
 
 namespace qves {
 namespace {
 
 constexpr std::string_view ApplicationTitle = "QVES Calculator Application";
-
-using ViewMaker = std::unique_ptr<Form> (*)(Services&, ViewFrame&);
-
-template <class ViewForm>
-std::unique_ptr<Form> Make(Services& services, ViewFrame& frame) {
-  return std::make_unique<ViewForm>(services, frame);
-}
-
-/// By CalcView.
-constexpr ViewMaker ViewMakers[] = {Make<frmScientific>, Make<frmStatistics>, Make<frmStandard>,
-                                    Make<frmBusiness>};
-
-bool IsCalcView(int number) {
-  return number >= ScientificView && number <= BusinessView;
-}
 
 /// The comma as its layout types it, with nothing held.
 bool IsPlainComma(const KeyEvent& event) {
@@ -50,8 +33,8 @@ bool IsNoMistake(const KeyEvent& event) {
 
 }  // namespace
 
-CalculatorApp::CalculatorApp(Services& services, AppObserver& observer)
-    : Services_(services), Observer(observer) {}
+CalculatorApp::CalculatorApp(Services& services, AppObserver& observer, std::span<const ViewRow> views)
+    : Services_(services), Observer(observer), Rows(views) {}
 
 CalculatorApp::~CalculatorApp() = default;
 
@@ -68,20 +51,31 @@ bool CalculatorApp::Main(const StartOptions& options) {
   Services_.SettingsStore.ReadSettings();
   const int calcView = options.View.value_or(Services_.Settings.CalcView);
   // No fallback for a number that is no view: the program then runs without a window, as wanted.
-  if (IsCalcView(calcView)) ShowView(calcView);
+  const auto row = std::ranges::find(Rows, calcView, [](const ViewRow& r) { return r.Identity.CalcView; });
+  if (row != Rows.end()) ShowView(*row);
   return true;
 }
 
-void CalculatorApp::ShowView(int calcView) {
-  View = ViewMakers[calcView](Services_, *this);
+void CalculatorApp::ShowView(const ViewRow& row) {
+  Current = &row;
+  View = row.Make(Services_, *this);
   Observer.FormShown(*View);
   View->Form_Load();
 }
 
-void CalculatorApp::SwitchView(int calcView) {
+std::vector<int> CalculatorApp::ViewItems() const {
+  std::vector<int> items;
+  for (const ViewRow& row : Rows) items.push_back(row.Identity.NameMessage);
+  return items;
+}
+
+void CalculatorApp::ChooseView(int menuItem) {
+  const auto row = std::ranges::find(Rows, menuItem, [](const ViewRow& r) { return r.Identity.NameMessage; });
+  if (row == Rows.end()) return;
+  if (&*row == Current) return Services_.Speech.SpeakText(Services_.Messages.GetMessage(menuItem));
   ViewSwitching = true;
   UnloadView();
-  ShowView(calcView);
+  ShowView(*row);
 }
 
 void CalculatorApp::Exit() {
@@ -145,10 +139,18 @@ void CalculatorApp::LoadHostForm(Form& keyTarget) {
 }
 
 void CalculatorApp::OpenHelp(int menuItem) {
-  HelpDialog which = HelpDialog::Inverse;
-  if (menuItem == AboutItem || menuItem == AboutStatisticsItem) which = HelpDialog::About;
-  if (menuItem == HotKeysItem || menuItem == StatisticsHotKeysItem) which = HelpDialog::HotKeys;
-  OpenDialog(MakeHelpDialog(which, Services_.Settings.CalcView, Services_, *this));
+  struct HelpRow {
+    int MenuItem;
+    HelpDialog Dialog;
+    std::string_view ViewRow::*Document;
+  };
+  constexpr HelpRow rows[] = {{AboutItem, HelpDialog::About, &ViewRow::About},
+                              {AboutStatisticsItem, HelpDialog::About, &ViewRow::About},
+                              {HotKeysItem, HelpDialog::HotKeys, &ViewRow::HotKeys},
+                              {StatisticsHotKeysItem, HelpDialog::HotKeys, &ViewRow::HotKeys},
+                              {InverseItem, HelpDialog::Inverse, &ViewRow::Inverse}};
+  const auto* row = std::ranges::find(rows, menuItem, &HelpRow::MenuItem);
+  OpenDialog(MakeHelpDialog(row->Dialog, Current->*(row->Document), Services_, *this));
 }
 
 void CalculatorApp::OpenResult() {

@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "app/ViewList.h"
 #include "app/frmCTLApp.h"
 #include "dialogs/DialogFrame.h"
 #include "model/Form.h"
@@ -32,7 +33,7 @@ struct StartOptions {
 
 class CalculatorApp : private ViewFrame, private DialogFrame {
  public:
-  CalculatorApp(Services& services, AppObserver& observer);
+  CalculatorApp(Services& services, AppObserver& observer, std::span<const ViewRow> views = Views());
   ~CalculatorApp() override;
 
   /// Start-up: shows the first view. False when another copy runs and this one is to end at once.
@@ -51,7 +52,9 @@ class CalculatorApp : private ViewFrame, private DialogFrame {
 
  private:
   // ViewFrame
-  void SwitchView(int calcView) override;
+  ViewIdentity Identity() const override { return Current->Identity; }
+  std::vector<int> ViewItems() const override;
+  void ChooseView(int menuItem) override;
   void Exit() override;
   void LoadHostForm(Form& keyTarget) override;
   void LeaveKeys() override;
@@ -70,12 +73,14 @@ class CalculatorApp : private ViewFrame, private DialogFrame {
   KeyUse PressKey(const KeyEvent& event);
   bool CommaTypesPoint() const;
   void TellOfNoFunction(const KeyEvent& event);
-  void ShowView(int calcView);
+  void ShowView(const ViewRow& row);
   void OpenDialog(std::unique_ptr<Form> dialog);
   void UnloadView();
 
   Services& Services_;
   AppObserver& Observer;
+  std::span<const ViewRow> Rows;
+  const ViewRow* Current = nullptr;  ///< of the view shown last
   std::unique_ptr<frmCTLApp> HostForm;
   std::unique_ptr<Form> View;
   std::vector<std::unique_ptr<Form>> Dialogs;  ///< open above the view, the top one last

@@ -1,16 +1,11 @@
 #include "app/frmCTLApp.h"
 
+#include "services/MessageIds.h"
 #include "services/Text.h"
 
 namespace qves {
 namespace {
 
-constexpr int ControlPlusMessage = 20;
-constexpr int ShiftPlusMessage = 21;
-constexpr int OpensDialogMessage = 22;
-constexpr int HasSubMenuMessage = 23;
-constexpr int MnemonicMessage = 24;
-constexpr int MoreItemsMessage = 25;
 constexpr std::string_view Dots = "...";
 
 }  // namespace

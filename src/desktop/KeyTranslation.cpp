@@ -5,6 +5,8 @@
 #include <optional>
 #include <span>
 
+#include "model/UsKeyboard.h"
+
 namespace qves {
 namespace {
 
@@ -20,13 +22,6 @@ struct CodeRange {
   std::uint32_t First;
   std::uint32_t Last;
   int Code;
-};
-
-/// The character on a US keyboard: its key and whether Shift types it.
-struct UsKey {
-  char32_t Character;
-  int Code;
-  bool Shifted;
 };
 
 /// Keysyms of the keypad with NumLock on. Separator is the comma of some layouts: it types the point here.
@@ -101,41 +96,6 @@ struct LetterRow {
 constexpr std::array LetterRows = {LetterRow{16, "QWERTYUIOP"}, LetterRow{30, "ASDFGHJKL"},
                                    LetterRow{44, "ZXCVBNM"}};
 
-constexpr std::array UsKeys = {
-    UsKey{';', KeySemicolon, false},
-    UsKey{':', KeySemicolon, true},
-    UsKey{'=', KeyEqual, false},
-    UsKey{'+', KeyEqual, true},
-    UsKey{',', KeyComma, false},
-    UsKey{'<', KeyComma, true},
-    UsKey{'-', KeyMinus, false},
-    UsKey{'_', KeyMinus, true},
-    UsKey{'.', KeyPeriod, false},
-    UsKey{'>', KeyPeriod, true},
-    UsKey{'/', KeySlash, false},
-    UsKey{'?', KeySlash, true},
-    UsKey{'`', KeyGrave, false},
-    UsKey{'~', KeyGrave, true},
-    UsKey{'[', KeyLeftBracket, false},
-    UsKey{'{', KeyLeftBracket, true},
-    UsKey{'\\', KeyBackslash, false},
-    UsKey{'|', KeyBackslash, true},
-    UsKey{']', KeyRightBracket, false},
-    UsKey{'}', KeyRightBracket, true},
-    UsKey{'\'', KeyApostrophe, false},
-    UsKey{'"', KeyApostrophe, true},
-    UsKey{'!', '1', true},
-    UsKey{'@', '2', true},
-    UsKey{'#', '3', true},
-    UsKey{'$', '4', true},
-    UsKey{'%', '5', true},
-    UsKey{'^', '6', true},
-    UsKey{'&', '7', true},
-    UsKey{'*', '8', true},
-    UsKey{'(', '9', true},
-    UsKey{')', '0', true},
-};
-
 std::optional<int> FindCode(std::span<const CodeOf> table, int from) {
   const auto found = std::ranges::find(table, from, &CodeOf::From);
   return found == table.end() ? std::nullopt : std::optional(found->Code);
@@ -148,9 +108,11 @@ std::optional<int> FindCode(std::span<const CodeRange> table, std::uint32_t valu
   return std::nullopt;
 }
 
-const UsKey* FindUsKey(int key) {
-  const auto found = std::ranges::find(UsKeys, static_cast<char32_t>(key), &UsKey::Character);
-  return found == UsKeys.end() ? nullptr : &*found;
+/// The key of a US keyboard that types the character; null for letters and what it does not have.
+const UsKey* FindUsKey(int character) {
+  const auto* found = std::ranges::find_if(
+      UsKeys, [&](const UsKey& key) { return key.Plain == character || key.Shifted == character; });
+  return found == std::end(UsKeys) ? nullptr : found;
 }
 
 bool IsLetter(int key) {
@@ -217,7 +179,7 @@ KeyEvent SynthesisedKey(const NativeKey& key, int shift, char32_t character) {
   if (IsDigit(key.Key)) return {key.Key, shift, character};
   const UsKey* us = FindUsKey(key.Key);
   if (!us) return {0, shift, character};
-  return {us->Code, us->Shifted ? shift | ShiftBit : shift, character};
+  return {us->Code, us->Shifted == key.Key ? shift | ShiftBit : shift, character};
 }
 
 }  // namespace

@@ -3,16 +3,16 @@
 namespace qves {
 namespace {
 
-bool SetSpeech(Options& options, const std::string& value) {
+std::string SetSpeech(Options& options, const std::string& value) {
   const auto choice = FindSpeechChoice(value);
   options.Speech = choice.value_or(SpeechChoice::Auto);
-  return choice.has_value();
+  return choice ? "" : "auto, speech-dispatcher, espeak-ng or off";
 }
 
 constexpr ValueOption<Options> ValueOptions[] = {
-    {"--view", ViewWants, [](Options& options, const std::string& value) { return SetView(options, value); }},
-    {"--home", HomeWants, [](Options& options, const std::string& value) { return SetHome(options, value); }},
-    {"--speech", "auto, speech-dispatcher, espeak-ng or off", SetSpeech},
+    {"--view", [](Options& options, const std::string& value) { return SetView(options, value); }},
+    {"--home", [](Options& options, const std::string& value) { return SetHome(options, value); }},
+    {"--speech", SetSpeech},
 };
 
 }  // namespace
@@ -28,10 +28,12 @@ std::optional<Options> ParseOptions(const std::vector<std::string>& arguments, s
   return options;
 }
 
-std::string_view HelpText() {
+std::string HelpText() {
   return "qvescalc [OPTIONS]    the calculator in a window\n"
          "\n"
-         "  --view standard|scientific|business|statistics   the view to open (default: the one used last)\n"
+         "  --view " +
+         ViewWords("|", "|") +
+         "   the view to open (default: the one used last)\n"
          "  --speech auto|speech-dispatcher|espeak-ng|off    what speaks (default: auto)\n"
          "  --home DIR                                       all settings and documents lie below DIR\n"
          "  --help, --version\n"

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "posix/CommandLine.h"
+#include "app/CommandLine.h"
 #include "speech/SpeechBackEnds.h"
 
 namespace qves {
@@ -18,6 +18,6 @@ struct Options : CommonOptions {
 /// The options, or nothing with the reason in `error`.
 std::optional<Options> ParseOptions(const std::vector<std::string>& arguments, std::string& error);
 
-std::string_view HelpText();
+std::string HelpText();
 
 }  // namespace qves

@@ -9,7 +9,8 @@ namespace qves {
 
 enum class HelpDialog { About, HotKeys, Inverse };
 
-/// The dialog with the document of that view (its CalcView), from the program's own folder.
-std::unique_ptr<Form> MakeHelpDialog(HelpDialog which, int calcView, Services& services, DialogFrame& frame);
+/// The dialog with the document of that name in the program's own folder.
+std::unique_ptr<Form> MakeHelpDialog(HelpDialog which, std::string_view document, Services& services,
+                                     DialogFrame& frame);
 
 }  // namespace qves

@@ -3,13 +3,12 @@
 #include <utility>
 
 #include "dialogs/RichText.h"
+#include "services/MessageIds.h"
 #include "services/Text.h"
 
 namespace qves {
 namespace {
 
-constexpr int OkMessage = 1205;
-constexpr int OkHelpMessage = 1264;
 constexpr int KeyF5 = KeyF1 + 4;
 constexpr int LinesOfAPage = 10;
 

@@ -1,9 +1,9 @@
 #include "engine/Announcer.h"
 
+#include "services/MessageIds.h"
+
 namespace qves {
-namespace {
-constexpr int ErrorMessage = 1202;
-}
+namespace {}
 
 void Announcer::Say(std::string_view text, ValueSpan value) {
   Speech.SpeakText(text, value);

@@ -1,18 +1,16 @@
 #include "engine/EntryEngine.h"
 
-#include "engine/Numbers.h"
+#include "formulas/Numbers.h"
 #include "model/ArithmeticFault.h"
+#include "services/MessageIds.h"
 
 namespace qves {
 namespace {
 
-using enum qves::LastAction;
+using enum ActionKind;
 
-constexpr int PointNameMessage = 1073;
-constexpr int SeparatorMessage = 1081;
-
-bool IsOneOf(LastAction action, std::initializer_list<LastAction> list) {
-  for (const LastAction one : list)
+bool IsOneOf(ActionKind action, std::initializer_list<ActionKind> list) {
+  for (const ActionKind one : list)
     if (one == action) return true;
   return false;
 }
@@ -23,17 +21,17 @@ void EntryEngine::Digit(const PressedKey& key) {
   Says.Say(key.SpokenName);
   if (StartsAnew()) {
     ClearAll();
-    EntryText.clear();
+    Now.EntryText.clear();
   }
   if (StartsOperand()) {
     BeginSecondOperand();
-    EntryText.clear();
-  } else if ((EntryText == "0" && !DecimalEntered) || LastAction == RParen) {
-    EntryText.clear();  // the lone leading zero, or an inner result, is replaced
+    Now.EntryText.clear();
+  } else if ((Now.EntryText == "0" && !Now.DecimalEntered) || Now.LastAction == RParen) {
+    Now.EntryText.clear();  // the lone leading zero, or an inner result, is replaced
   }
   ExtendEntry(key.Caption);
-  if (!IsBeyondADouble(EntryText)) CurrentValue = ValueOf(EntryText);
-  LastAction = Num;
+  if (!IsBeyondADouble(Now.EntryText)) Now.CurrentValue = ValueOf(Now.EntryText);
+  Now.LastAction = Num;
 }
 
 void EntryEngine::DecimalPoint(const PressedKey& key) {
@@ -41,89 +39,89 @@ void EntryEngine::DecimalPoint(const PressedKey& key) {
   if (EntryHoldsPoint()) return;
   if (StartsAnew()) ClearAll();
   if (StartsOperand()) BeginSecondOperand();
-  if (StartsOperand() || LastAction == RParen) {
-    EntryText = "0";
-    CurrentValue = 0;
+  if (StartsOperand() || Now.LastAction == RParen) {
+    Now.EntryText = "0";
+    Now.CurrentValue = 0;
     Show();
   }
-  if (LastAction != Decimal) ExtendEntry(Separator());
-  DecimalEntered = true;
-  LastAction = Decimal;
+  if (Now.LastAction != Decimal) ExtendEntry(Separator());
+  Now.DecimalEntered = true;
+  Now.LastAction = Decimal;
 }
 
 void EntryEngine::Backspace(const PressedKey&) {
-  const std::string last = EntryText.empty() ? "" : EntryText.substr(EntryText.size() - 1);
+  const std::string last = Now.EntryText.empty() ? "" : Now.EntryText.substr(Now.EntryText.size() - 1);
   const bool isPoint = last == Separator();
-  Says.Say(isPoint ? Says.Message(PointNameMessage) : last);
+  Says.Say(isPoint ? Says.Message(PointMessage) : last);
   // A sign change may be backspaced into; after any other result the key only speaks.
-  if (!IsOneOf(LastAction, {Num, qves::LastAction::Backspace, Decimal}) &&
-      !(CurrentOp == "+/-" && LastAction == Uop))
+  if (!IsOneOf(Now.LastAction, {Num, ActionKind::Backspace, Decimal}) &&
+      !(Now.CurrentOp == "+/-" && Now.LastAction == Uop))
     return;
-  const std::size_t length = EntryText.size();
-  if (length < 2 || (length == 2 && EntryText.front() == '-')) {
-    EntryText = "0";
+  const std::size_t length = Now.EntryText.size();
+  if (length < 2 || (length == 2 && Now.EntryText.front() == '-')) {
+    Now.EntryText = "0";
   } else {
-    if (isPoint) DecimalEntered = false;
-    EntryText.pop_back();
+    if (isPoint) Now.DecimalEntered = false;
+    Now.EntryText.pop_back();
   }
-  ErrorState = false;
+  Now.ErrorState = false;
   Show();
-  CurrentValue = ValueOf(EntryText);
-  LastAction = qves::LastAction::Backspace;
+  Now.CurrentValue = ValueOf(Now.EntryText);
+  Now.LastAction = ActionKind::Backspace;
 }
 
 void EntryEngine::ClearEntry(const PressedKey& key) {
   Says.Say(key.SpokenName);
   if (SecondOperandDue()) BeginSecondOperand();
-  ErrorState = false;
-  EntryText = "0";
-  CurrentValue = 0;
-  DecimalEntered = false;
+  Now.ErrorState = false;
+  Now.EntryText = "0";
+  Now.CurrentValue = 0;
+  Now.DecimalEntered = false;
   Show();
-  LastAction = Ce;
+  Now.LastAction = Ce;
 }
 
 void EntryEngine::BinaryOperator(const PressedKey& key) {
-  if (ErrorState) ClearAll();
+  if (Now.ErrorState) ClearAll();
   Says.Say(key.SpokenName);
-  DecimalEntered = false;
-  CurrentOp = key.Caption;
+  Now.DecimalEntered = false;
+  Now.CurrentOp = key.Caption;
   if (OperatorCompletesPending()) CompletePending();
-  PendingOp = CurrentOp;  // "" after a failed evaluation
-  SecondOperandBegun = false;
-  LastAction = Biop;
-  if (ErrorState) Says.SayError();
+  Now.PendingOp = Now.CurrentOp;  // "" after a failed evaluation
+  Now.SecondOperandBegun = false;
+  Now.LastAction = Biop;
+  if (Now.ErrorState) Says.SayError();
 }
 
 void EntryEngine::UnaryOperator(const PressedKey& key) {
-  DecimalEntered = false;
-  CurrentOp = key.Caption;
-  if (!ErrorState) Calculate(Accumulator, CurrentValue, key.Caption);
+  Now.DecimalEntered = false;
+  Now.CurrentOp = key.Caption;
+  if (!Now.ErrorState) Calculate(Now.Accumulator, Now.CurrentValue, key.Caption);
   // Straight after a binary operator it cancels that and applies to the number shown.
-  if (LastAction == Biop) PendingOp.clear();
-  LastAction = Uop;
+  if (Now.LastAction == Biop) Now.PendingOp.clear();
+  Now.LastAction = Uop;
   SayResult("");
 }
 
 void EntryEngine::Equals(const PressedKey& key) {
   // A second equals repeats nothing, and an operator without its second operand is dropped. Both are wanted.
-  if (!IsOneOf(LastAction, {Equal, Biop})) CompletePending();
-  PendingOp.clear();
+  if (!IsOneOf(Now.LastAction, {Equal, Biop})) CompletePending();
+  Now.PendingOp.clear();
   SayResult(std::string(key.Caption) + " ");
-  LastAction = Equal;
-  DecimalEntered = false;
+  Now.LastAction = Equal;
+  Now.DecimalEntered = false;
 }
 
 void EntryEngine::ClearAll() {
-  PendingOp.clear();
-  CurrentOp.clear();
-  LastAction = None;
-  PrevEntryText = EntryText = "0";
-  DecimalEntered = false;
-  ErrorState = false;
-  SecondOperandBegun = false;
+  Now.PendingOp.clear();
+  Now.CurrentOp.clear();
+  Now.LastAction = None;
+  Now.PrevEntryText = Now.EntryText = "0";
+  Now.DecimalEntered = false;
+  Now.ErrorState = false;
+  Now.SecondOperandBegun = false;
   Show();
-  Accumulator = CurrentValue = 0;
+  Now.Accumulator = Now.CurrentValue = 0;
   OnClearAll();
 }
 
@@ -142,7 +140,7 @@ void EntryEngine::Evaluate(double first, double& second, std::string_view op) {
 }
 
 void EntryEngine::ShowResult(double& value) {
-  EntryText = WriteNumber(value);
+  Now.EntryText = WriteNumber(value);
   Show();
 }
 
@@ -161,13 +159,13 @@ double EntryEngine::ValueOf(std::string_view text) const {
 }
 
 bool EntryEngine::OperatorCompletesPending() const {
-  return LastAction != Biop;
+  return Now.LastAction != Biop;
 }
 
 void EntryEngine::Fail() {
   ClearAll();
-  ErrorState = true;
-  EntryText = "E";
+  Now.ErrorState = true;
+  Now.EntryText = "E";
   Show();
 }
 
@@ -178,57 +176,57 @@ void EntryEngine::FailAloud() {
 
 /// A digit or a point after a result or an error starts a new calculation.
 bool EntryEngine::StartsAnew() const {
-  return ErrorState || IsOneOf(LastAction, {qves::LastAction::Memory, Uop, Equal, Fin, Ex});
+  return Now.ErrorState || IsOneOf(Now.LastAction, {ActionKind::Memory, Uop, Equal, Fin, Ex});
 }
 
 /// The number typed next is a new operand: after an operator, and in a group just opened.
 bool EntryEngine::StartsOperand() const {
-  return IsOneOf(LastAction, {Biop, LParen});
+  return IsOneOf(Now.LastAction, {Biop, LParen});
 }
 
 /// A pending operator waits for its second operand; a store after the operator does not begin it.
 bool EntryEngine::SecondOperandDue() const {
-  return LastAction == Biop || (!PendingOp.empty() && !SecondOperandBegun);
+  return Now.LastAction == Biop || (!Now.PendingOp.empty() && !Now.SecondOperandBegun);
 }
 
 void EntryEngine::BeginSecondOperand() {
-  PrevEntryText = EntryText;
-  Accumulator = CurrentValue;
-  SecondOperandBegun = true;
+  Now.PrevEntryText = Now.EntryText;
+  Now.Accumulator = Now.CurrentValue;
+  Now.SecondOperandBegun = true;
 }
 
 /// True when the number being typed has its point already.
 bool EntryEngine::EntryHoldsPoint() const {
-  if (StartsAnew() || StartsOperand() || LastAction == RParen) return false;
-  return EntryText.find(Separator()) != std::string::npos;
+  if (StartsAnew() || StartsOperand() || Now.LastAction == RParen) return false;
+  return Now.EntryText.find(Separator()) != std::string::npos;
 }
 
 void EntryEngine::CompletePending() {
-  if (SecondOperandBegun) Calculate(Accumulator, CurrentValue, PendingOp);
+  if (Now.SecondOperandBegun) Calculate(Now.Accumulator, Now.CurrentValue, Now.PendingOp);
 }
 
 void EntryEngine::Show(ValueKind kind) {
-  EntryKind = kind;
-  InsteadOfEntry.clear();
-  Host.ShowDisplay(EntryText);
+  Now.EntryKind = kind;
+  Now.InsteadOfEntry.clear();
+  Host.ShowDisplay(Now.EntryText);
 }
 
 void EntryEngine::ShowInstead(std::string_view text) {
-  EntryKind = ValueKind::Number;
-  InsteadOfEntry = text;
+  Now.EntryKind = ValueKind::Number;
+  Now.InsteadOfEntry = text;
   Host.ShowDisplay(text);
 }
 
 void EntryEngine::ExtendInstead(std::string_view text) {
-  InsteadOfEntry = DisplayText();
-  InsteadOfEntry += text;
+  Now.InsteadOfEntry = Now.DisplayText();
+  Now.InsteadOfEntry += text;
   Host.ExtendDisplay(text);
 }
 
 /// Adds to the entry. An empty one is shown anew.
 void EntryEngine::ExtendEntry(std::string_view text) {
-  const bool anew = EntryText.empty();
-  EntryText += text;
+  const bool anew = Now.EntryText.empty();
+  Now.EntryText += text;
   if (anew)
     Show();
   else
@@ -238,27 +236,15 @@ void EntryEngine::ExtendEntry(std::string_view text) {
 /// The decimal separator; numbers are read with a point when the message file has none.
 const std::string& EntryEngine::Separator() const {
   static const std::string point = ".";
-  const std::string& separator = Says.Message(SeparatorMessage);
+  const std::string& separator = Says.Message(DecimalSeparatorMessage);
   return separator.empty() ? point : separator;
 }
 
 void EntryEngine::SayResult(std::string_view leadIn) {
-  if (ErrorState)
+  if (Now.ErrorState)
     Says.SayError();
   else
-    Says.SayValue(DisplayText(), DisplayKind(), leadIn);
-}
-
-StateFields EntryEngine::Fields() const {
-  return {{"PrevEntryText", PrevEntryText},
-          {"EntryText", EntryText},
-          {"Accumulator", Accumulator},
-          {"CurrentValue", CurrentValue},
-          {"DecimalEntered", DecimalEntered},
-          {"MemoryText", MemoryCell.Text()},
-          {"PendingOp", PendingOp},
-          {"LastAction", std::string(ToWord(LastAction))},
-          {"CurrentOp", CurrentOp}};
+    Says.SayValue(Now.DisplayText(), DisplayKind(), leadIn);
 }
 
 }  // namespace qves

@@ -9,10 +9,8 @@
 #include <string_view>
 
 #include "engine/Announcer.h"
-#include "engine/LastAction.h"
-#include "engine/MemoryRegister.h"
+#include "engine/EntryState.h"
 #include "engine/Operators.h"
-#include "model/StateField.h"
 
 namespace qves {
 
@@ -35,8 +33,10 @@ struct PressedKey {
 
 class EntryEngine {
  public:
-  EntryEngine(std::span<const OperatorRow> operators, EngineHost& host, Announcer& announcer)
-      : Operators(operators), Host(host), Says(announcer) {}
+  /// Acts on that state, which has to live longer.
+  EntryEngine(EntryState& state, std::span<const OperatorRow> operators, EngineHost& host,
+              Announcer& announcer)
+      : Operators(operators), Host(host), Says(announcer), Now(state) {}
   virtual ~EntryEngine() = default;
   EntryEngine(const EntryEngine&) = delete;
   EntryEngine& operator=(const EntryEngine&) = delete;
@@ -44,15 +44,15 @@ class EntryEngine {
   /// A key of the view is about to act.
   virtual void BeginKey() { Says.BeginKey(); }
 
-  virtual void Digit(const PressedKey& key);
-  virtual void DecimalPoint(const PressedKey& key);
-  virtual void Backspace(const PressedKey& key);
-  virtual void ClearEntry(const PressedKey& key);
-  virtual void BinaryOperator(const PressedKey& key);
-  virtual void UnaryOperator(const PressedKey& key);
-  virtual void Equals(const PressedKey& key);
+  void Digit(const PressedKey& key);
+  void DecimalPoint(const PressedKey& key);
+  void Backspace(const PressedKey& key);
+  void ClearEntry(const PressedKey& key);
+  void BinaryOperator(const PressedKey& key);
+  void UnaryOperator(const PressedKey& key);
+  void Equals(const PressedKey& key);
   /// MC, MR, MS, M+, C or Pi, by the caption.
-  virtual void Memory(const PressedKey& key);
+  void Memory(const PressedKey& key);
 
   /// Everything but the memory, back to "0".
   void ClearAll();
@@ -64,12 +64,11 @@ class EntryEngine {
   /// A fault outside an evaluation: the error state, and it is said.
   void FailAloud();
 
-  bool InError() const { return ErrorState; }
+  bool InError() const { return Now.ErrorState; }
   /// What the display shows: the entry, or what stands in its place for the moment.
-  const std::string& DisplayText() const { return InsteadOfEntry.empty() ? EntryText : InsteadOfEntry; }
+  const std::string& DisplayText() const { return Now.DisplayText(); }
   /// What the value is that the display shows.
-  virtual ValueKind DisplayKind() const { return EntryKind; }
-  virtual StateFields Fields() const;
+  virtual ValueKind DisplayKind() const { return Now.EntryKind; }
 
  protected:
   /// Computes the operator and shows the result, which `second` receives.
@@ -81,12 +80,10 @@ class EntryEngine {
   /// The number that a text written as entries are stands for; nothing when it is none.
   virtual std::optional<double> ReadNumber(std::string_view text) const;
   /// The memory's text as entries are written.
-  virtual std::string RecalledText() const { return MemoryCell.Text(); }
+  virtual std::string RecalledText() const { return Now.MemoryCell.Text(); }
   /// The memory has just been written.
   virtual void OnStored() {}
   virtual void OnClearAll() {}
-  /// The clear-all key.
-  virtual void ClearEverything() { ClearAll(); }
   /// Whether a binary operator completes the one pending before it.
   virtual bool OperatorCompletesPending() const;
 
@@ -100,25 +97,12 @@ class EntryEngine {
   void ShowInstead(std::string_view text);
   void ExtendInstead(std::string_view text);
   /// True when the display shows the entry itself.
-  bool ShowsEntry() const { return InsteadOfEntry.empty(); }
+  bool ShowsEntry() const { return Now.InsteadOfEntry.empty(); }
   void SayResult(std::string_view leadIn);
 
   std::span<const OperatorRow> Operators;
   EngineHost& Host;
   Announcer& Says;
-  MemoryRegister MemoryCell;
-
-  std::string PrevEntryText = "0";
-  std::string EntryText = "0";
-  double Accumulator = 0;
-  double CurrentValue = 0;
-  bool DecimalEntered = false;
-  std::string PendingOp;
-  std::string CurrentOp;
-  qves::LastAction LastAction = qves::LastAction::None;
-  bool ErrorState = false;
-  /// By a digit, a point, a clear entry, a recall or an inner result after the pending operator.
-  bool SecondOperandBegun = false;
 
  private:
   bool StartsAnew() const;
@@ -137,8 +121,7 @@ class EntryEngine {
   void Recall(std::string text, double value);
   bool RefuseNoNumber();
 
-  std::string InsteadOfEntry;
-  ValueKind EntryKind = ValueKind::Number;
+  EntryState& Now;
 };
 
 }  // namespace qves

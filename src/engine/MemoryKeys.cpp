@@ -3,7 +3,7 @@
 #include <string>
 
 #include "engine/EntryEngine.h"
-#include "engine/Numbers.h"
+#include "formulas/Numbers.h"
 
 namespace qves {
 
@@ -14,9 +14,9 @@ struct EntryEngine::MemoryRow {
 };
 
 const EntryEngine::MemoryRow EntryEngine::MemoryTable[] = {
-    {"MC", &EntryEngine::ClearMemory, false},    {"MR", &EntryEngine::ReturnMemory, false},
-    {"MS", &EntryEngine::StoreMemory, true},     {"M+", &EntryEngine::AddMemory, true},
-    {"C", &EntryEngine::ClearEverything, false}, {"Pi", &EntryEngine::RecallPi, false},
+    {"MC", &EntryEngine::ClearMemory, false}, {"MR", &EntryEngine::ReturnMemory, false},
+    {"MS", &EntryEngine::StoreMemory, true},  {"M+", &EntryEngine::AddMemory, true},
+    {"C", &EntryEngine::ClearAll, false},     {"Pi", &EntryEngine::RecallPi, false},
 };
 
 void EntryEngine::Memory(const PressedKey& key) {
@@ -25,24 +25,24 @@ void EntryEngine::Memory(const PressedKey& key) {
     if (row.WantsNumber && RefuseNoNumber()) return;
     (this->*row.Act)();
   }
-  Host.ShowMemory(MemoryCell.Indicator());
+  Host.ShowMemory(Now.MemoryCell.Indicator());
   Says.Say(key.SpokenName);
-  LastAction = qves::LastAction::Memory;
-  DecimalEntered = false;
+  Now.LastAction = ActionKind::Memory;
+  Now.DecimalEntered = false;
 }
 
 void EntryEngine::ClearMemory() {
-  MemoryCell.Clear();
+  Now.MemoryCell.Clear();
 }
 
 void EntryEngine::StoreMemory() {
-  MemoryCell.Store(DisplayText());
+  Now.MemoryCell.Store(Now.DisplayText());
   OnStored();
 }
 
 void EntryEngine::AddMemory() {
-  const double sum = Checked(ValueOf(RecalledText()) + ValueOf(DisplayText()));
-  MemoryCell.Store(WriteNumber(sum));
+  const double sum = Checked(ValueOf(RecalledText()) + ValueOf(Now.DisplayText()));
+  Now.MemoryCell.Store(WriteNumber(sum));
   OnStored();
 }
 
@@ -59,15 +59,15 @@ void EntryEngine::RecallPi() {
 /// After an operator a recalled number begins its second operand, as a digit does.
 void EntryEngine::Recall(std::string text, double value) {
   if (SecondOperandDue()) BeginSecondOperand();
-  EntryText = std::move(text);
-  CurrentValue = value;
-  ErrorState = false;
+  Now.EntryText = std::move(text);
+  Now.CurrentValue = value;
+  Now.ErrorState = false;
   Show();
 }
 
 /// A display that is no number cannot be stored: said, and nothing changes.
 bool EntryEngine::RefuseNoNumber() {
-  if (!ErrorState && ReadNumber(DisplayText())) return false;
+  if (!Now.ErrorState && ReadNumber(Now.DisplayText())) return false;
   Says.SayError();
   return true;
 }

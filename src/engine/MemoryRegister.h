@@ -15,6 +15,7 @@ class MemoryRegister {
   void Clear();
   /// Keeps the text as it stands, a trailing point included.
   void Store(std::string_view text);
+  bool operator==(const MemoryRegister&) const = default;
 
  private:
   std::string MemoryText = "0";

@@ -147,14 +147,14 @@ class ListBox : public ListControl {
   const ListItem& Chosen() const { return Items[static_cast<std::size_t>(ListIndex)]; }
 };
 
-/// A list of data that grows and shrinks.
+/// A list of data that grows and shrinks. It shows data that somebody else has.
 class ListView : public ListControl {
  public:
   using ListControl::ListControl;
-  std::vector<std::string> Items;
+  std::vector<std::string>* Items = nullptr;  ///< null: it is empty
 
-  int ItemCount() const override { return static_cast<int>(Items.size()); }
-  const std::string& ItemText(int item) const override { return Items[static_cast<std::size_t>(item)]; }
+  int ItemCount() const override { return Items ? static_cast<int>(Items->size()) : 0; }
+  const std::string& ItemText(int item) const override { return (*Items)[static_cast<std::size_t>(item)]; }
 };
 
 /// A read-only document that reads itself aloud. Places are counted in bytes of `Text`.

@@ -121,7 +121,7 @@ void Form::PlaceChoice(ListControl& list, int item) {
 void Form::AppendItems(ListView& list, std::span<const std::string> items) {
   if (items.empty()) return;
   const int from = list.ItemCount();
-  list.Items.insert(list.Items.end(), items.begin(), items.end());
+  list.Items->insert(list.Items->end(), items.begin(), items.end());
   if (list.ListIndex == NoItem) list.ListIndex = 0;
   Tell([&](FormObserver& observer) {
     observer.ItemsChanged(*this, list, from, 0, static_cast<int>(items.size()));
@@ -130,8 +130,8 @@ void Form::AppendItems(ListView& list, std::span<const std::string> items) {
 
 void Form::RemoveItems(ListView& list, int from, int count) {
   if (count == 0) return;
-  const auto first = list.Items.begin() + from;
-  list.Items.erase(first, first + count);
+  const auto first = list.Items->begin() + from;
+  list.Items->erase(first, first + count);
   if (list.ListIndex >= from + count)
     list.ListIndex -= count;
   else if (list.ListIndex >= from)

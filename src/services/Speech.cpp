@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "model/ArithmeticFault.h"
+#include "services/MessageIds.h"
 #include "services/Text.h"
 #include "services/VoiceMessages.h"
 
@@ -15,14 +16,6 @@ namespace {
 
 constexpr int PrimaryLanguageMask = 1023;
 constexpr int PitchSteps = 19;  // step 1 is the minimum, step 20 the maximum
-
-constexpr int LineBreakMessage = 402;
-constexpr int PointMessage = 1073;
-constexpr int DecimalSeparatorMessage = 1081;
-constexpr int MinusMessage = 1204;
-constexpr int TimesMessage = 1208;
-constexpr int MsgBaseMessage = 99;
-constexpr int CharacterNames = 4000;  // + the ASCII code
 
 bool IsDigit(char c) {
   return c >= '0' && c <= '9';
@@ -224,7 +217,8 @@ std::string SpeechService::SpeakableChar(std::string_view character) const {
   if (character[0] == 11 || character[0] == 13) return Messages.GetMessage(LineBreakMessage) + " ";
   if (!SpeechEngine || character.size() > 1) return std::string(character);
   // No engine library tells a character's name, so all engines share the names of the message file.
-  const std::string& name = Messages.GetMessage(CharacterNames + static_cast<unsigned char>(character[0]));
+  const std::string& name =
+      Messages.GetMessage(CharacterNameMessages + static_cast<unsigned char>(character[0]));
   return name.empty() ? std::string(character) : name;
 }
 

@@ -1,5 +1,7 @@
 #include "services/VoiceMessages.h"
 
+#include "services/MessageIds.h"
+
 namespace qves {
 namespace {
 
@@ -9,25 +11,28 @@ struct WordRow {
 };
 
 constexpr WordRow SpokenWords[] = {
-    {&VoiceWords::Separator, 1081},
-    {&VoiceWords::Point, 1073},
-    {&VoiceWords::SpokenMinus, 1204},
+    {&VoiceWords::Separator, DecimalSeparatorMessage},
+    {&VoiceWords::Point, PointMessage},
+    {&VoiceWords::SpokenMinus, MinusMessage},
 };
 
 /// They have blanks around where they are spoken.
 constexpr WordRow HeardWords[] = {
-    {&VoiceWords::HeardPoint, 1073},    {&VoiceWords::LeftParen, 4040}, {&VoiceWords::Plus, 1206},
-    {&VoiceWords::Minus, 1204},         {&VoiceWords::Times, 1208},     {&VoiceWords::DividedBy, 1207},
-    {&VoiceWords::Equals, 1720},        {&VoiceWords::Of, 1721},        {&VoiceWords::About, 1722},
+    {&VoiceWords::HeardPoint, PointMessage},
+    {&VoiceWords::LeftParen, 4040},
+    {&VoiceWords::Plus, 1206},
+    {&VoiceWords::Minus, MinusMessage},
+    {&VoiceWords::Times, TimesMessage},
+    {&VoiceWords::DividedBy, 1207},
+    {&VoiceWords::Equals, 1720},
+    {&VoiceWords::Of, 1721},
+    {&VoiceWords::About, 1722},
     {&VoiceWords::TimesTenToThe, 1723},
 };
 
 /// A function as a tape line writes it, and the name of its button.
 constexpr std::pair<std::string_view, int> Functions[] = {{"Sqr", 1000}};
 
-constexpr int NameOfPeriod = 4046;
-constexpr int FirstMonth = 1587;  // abbreviated
-constexpr int FirstFullMonth = 1730;
 constexpr int MonthCount = 12;
 
 std::string Trimmed(std::string_view text) {
@@ -42,12 +47,12 @@ VoiceWords ReadVoiceWords(const MessageStore& messages) {
   VoiceWords words;
   for (const WordRow& row : SpokenWords) words.*row.Word = messages.GetMessage(row.Message);
   for (const WordRow& row : HeardWords) words.*row.Word = Trimmed(messages.GetMessage(row.Message));
-  if (words.HeardPoint.empty()) words.HeardPoint = messages.GetMessage(NameOfPeriod);
+  if (words.HeardPoint.empty()) words.HeardPoint = messages.GetMessage(CharacterNameMessages + '.');
   for (const auto& [written, message] : Functions)
     words.Functions.emplace_back(written, messages.GetMessage(message));
   for (int month = 0; month < MonthCount; ++month)
-    words.Months.emplace_back(messages.GetMessage(FirstMonth + month),
-                              messages.GetMessage(FirstFullMonth + month));
+    words.Months.emplace_back(messages.GetMessage(FirstMonthMessage + month),
+                              messages.GetMessage(FirstFullMonthMessage + month));
   return words;
 }
 

@@ -2,39 +2,10 @@
 
 #include <charconv>
 
+#include "model/UsKeyboard.h"
+
 namespace qves {
 namespace {
-
-struct LayoutKey {
-  int Code;
-  char Plain;
-  char Shifted;
-};
-
-/// The keys of a US layout that are neither letters nor blank.
-constexpr LayoutKey LayoutKeys[] = {
-    {'0', '0', ')'},
-    {'1', '1', '!'},
-    {'2', '2', '@'},
-    {'3', '3', '#'},
-    {'4', '4', '$'},
-    {'5', '5', '%'},
-    {'6', '6', '^'},
-    {'7', '7', '&'},
-    {'8', '8', '*'},
-    {'9', '9', '('},
-    {KeySemicolon, ';', ':'},
-    {KeyEqual, '=', '+'},
-    {KeyComma, ',', '<'},
-    {KeyMinus, '-', '_'},
-    {KeyPeriod, '.', '>'},
-    {KeySlash, '/', '?'},
-    {KeyGrave, '`', '~'},
-    {KeyLeftBracket, '[', '{'},
-    {KeyBackslash, '\\', '|'},
-    {KeyRightBracket, ']', '}'},
-    {KeyApostrophe, '\'', '"'},
-};
 
 struct NamedKey {
   std::string_view Name;
@@ -119,7 +90,7 @@ std::optional<KeyEvent> CharacterKey(char c) {
   if (c >= 'a' && c <= 'z') return KeyEvent{c - 'a' + 'A', NoShift, 0};
   if (c >= 'A' && c <= 'Z') return KeyEvent{c, ShiftBit, 0};
   if (c == ' ') return KeyEvent{KeySpace, NoShift, 0};
-  for (const LayoutKey& key : LayoutKeys) {
+  for (const UsKey& key : UsKeys) {
     if (key.Plain == c) return KeyEvent{key.Code, NoShift, 0};
     if (key.Shifted == c) return KeyEvent{key.Code, ShiftBit, 0};
   }
@@ -133,7 +104,7 @@ char32_t TypedCharacter(const KeyEvent& event) {
   if (event.Code >= 'A' && event.Code <= 'Z')
     return static_cast<char32_t>(shifted ? event.Code : event.Code + 32);
   if (event.Code == KeySpace) return U' ';
-  for (const LayoutKey& key : LayoutKeys)
+  for (const UsKey& key : UsKeys)
     if (key.Code == event.Code) return static_cast<char32_t>(shifted ? key.Shifted : key.Plain);
   return 0;
 }

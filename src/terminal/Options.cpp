@@ -22,29 +22,30 @@ std::optional<Date> ParseDate(std::string_view text) {
   return date;
 }
 
-bool SetToday(Options& options, const std::string& value) {
+std::string SetToday(Options& options, const std::string& value) {
   options.Today = ParseDate(value);
-  return options.Today.has_value();
+  return options.Today ? "" : "a date such as 2026-01-31";
 }
 
-bool SetSeed(Options& options, const std::string& value) {
+std::string SetSeed(Options& options, const std::string& value) {
   unsigned long seed = 0;
   const auto [end, error] = std::from_chars(value.data(), value.data() + value.size(), seed);
   options.Seed = seed;
-  return error == std::errc() && end == value.data() + value.size();
+  return error == std::errc() && end == value.data() + value.size() ? "" : "a whole number";
 }
 
-bool SetSpeech(Options& options, const std::string& value) {
+std::string SetSpeech(Options& options, const std::string& value) {
   options.Speech = FindSpeechChoice(value);
-  return options.Speech || value == "transcript";
+  return options.Speech || value == "transcript" ? ""
+                                                 : "transcript, auto, speech-dispatcher, espeak-ng or off";
 }
 
 constexpr ValueOption<Options> ValueOptions[] = {
-    {"--view", ViewWants, [](Options& options, const std::string& value) { return SetView(options, value); }},
-    {"--home", HomeWants, [](Options& options, const std::string& value) { return SetHome(options, value); }},
-    {"--today", "a date such as 2026-01-31", SetToday},
-    {"--seed", "a whole number", SetSeed},
-    {"--speech", "transcript, auto, speech-dispatcher, espeak-ng or off", SetSpeech},
+    {"--view", [](Options& options, const std::string& value) { return SetView(options, value); }},
+    {"--home", [](Options& options, const std::string& value) { return SetHome(options, value); }},
+    {"--today", SetToday},
+    {"--seed", SetSeed},
+    {"--speech", SetSpeech},
 };
 
 }  // namespace
@@ -67,11 +68,13 @@ std::optional<Options> ParseOptions(const std::vector<std::string>& arguments, s
   return options;
 }
 
-std::string_view HelpText() {
+std::string HelpText() {
   return "qvescalc-cli [OPTIONS]             plays one short calculation and tells how to go on\n"
          "qvescalc-cli --script [FILE]       runs the commands of FILE, or of standard input\n"
          "\n"
-         "  --view standard|scientific|business|statistics   the view to open (default: the one used last)\n"
+         "  --view " +
+         ViewWords("|", "|") +
+         "   the view to open (default: the one used last)\n"
          "  --today YYYY-MM-DD                               the date that the calculator takes as today\n"
          "  --seed N                                         the start of the random numbers\n"
          "  --home DIR                                       all settings and documents lie below DIR\n"

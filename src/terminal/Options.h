@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
+#include "app/CommandLine.h"
 #include "platform/Outside.h"
-#include "posix/CommandLine.h"
 #include "speech/SpeechBackEnds.h"
 
 namespace qves {
@@ -25,6 +25,6 @@ struct Options : CommonOptions {
 std::optional<Options> ParseOptions(const std::vector<std::string>& arguments, std::string& error);
 
 /// What --help prints.
-std::string_view HelpText();
+std::string HelpText();
 
 }  // namespace qves

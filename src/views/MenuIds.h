@@ -3,8 +3,6 @@
 
 #include <array>
 
-#include "services/AppSettings.h"
-
 namespace qves {
 
 enum MenuId : int {
@@ -26,20 +24,14 @@ enum MenuId : int {
 
 struct MenuSpec {
   int Title;
-  std::array<int, 4> Items;  ///< 0 for none
+  std::array<int, 4> Items;  ///< 0 for none; those of the View menu are the views
 };
 
 /// The menus of a view that has nothing of its own in them.
 inline constexpr MenuSpec MenuTable[] = {
     {FileMenu, {ExitItem}},
-    {ViewMenu, {ScientificItem, StatisticsItem, StandardItem, BusinessItem}},
+    {ViewMenu, {}},
     {HelpMenu, {AboutItem, HotKeysItem, InverseItem}},
 };
-
-/// The CalcView of a View-menu item.
-constexpr int CalcViewOf(int item) {
-  constexpr int views[] = {ScientificView, StatisticsView, StandardView, BusinessView};
-  return views[item - ScientificItem];
-}
 
 }  // namespace qves

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "model/ArithmeticFault.h"
+#include "services/MessageIds.h"
 #include "services/WindowActivation.h"
 #include "views/LockKeys.h"
 #include "views/MakeControl.h"
@@ -10,15 +11,6 @@
 namespace qves {
 namespace {
 
-constexpr int TitleMessage = 100;
-constexpr int WelcomeMessage = 101;
-constexpr int CopyMessage = 50;
-constexpr int ErrorMessage = 1202;
-constexpr int CurrentValueMessage = 1201;
-constexpr int CheckedMessage = 1134;
-constexpr int ClearMessage = 1135;
-constexpr int AllSelectedMessage = 1600;
-constexpr int DisabledMessage = 1700;
 constexpr std::string_view HostWindow = " Quorvane 1000";
 constexpr KeyEvent CopyKey{'C', ControlBit, 0};
 constexpr KeyEvent SelectAllKey{'A', ControlBit, 0};
@@ -51,6 +43,8 @@ void View::AddMenus() {
     Menu shown{menu.Title, Message(menu.Title), {}};
     for (const int item : menu.Items)
       if (item != NoMessage) shown.Items.push_back({item, Message(item)});
+    if (menu.Title == ViewMenu)
+      for (const int item : Frame.ViewItems()) shown.Items.push_back({item, Message(item)});
     MenuList.push_back(std::move(shown));
   }
 }
@@ -63,8 +57,8 @@ void View::Form_Load() {
   Engine->ClearAll();
   // Silently: the view's name is being spoken.
   PlaceFocus(*Display);
-  Services_.Settings.CalcView = static_cast<std::int16_t>(Tables.CalcView);
-  Services_.Speech.SpeakTextQueued(Message(Tables.NameMessage));
+  Services_.Settings.CalcView = static_cast<std::int16_t>(Frame.Identity().CalcView);
+  Services_.Speech.SpeakTextQueued(Message(Frame.Identity().NameMessage));
   Frame.ViewLoaded();
 }
 
@@ -237,16 +231,8 @@ void View::OnMenu(int id) {
     case StatisticsHotKeysItem:
       return Frame.OpenHelp(id);
     default:
-      return ChooseView(id);
+      return Frame.ChooseView(id);
   }
-}
-
-void View::ChooseView(int id) {
-  const int calcView = CalcViewOf(id);
-  if (calcView == Tables.CalcView)
-    Services_.Speech.SpeakText(Message(id));
-  else
-    Frame.SwitchView(calcView);
 }
 
 }  // namespace qves

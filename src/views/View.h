@@ -19,11 +19,9 @@ namespace qves {
 /// The tables of one view.
 struct ViewTables {
   std::string_view FormName;
-  int CalcView = 0;
-  int NameMessage = 0;  ///< its View-menu item, spoken when it is shown
   std::span<const ControlSpec> Controls;
-  std::span<const PanelSpec> Panels;
-  std::span<const KeyRow> KeyMap;
+  std::span<const PanelSpec> Panels = {};
+  std::span<const KeyRow> KeyMap = {};
   std::span<const MenuSpec> Menus = MenuTable;
   std::span<const ClickRow> Clicks = {};  ///< of the controls that this view has alone
   std::string_view RestingControl = {};   ///< where the focus goes, without a word, after a key has acted
@@ -37,7 +35,6 @@ class View : public Form, protected EngineHost {
   void Form_Unload() override;
   void NotifyKeyDown(bool& handled, const KeyEvent& event) override;
   void Form_KeyUp(int keyCode) override;
-  StateFields EngineState() const override { return Engine->Fields(); }
 
  protected:
   /// The view's engine; each view gives its own once, in its constructor.
@@ -82,7 +79,6 @@ class View : public Form, protected EngineHost {
   void SayOf(const Control& control, bool queued);
   const std::string& StateOf(const CheckBox& box) const;
   KeyUse TextBoxKey(TextBox& box, const KeyEvent& event);
-  void ChooseView(int id);
   const std::string& Message(int id) const { return Services_.Messages.GetMessage(id); }
 
   const ViewTables& Tables;

@@ -1,15 +1,27 @@
 // What a view asks of the application around it.
 #pragma once
 
+#include <vector>
+
 namespace qves {
 
 class Form;
 
+/// What tells a view from the others.
+struct ViewIdentity {
+  int CalcView = 0;     ///< its number in the settings
+  int NameMessage = 0;  ///< its name, and its item in the View menu
+};
+
 class ViewFrame {
  public:
   virtual ~ViewFrame() = default;
-  /// Unloads the current view and shows the one of that CalcView.
-  virtual void SwitchView(int calcView) = 0;
+  /// Of the view that is current.
+  virtual ViewIdentity Identity() const = 0;
+  /// The items of the View menu.
+  virtual std::vector<int> ViewItems() const = 0;
+  /// Unloads the current view and shows the one of that View-menu item; says its name when it is current.
+  virtual void ChooseView(int menuItem) = 0;
   /// Unloads the current view; the program ends.
   virtual void Exit() = 0;
   /// Creates the hidden host form if need be and makes `keyTarget` the receiver of keys.

@@ -1,11 +1,14 @@
-// Random keys, the same ones in every run: whatever is typed, the view answers, and its display stays whole.
+// Random keys, the same ones in every run: whatever is typed, the view answers, its display stays whole, and
+// no number that it holds is a negative zero.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cmath>
 #include <random>
 
 #include "FakePlatform.h"
 #include "app/CalculatorApp.h"
-#include "engine/Numbers.h"
+#include "formulas/Numbers.h"
 #include "services/ServiceSet.h"
 
 namespace qves {
@@ -66,6 +69,19 @@ bool IsWholeDisplay(const std::string& text) {
   return ParseNumber(text) || text.ends_with('(') || text.find("day, ") != std::string::npos;
 }
 
+bool IsNegativeZero(double value) {
+  return value == 0 && std::signbit(value);
+}
+
+bool HasNegativeZero(const StateFields& fields) {
+  return std::ranges::any_of(fields, [](const StateField& field) {
+    if (const auto* numbers = std::get_if<std::vector<double>>(&field.Value))
+      return std::ranges::any_of(*numbers, IsNegativeZero);
+    const auto* number = std::get_if<double>(&field.Value);
+    return number && IsNegativeZero(*number);
+  });
+}
+
 struct RandomCase {
   int View;
   std::span<const int> Usual;
@@ -108,6 +124,7 @@ TEST_P(RandomKeys, NothingBreaksAndEveryDisplayIsWhole) {
     set.All.Speech.EndTurn();
     outside.Speech.Said.clear();
     ASSERT_TRUE(IsWholeDisplay(display.Text)) << display.Text;
+    ASSERT_FALSE(i % 10 == 0 && HasNegativeZero(form.EngineState())) << i;
   }
   const auto escape = [&] { app.KeyDown({KeyEscape, NoShift, 0}); };
   if (app.ActiveForm() != &form) {  // a dialog is open

@@ -139,7 +139,7 @@ struct StatisticsViewTest : testing::Test, AppObserver {
     App.ActiveForm()->ChooseMenu(302);
   }
   std::size_t Points() {
-    return dynamic_cast<const ListView&>(*App.ActiveForm()->Find("lvwData")).Items.size();
+    return dynamic_cast<const ListView&>(*App.ActiveForm()->Find("lvwData")).Items->size();
   }
   std::string Display() { return dynamic_cast<const TextBox&>(*App.ActiveForm()->Find("txtDisplay")).Text; }
 };

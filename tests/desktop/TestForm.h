@@ -75,6 +75,7 @@ class TestForm : public Form {
       control = std::make_unique<CountingList>(spec, "", spoken, help);
     else
       control = std::make_unique<Button>(spec, caption, spoken, help);
+    if (auto* list = dynamic_cast<ListView*>(control.get())) list->Items = &Points;
     control->Speaking.Quiescent = false;
     Add(std::move(control));
   }
@@ -94,6 +95,7 @@ class TestForm : public Form {
   void OnMenu(int id) override { Log.push_back("menu " + std::to_string(id)); }
 
   std::vector<std::string> Log;
+  std::vector<std::string> Points;
 };
 
 }  // namespace qves

@@ -1,12 +1,12 @@
 #include "views/business/BusinessEngine.h"
 
-#include "engine/Numbers.h"
+#include "formulas/MoneyText.h"
+#include "formulas/Numbers.h"
 #include "views/business/BusinessOperators.h"
-#include "views/business/MoneyText.h"
 
 namespace qves {
 
-using enum qves::LastAction;
+using enum ActionKind;
 
 std::span<const OperatorRow> BusinessEngine::Shared() {
   return business::Operators;
@@ -16,10 +16,10 @@ std::span<const OperatorRow> BusinessEngine::Shared() {
 /// were before it.
 void BusinessEngine::BeginKey() {
   EntryEngine::BeginKey();
-  const bool hasPrefix = LastAction == Rcl || LastAction == Sto || LastAction == Cal;
-  Prefix = hasPrefix ? LastAction : None;
-  if (hasPrefix) LastAction = PrevAction;
-  PrevAction = LastAction;
+  const bool hasPrefix = Now.LastAction == Rcl || Now.LastAction == Sto || Now.LastAction == Cal;
+  Prefix = hasPrefix ? Now.LastAction : None;
+  if (hasPrefix) Now.LastAction = Now.PrevAction;
+  Now.PrevAction = Now.LastAction;
 }
 
 /// The memory group's "CF" clears the registers; the rest is every view's.
@@ -29,16 +29,16 @@ void BusinessEngine::Memory(const PressedKey& key) {
 }
 
 void BusinessEngine::ClearFinancial() {
-  Registers = {};
-  Registers.BeginDate = Registers.EndDate = ToDayNumber(Modes.Today());
-  AmortPrincipal = AmortInterest = 0;
-  ExchangeToggle = -1;
-  BondPrice = AccruedInterest = 0;
+  Now.Registers = {};
+  Now.Registers.BeginDate = Now.Registers.EndDate = ToDayNumber(Modes.Today());
+  Now.AmortPrincipal = Now.AmortInterest = 0;
+  Now.ExchangeToggle = -1;
+  Now.BondPrice = Now.AccruedInterest = 0;
 }
 
 void BusinessEngine::ShowMoney(double value) {
-  EntryText = NumberToText(value);
-  ShowInstead(FormatMoney(EntryText));
+  Now.EntryText = NumberToText(value);
+  ShowInstead(FormatMoney(Now.EntryText));
 }
 
 /// The first operand goes through its general text, which drops zeros at its end: a year that ends in 0
@@ -47,33 +47,8 @@ void BusinessEngine::AddToDate(double first, double& second) {
   const DateNames& names = Modes.NamesOfDates();
   const DayNumber day = AddDays(ParseDateNumber(NumberToText(first), names), second);
   second = TextToNumber(FormatDateNumber(day));
-  EntryText = FormatLongDate(day, names);
+  Now.EntryText = FormatLongDate(day, names);
   Show(ValueKind::DateText);
-}
-
-StateFields BusinessEngine::Fields() const {
-  StateFields fields = EntryEngine::Fields();
-  fields.insert(fields.end(), {{"PrevAction", std::string(ToWord(PrevAction))},
-                               {"SpokenMsgId", double{1} * SpokenMsgId},
-                               {"n", Registers.N},
-                               {"i", Registers.I},
-                               {"PV", Registers.PV},
-                               {"PMT", Registers.PMT},
-                               {"FV", Registers.FV},
-                               {"CF0", Registers.CF0},
-                               {"CashFlows", Registers.CashFlows},
-                               {"FlowCount", double{1} * Registers.FlowCount()},
-                               {"LastGroupCount", double{1} * Registers.LastGroupCount},
-                               {"j", Registers.J},
-                               {"BeginDate", double{1} * Registers.BeginDate},
-                               {"EndDate", double{1} * Registers.EndDate},
-                               {"AmortPrincipal", AmortPrincipal},
-                               {"AmortInterest", AmortInterest},
-                               {"ExchangeToggle", ExchangeToggle},
-                               {"BondPrice", BondPrice},
-                               {"AccruedInterest", AccruedInterest},
-                               {"BondValid", double{1} * BondValid}});
-  return fields;
 }
 
 }  // namespace qves

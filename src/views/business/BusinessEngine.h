@@ -3,7 +3,7 @@
 #pragma once
 
 #include "engine/EntryEngine.h"
-#include "views/business/FinancialRegisters.h"
+#include "views/business/BusinessState.h"
 
 namespace qves {
 
@@ -23,11 +23,11 @@ class BusinessHost {
 
 class BusinessEngine : public EntryEngine {
  public:
-  BusinessEngine(EngineHost& host, BusinessHost& modes, Announcer& announcer)
-      : EntryEngine(Shared(), host, announcer), Modes(modes) {}
+  BusinessEngine(BusinessState& state, EngineHost& host, BusinessHost& modes, Announcer& announcer)
+      : EntryEngine(state, Shared(), host, announcer), Modes(modes), Now(state) {}
 
   void BeginKey() override;
-  void Memory(const PressedKey& key) override;
+  void Memory(const PressedKey& key);
 
   // RegisterKeys.cpp
   /// CAL, RCL or STO: what the next register key does. It says its name and help each time.
@@ -39,7 +39,6 @@ class BusinessEngine : public EntryEngine {
 
   /// Every register to 0, the dates to today.
   void ClearFinancial();
-  StateFields Fields() const override;
 
  protected:
   void Evaluate(double first, double& second, std::string_view op) override;
@@ -60,8 +59,8 @@ class BusinessEngine : public EntryEngine {
   void RecallFlow();
   void RecallFlowCount();
   void RecallNothing() {}
-  void FinishKey(qves::LastAction action);
-  const std::string& RegisterName() const { return Says.Message(SpokenMsgId); }
+  void FinishKey(ActionKind action);
+  const std::string& RegisterName() const { return Says.Message(Now.SpokenMsgId); }
 
   // Solver.cpp
   struct SolverRow;
@@ -92,17 +91,8 @@ class BusinessEngine : public EntryEngine {
   double FindDays(double);
 
   BusinessHost& Modes;
-  FinancialRegisters Registers;
-
-  qves::LastAction PrevAction = qves::LastAction::None;
-  qves::LastAction Prefix = qves::LastAction::None;  ///< the prefix that the key now acting has, if any
-  int SpokenMsgId = 0;                               ///< names the register or function announced last
-  double AmortPrincipal = 0;
-  double AmortInterest = 0;
-  double ExchangeToggle = -1;  ///< -1 or 0: which result of a pair the exchange key shows next
-  double BondPrice = 0;
-  double AccruedInterest = 0;
-  int BondValid = 0;  ///< coupons left at the last bond price
+  BusinessState& Now;
+  ActionKind Prefix = ActionKind::None;  ///< the prefix that the key now acting has, if any
 };
 
 }  // namespace qves

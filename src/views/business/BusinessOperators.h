@@ -3,7 +3,8 @@
 #pragma once
 
 #include "engine/Operators.h"
-#include "views/business/Percent.h"
+#include "formulas/Arithmetic.h"
+#include "formulas/Percent.h"
 
 namespace qves::business {
 

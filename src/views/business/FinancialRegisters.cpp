@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "engine/Numbers.h"
+#include "formulas/Numbers.h"
 #include "model/ArithmeticFault.h"
 
 namespace qves {

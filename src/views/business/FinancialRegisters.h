@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "views/business/Dates.h"
+#include "formulas/Dates.h"
 
 namespace qves {
 
@@ -21,6 +21,8 @@ struct FinancialRegisters {
   std::int16_t LastGroupCount = 0;
   DayNumber BeginDate = 0;
   DayNumber EndDate = 0;
+
+  bool operator==(const FinancialRegisters&) const = default;
 
   std::int16_t FlowCount() const { return static_cast<std::int16_t>(CashFlows.size() - 1); }
 };

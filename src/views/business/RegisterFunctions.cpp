@@ -2,13 +2,13 @@
 // to stay only when that has not failed.
 #include <cmath>
 
-#include "engine/Numbers.h"
-#include "views/business/Amortization.h"
-#include "views/business/Bonds.h"
+#include "formulas/Amortization.h"
+#include "formulas/Bonds.h"
+#include "formulas/CashFlows.h"
+#include "formulas/Depreciation.h"
+#include "formulas/Numbers.h"
 #include "views/business/BusinessEngine.h"
 #include "views/business/BusinessOperators.h"
-#include "views/business/CashFlows.h"
-#include "views/business/Depreciation.h"
 
 namespace qves {
 namespace {
@@ -36,7 +36,7 @@ void BusinessEngine::Evaluate(double first, double& second, std::string_view op)
   for (const FunctionRow& row : FunctionTable) {
     if (row.Caption != op) continue;
     second = (this->*row.Find)(second);
-    SpokenMsgId = row.NameMessage;
+    Now.SpokenMsgId = row.NameMessage;
     Says.Say(RegisterName());
     return ShowMoney(second);
   }
@@ -47,57 +47,57 @@ void BusinessEngine::Evaluate(double first, double& second, std::string_view op)
 }
 
 double BusinessEngine::FindInterest(double) {
-  return SimpleInterest(Registers.PV, Registers.I, Registers.N, Modes.InterestBasis());
+  return SimpleInterest(Now.Registers.PV, Now.Registers.I, Now.Registers.N, Modes.InterestBasis());
 }
 
 double BusinessEngine::FindNPV(double) {
-  return Checked(rtcNPV(Registers.I, Registers.CashFlows) + Registers.CF0);
+  return rtcNPV(Now.Registers.I, Now.Registers.CF0, Now.Registers.CashFlows);
 }
 
 double BusinessEngine::FindIRR(double) {
-  std::vector<double> flows = {Registers.CF0};
-  flows.insert(flows.end(), Registers.CashFlows.begin(), Registers.CashFlows.end() - 1);
+  std::vector<double> flows = {Now.Registers.CF0};
+  flows.insert(flows.end(), Now.Registers.CashFlows.begin(), Now.Registers.CashFlows.end() - 1);
   return Checked(rtcIRR(flows) * 100);
 }
 
 double BusinessEngine::FindStraightLine(double) {
-  return rtcSLN(Registers.PV, Registers.FV, Registers.N);
+  return rtcSLN(Now.Registers.PV, Now.Registers.FV, Now.Registers.N);
 }
 
 double BusinessEngine::FindSumOfYears(double year) {
-  return rtcSYD(Registers.PV, Registers.FV, Registers.N, year);
+  return rtcSYD(Now.Registers.PV, Now.Registers.FV, Now.Registers.N, year);
 }
 
 double BusinessEngine::FindDecliningBalance(double year) {
-  return rtcDDB(Registers.PV, Registers.FV, Registers.N, year, Registers.I);
+  return rtcDDB(Now.Registers.PV, Now.Registers.FV, Now.Registers.N, year, Now.Registers.I);
 }
 
 /// The number of payments, where there is none, is found first, and stays even if the rest fails. It is cut
 /// to a whole one, where a solved one is rounded up, and the chosen timing counts for it alone: wanted so.
 double BusinessEngine::FindAmortization(double payments) {
-  FinancialRegisters& r = Registers;
-  if (r.N == 0) r.N = std::trunc(SolvedPeriods());
+  FinancialRegisters& r = Now.Registers;
+  if (r.N == 0) r.N = Checked(std::trunc(SolvedPeriods()));
   const AmortizedPart part = Amortize(r.I, r.N, r.PV, ToInt16(payments));
   r.N -= payments;
   r.PV -= part.Principal;
-  AmortPrincipal = -part.Principal;
-  AmortInterest = -part.Interest;
-  return AmortInterest;
+  Now.AmortPrincipal = Checked(-part.Principal);
+  Now.AmortInterest = Checked(-part.Interest);
+  return Now.AmortInterest;
 }
 
 double BusinessEngine::FindPrice(double) {
-  FinancialRegisters& r = Registers;
+  FinancialRegisters& r = Now.Registers;
   const Bond bond = {FindCoupons(r.BeginDate, r.EndDate), r.PMT, r.FV == 0 ? Par : r.FV};
-  BondValid = 0;
-  const double price = qves::BondPrice(bond, r.I);
+  Now.BondValid = 0;
+  const double price = BondPrice(bond, r.I);
   r.FV = bond.Redemption;
-  BondValid = bond.Coupons.Count;
-  AccruedInterest = qves::AccruedInterest(bond);
-  return BondPrice = price;
+  Now.BondValid = bond.Coupons.Count;
+  Now.AccruedInterest = AccruedInterest(bond);
+  return Now.BondPrice = price;
 }
 
 double BusinessEngine::FindYield(double) {
-  FinancialRegisters& r = Registers;
+  FinancialRegisters& r = Now.Registers;
   const Bond bond = {FindCoupons(r.BeginDate, r.EndDate), r.PMT, r.FV == 0 ? Par : r.FV};
   const double percent = Checked(BondYield(bond, r.PV) * 100);
   r.FV = bond.Redemption;
@@ -105,7 +105,7 @@ double BusinessEngine::FindYield(double) {
 }
 
 double BusinessEngine::FindDays(double) {
-  return double{1} * Registers.EndDate - Registers.BeginDate;
+  return double{1} * Now.Registers.EndDate - Now.Registers.BeginDate;
 }
 
 }  // namespace qves

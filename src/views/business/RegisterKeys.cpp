@@ -1,19 +1,13 @@
 // The register keys with their prefixes, and the exchange key.
-#include "engine/Numbers.h"
+#include "formulas/MoneyText.h"
+#include "formulas/Numbers.h"
+#include "services/MessageIds.h"
 #include "services/Text.h"
 #include "views/business/BusinessEngine.h"
-#include "views/business/MoneyText.h"
 
 namespace qves {
 
-using enum qves::LastAction;
-
-namespace {
-
-constexpr int ClearAllMessage = 1062;
-constexpr int StoredMessage = 1562;
-
-}  // namespace
+using enum ActionKind;
 
 /// A register is a number (stored divided by `Scale`), a date, or has handlers of its own.
 struct BusinessEngine::RegisterRow {
@@ -50,22 +44,22 @@ const BusinessEngine::RegisterRow& BusinessEngine::FindRegister(std::string_view
 void BusinessEngine::PrefixKey(const PressedKey& key) {
   struct PrefixRow {
     std::string_view Caption;
-    qves::LastAction Tag;
+    ActionKind Tag;
   };
   constexpr PrefixRow rows[] = {{"CAL", Cal}, {"RCL", Rcl}, {"STO", Sto}};
   for (const PrefixRow& row : rows)
-    if (row.Caption == key.Caption) LastAction = row.Tag;
+    if (row.Caption == key.Caption) Now.LastAction = row.Tag;
   Says.Say(key.SpokenName);
   Says.SayHelp(key.HelpText);
 }
 
 void BusinessEngine::RegisterKey(const PressedKey& key) {
-  if (ErrorState && Prefix != Rcl) {
+  if (Now.ErrorState && Prefix != Rcl) {
     ClearAll();
     return Says.SayMessage(ClearAllMessage);
   }
   const RegisterRow& row = FindRegister(key.Caption);
-  SpokenMsgId = row.NameMessage;
+  Now.SpokenMsgId = row.NameMessage;
   if (Prefix == Cal)
     SolveRegister(row.Tag);
   else if (Prefix == Rcl)
@@ -74,56 +68,56 @@ void BusinessEngine::RegisterKey(const PressedKey& key) {
     Store(row);
 }
 
-void BusinessEngine::FinishKey(qves::LastAction action) {
-  if (Prefix != None) PrevAction = Prefix;
-  LastAction = action;
-  DecimalEntered = false;
+void BusinessEngine::FinishKey(ActionKind action) {
+  if (Prefix != None) Now.PrevAction = Prefix;
+  Now.LastAction = action;
+  Now.DecimalEntered = false;
 }
 
 void BusinessEngine::Store(const RegisterRow& row) {
   if (row.OnStore)
     (this->*row.OnStore)();
   else if (row.Day)
-    Registers.*row.Day = ParseDateNumber(EntryText, Modes.NamesOfDates());
+    Now.Registers.*row.Day = ParseDateNumber(Now.EntryText, Modes.NamesOfDates());
   else
-    Registers.*row.Number = CurrentValue / row.Scale;
+    Now.Registers.*row.Number = Checked(Now.CurrentValue / row.Scale);
   FinishKey(Fin);
   Says.Say(FillPlaceholders(Says.Message(StoredMessage), {RegisterName()}));
 }
 
 /// Without a prefix a flow is added; after STO flow j is changed, if there is one.
 void BusinessEngine::StoreFlow() {
-  if (Prefix != Sto) return AppendFlow(Registers, CurrentValue);
-  if (double* flow = FindFlow(Registers)) *flow = CurrentValue;
+  if (Prefix != Sto) return AppendFlow(Now.Registers, Now.CurrentValue);
+  if (double* flow = FindFlow(Now.Registers)) *flow = Now.CurrentValue;
 }
 
 void BusinessEngine::StoreCount() {
-  RepeatLastFlow(Registers, CurrentValue);
-  CurrentValue = Registers.LastGroupCount;
+  RepeatLastFlow(Now.Registers, Now.CurrentValue);
+  Now.CurrentValue = Now.Registers.LastGroupCount;
 }
 
 void BusinessEngine::RecallFlow() {
-  const double* flow = FindFlow(Registers);
-  CurrentValue = flow ? *flow : 0;
+  const double* flow = FindFlow(Now.Registers);
+  Now.CurrentValue = flow ? *flow : 0;
 }
 
 void BusinessEngine::RecallFlowCount() {
-  CurrentValue = Registers.FlowCount();
+  Now.CurrentValue = Now.Registers.FlowCount();
 }
 
 void BusinessEngine::Recall(const RegisterRow& row) {
   if (SecondOperandDue()) BeginSecondOperand();
-  ErrorState = false;
+  Now.ErrorState = false;
   if (row.Day) {
-    EntryText = FormatDateNumber(Registers.*row.Day);
-    CurrentValue = TextToNumber(EntryText);
+    Now.EntryText = FormatDateNumber(Now.Registers.*row.Day);
+    Now.CurrentValue = TextToNumber(Now.EntryText);
     Show(ValueKind::DateNumber);
   } else {
     if (row.OnRecall)
       (this->*row.OnRecall)();
     else
-      CurrentValue = Checked(Registers.*row.Number * row.Scale);
-    ShowMoney(CurrentValue);
+      Now.CurrentValue = Checked(Now.Registers.*row.Number * row.Scale);
+    ShowMoney(Now.CurrentValue);
   }
   FinishKey(Fin);
   // The display's text as it stands, where a solved register is spoken as a number: wanted so.
@@ -134,27 +128,27 @@ void BusinessEngine::Recall(const RegisterRow& row) {
 void BusinessEngine::ExchangeKey(const PressedKey&) {
   struct PairRow {
     std::string_view Op;
-    double BusinessEngine::*First;
+    double BusinessState::*First;
     int FirstMessage;
-    double BusinessEngine::*Second;
+    double BusinessState::*Second;
     int SecondMessage;
   };
   constexpr PairRow pairs[] = {
-      {"AMT", &BusinessEngine::AmortPrincipal, 1576, &BusinessEngine::AmortInterest, 1577},
-      {"Price", &BusinessEngine::AccruedInterest, 1578, &BusinessEngine::BondPrice, 1540},
+      {"AMT", &BusinessState::AmortPrincipal, 1576, &BusinessState::AmortInterest, 1577},
+      {"Price", &BusinessState::AccruedInterest, 1578, &BusinessState::BondPrice, 1540},
   };
-  if (ErrorState) return Says.SayError();
+  if (Now.ErrorState) return Says.SayError();
   std::string leadIn;
   for (const PairRow& pair : pairs) {
-    if (pair.Op != CurrentOp) continue;
-    const bool first = ExchangeToggle != 0;
-    CurrentValue = this->*(first ? pair.First : pair.Second);
-    SpokenMsgId = first ? pair.FirstMessage : pair.SecondMessage;
-    leadIn = Says.Message(SpokenMsgId) + " ";
+    if (pair.Op != Now.CurrentOp) continue;
+    const bool first = Now.ExchangeToggle != 0;
+    Now.CurrentValue = Now.*(first ? pair.First : pair.Second);
+    Now.SpokenMsgId = first ? pair.FirstMessage : pair.SecondMessage;
+    leadIn = Says.Message(Now.SpokenMsgId) + " ";
   }
-  ShowMoney(CurrentValue);
+  ShowMoney(Now.CurrentValue);
   FinishKey(Ex);
-  ExchangeToggle = ExchangeToggle != 0 ? 0 : -1;
+  Now.ExchangeToggle = Now.ExchangeToggle != 0 ? 0 : -1;
   Says.Say(leadIn + DisplayText());
 }
 

@@ -1,10 +1,10 @@
 // CAL and a register key: the register is solved from the other four.
 #include <cmath>
 
-#include "engine/Numbers.h"
-#include "views/business/Annuity.h"
+#include "formulas/Annuity.h"
+#include "formulas/Numbers.h"
+#include "formulas/OddPeriod.h"
 #include "views/business/BusinessEngine.h"
-#include "views/business/OddPeriod.h"
 
 namespace qves {
 
@@ -26,71 +26,74 @@ const BusinessEngine::SolverRow BusinessEngine::SolverTable[] = {
 void BusinessEngine::SolveRegister(std::string_view tag) {
   WholePeriods();  // more than a 16-bit count of them is a fault, whatever is solved
   for (const SolverRow& row : SolverTable)
-    if (row.Tag == tag) CurrentValue = (this->*row.Solve)();
-  ShowMoney(CurrentValue);
+    if (row.Tag == tag) Now.CurrentValue = (this->*row.Solve)();
+  ShowMoney(Now.CurrentValue);
   Says.SayValue(DisplayText(), DisplayKind(), RegisterName() + " ");
-  FinishKey(qves::LastAction::Uop);
+  FinishKey(ActionKind::Uop);
 }
 
 int BusinessEngine::WholePeriods() const {
-  return ToInt16(std::trunc(Registers.N));
+  return ToInt16(std::trunc(Now.Registers.N));
 }
 
 double BusinessEngine::OddFraction() const {
-  return Registers.N - std::trunc(Registers.N);
+  return Now.Registers.N - std::trunc(Now.Registers.N);
 }
 
 /// The present value with the interest of the odd period, which comes before the whole ones.
 double BusinessEngine::AdjustedPV() const {
-  return Checked(Registers.PV * OddPeriodFactor(Registers.I, OddFraction(), Modes.OddPeriod()));
+  return OddPeriodGrown(Now.Registers.PV, Now.Registers.I, OddFraction(), Modes.OddPeriod());
 }
 
 /// The present value keeps the odd period's interest: solved twice in a row it has it twice. This is wanted,
 /// here and in SolvePMT.
 double BusinessEngine::SolveFV() {
   const double presentValue = AdjustedPV();
-  Registers.FV = rtcFV(Registers.I, WholePeriods(), Registers.PMT, presentValue, Modes.PaymentMode());
-  Registers.PV = presentValue;
-  return Registers.FV;
+  Now.Registers.FV =
+      rtcFV(Now.Registers.I, WholePeriods(), Now.Registers.PMT, presentValue, Modes.PaymentMode());
+  Now.Registers.PV = presentValue;
+  return Now.Registers.FV;
 }
 
 double BusinessEngine::SolvePMT() {
   const double presentValue = AdjustedPV();
-  Registers.PMT = rtcPMT(Registers.I, WholePeriods(), presentValue, Registers.FV, Modes.PaymentMode());
-  Registers.PV = presentValue;
-  return Registers.PMT;
+  Now.Registers.PMT =
+      rtcPMT(Now.Registers.I, WholePeriods(), presentValue, Now.Registers.FV, Modes.PaymentMode());
+  Now.Registers.PV = presentValue;
+  return Now.Registers.PMT;
 }
 
 double BusinessEngine::SolvePV() {
-  const double value = rtcPV(Registers.I, WholePeriods(), Registers.PMT, Registers.FV, Modes.PaymentMode());
-  return Registers.PV = OddPeriodDiscount(value, Registers.I, OddFraction(), Modes.OddPeriod());
+  const FinancialRegisters& r = Now.Registers;
+  return Now.Registers.PV = OddPeriodPV(
+             r.I, {WholePeriods(), OddFraction(), r.PMT, r.PV, r.FV, Modes.PaymentMode(), Modes.OddPeriod()});
 }
 
 double BusinessEngine::SolveI() {
-  const FinancialRegisters& r = Registers;
-  const double rate = OddFraction() == 0 ? rtcRate(WholePeriods(), r.PMT, r.PV, r.FV, Modes.PaymentMode())
-                                         : SolveRateOdd({WholePeriods(), OddFraction(), r.PMT, r.PV, r.FV,
-                                                         Modes.PaymentMode(), Modes.OddPeriod()});
+  const FinancialRegisters& r = Now.Registers;
+  const Real rate = OddFraction() == 0 ? rtcRate(WholePeriods(), r.PMT, r.PV, r.FV, Modes.PaymentMode())
+                                       : SolveRateOdd({WholePeriods(), OddFraction(), r.PMT, r.PV, r.FV,
+                                                       Modes.PaymentMode(), Modes.OddPeriod()});
   const double percent = Checked(rate * 100);
-  Registers.I = rate;
+  Now.Registers.I = Checked(rate);
   return percent;
 }
 
 /// The number of periods that the other four give; rounding noise beside a whole number is cut off.
 double BusinessEngine::SolvedPeriods() const {
-  const FinancialRegisters& r = Registers;
+  const FinancialRegisters& r = Now.Registers;
   const double periods = rtcNPer(r.I, r.PMT, r.PV, r.FV, Modes.PaymentMode());
-  const double nearest = std::nearbyint(periods);
+  const double nearest = Checked(std::nearbyint(periods));
   return std::fabs(periods - nearest) < WholeTolerance ? nearest : periods;
 }
 
 /// A final part of a period counts as a whole one. Only pure growth, without payments, keeps its fraction.
 double BusinessEngine::SolveN() {
-  const FinancialRegisters& r = Registers;
+  const FinancialRegisters& r = Now.Registers;
   const bool isGrowth = r.PMT == 0 && r.PV != 0 && r.FV != 0 && r.I != 0;
   const double periods = SolvedPeriods();
   const double whole = std::trunc(periods);
-  return Registers.N = isGrowth || whole == periods ? periods : whole + 1;
+  return Now.Registers.N = isGrowth || whole == periods ? periods : whole + 1;
 }
 
 }  // namespace qves

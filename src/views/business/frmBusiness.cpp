@@ -2,20 +2,17 @@
 
 #include <charconv>
 
-#include "services/AppSettings.h"
-#include "views/MenuIds.h"
+#include "services/MessageIds.h"
 #include "views/business/BusinessControls.h"
 #include "views/business/BusinessKeyMap.h"
 
 namespace qves {
 namespace {
 
-constexpr int FirstWeekdayMessage = 1580;  // Sunday
-constexpr int FirstMonthMessage = 1587;    // January
-
 constexpr auto Prefix = Do<BusinessEngine, &BusinessEngine::PrefixKey>;
 
 constexpr ClickRow Clicks[] = {
+    {"cmdMemory", Do<BusinessEngine, &BusinessEngine::Memory>, FocusRule::Moves},
     {"cmdFinancial", Do<BusinessEngine, &BusinessEngine::RegisterKey>, FocusRule::Stays},
     {"cmdXchange", Do<BusinessEngine, &BusinessEngine::ExchangeKey>, FocusRule::Stays},
     {"cmdCal", Prefix, FocusRule::MovesSilently},
@@ -25,8 +22,6 @@ constexpr ClickRow Clicks[] = {
 
 constexpr ViewTables BusinessTables = {
     .FormName = "frmBusiness",
-    .CalcView = BusinessView,
-    .NameMessage = BusinessItem,
     .Controls = business::Controls,
     .Panels = business::Panels,
     .KeyMap = business::KeyMap,
@@ -46,7 +41,7 @@ frmBusiness::frmBusiness(Services& services, ViewFrame& frame)
   for (std::string& name : Names.Months) name = services.Messages.GetMessage(id++);
   EngineHost& host = *this;
   BusinessHost& modes = *this;
-  auto engine = std::make_unique<BusinessEngine>(host, modes, Says);
+  auto engine = std::make_unique<BusinessEngine>(State, host, modes, Says);
   engine->ClearFinancial();
   UseEngine(std::move(engine));
 }

@@ -11,6 +11,8 @@ class frmBusiness : public View, private BusinessHost {
   frmBusiness(Services& services, ViewFrame& frame);
 
  private:
+  StateFields EngineState() const override { return Describe(State); }
+
   // BusinessHost
   int PaymentMode() const override { return PMTMode->ListIndex; }
   int OddPeriod() const override { return OddPeriodMode->ListIndex; }
@@ -18,6 +20,7 @@ class frmBusiness : public View, private BusinessHost {
   Date Today() const override { return Services_.Outside.Clock.Today(); }
   const DateNames& NamesOfDates() const override { return Names; }
 
+  BusinessState State;
   ListBox* INTBase;
   ListBox* PMTMode;
   ListBox* OddPeriodMode;

@@ -3,8 +3,8 @@
 
 #include <string_view>
 
+#include "formulas/NumberBases.h"
 #include "model/Control.h"
-#include "views/scientific/NumberBases.h"
 
 namespace qves::scientific {
 

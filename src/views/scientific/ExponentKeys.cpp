@@ -1,5 +1,5 @@
 // Exponent entry: after "Exp" the digits, the point, Backspace and the sign belong to the exponent.
-#include "engine/Numbers.h"
+#include "formulas/Numbers.h"
 #include "views/scientific/ScientificEngine.h"
 
 namespace qves {
@@ -14,70 +14,76 @@ bool HasExponent(std::string_view text) {
 }  // namespace
 
 void ScientificEngine::StartExponent() {
-  ExpMantissa = EntryText;
-  ExpSign = "+";
-  ExpDigits.clear();
-  ExponentEntry = true;
+  Now.ExpMantissa = Now.EntryText;
+  Now.ExpSign = "+";
+  Now.ExpDigits.clear();
+  Now.Form = EntryForm::Exponent;
   ShowExponent();
 }
 
 /// Whether the entry has an exponent already, also after it has been written without the notation.
 bool ScientificEngine::RefusesExponent() {
-  if (ExponentEntry) return true;
-  if (NotationMode && EntryText.find('E') == std::string::npos) {
-    EntryText = NumberToText(ValueOf(EntryText));
-    NotationMode = false;
+  if (Now.Form == EntryForm::Exponent) return true;
+  if (Now.Form == EntryForm::Notation && Now.EntryText.find('E') == std::string::npos) {
+    Now.EntryText = NumberToText(ValueOf(Now.EntryText));
+    Now.Form = EntryForm::Plain;
     Show();
   }
-  return HasExponent(EntryText);
+  return HasExponent(Now.EntryText);
+}
+
+bool ScientificEngine::EndExponent() {
+  if (Now.Form != EntryForm::Exponent) return false;
+  Now.Form = EntryForm::Plain;
+  return true;
 }
 
 void ScientificEngine::ShowExponent() {
-  const std::string zeros(MostExponentDigits - ExpDigits.size(), '0');
-  EntryText = ExpMantissa + "e" + ExpSign + zeros + ExpDigits;
+  const std::string zeros(MostExponentDigits - Now.ExpDigits.size(), '0');
+  Now.EntryText = Now.ExpMantissa + "e" + Now.ExpSign + zeros + Now.ExpDigits;
   Show();
 }
 
 /// The sign of the exponent, never that of the mantissa.
 void ScientificEngine::FlipExponentSign() {
-  ExpSign = ExpSign == "+" ? "-" : "+";
+  Now.ExpSign = Now.ExpSign == "+" ? "-" : "+";
   ShowExponent();
-  CurrentValue = ValueOf(EntryText);
+  Now.CurrentValue = ValueOf(Now.EntryText);
 }
 
 void ScientificEngine::Digit(const PressedKey& key) {
-  if (!ExponentEntry) return EntryEngine::Digit(key);
-  if (ExpDigits.size() == MostExponentDigits) return SayResult("");
+  if (Now.Form != EntryForm::Exponent) return EntryEngine::Digit(key);
+  if (Now.ExpDigits.size() == MostExponentDigits) return SayResult("");
   Says.Say(key.SpokenName);
-  ExpDigits += key.Caption;
+  Now.ExpDigits += key.Caption;
   ShowExponent();
-  CurrentValue = ValueOf(EntryText);
-  LastAction = qves::LastAction::Num;
+  Now.CurrentValue = ValueOf(Now.EntryText);
+  Now.LastAction = ActionKind::Num;
 }
 
 void ScientificEngine::DecimalPoint(const PressedKey& key) {
-  if (ExponentEntry)
+  if (Now.Form == EntryForm::Exponent)
     Says.Say(key.SpokenName);
   else
     EntryEngine::DecimalPoint(key);
 }
 
 void ScientificEngine::Backspace(const PressedKey& key) {
-  if (!ExponentEntry) return EntryEngine::Backspace(key);
-  Says.Say(EntryText.substr(EntryText.size() - 1));
+  if (Now.Form != EntryForm::Exponent) return EntryEngine::Backspace(key);
+  Says.Say(Now.EntryText.substr(Now.EntryText.size() - 1));
   DropExponentDigit();
-  CurrentValue = ValueOf(EntryText);
-  LastAction = qves::LastAction::Backspace;
+  Now.CurrentValue = ValueOf(Now.EntryText);
+  Now.LastAction = ActionKind::Backspace;
 }
 
 /// Without a digit to drop the exponent itself goes, and the mantissa is typed on.
 void ScientificEngine::DropExponentDigit() {
-  if (!ExpDigits.empty()) {
-    ExpDigits.pop_back();
+  if (!Now.ExpDigits.empty()) {
+    Now.ExpDigits.pop_back();
     return ShowExponent();
   }
-  ExponentEntry = false;
-  EntryText = ExpMantissa;
+  Now.Form = EntryForm::Plain;
+  Now.EntryText = Now.ExpMantissa;
   Show();
 }
 

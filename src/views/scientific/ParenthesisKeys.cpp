@@ -2,13 +2,13 @@
 // result to them as the second operand.
 #include <limits>
 
-#include "engine/Numbers.h"
+#include "formulas/Numbers.h"
 #include "model/ArithmeticFault.h"
 #include "views/scientific/ScientificEngine.h"
 
 namespace qves {
 
-using enum qves::LastAction;
+using enum ActionKind;
 
 namespace {
 constexpr auto MostOpenGroups = std::numeric_limits<std::int16_t>::max();
@@ -17,65 +17,66 @@ constexpr std::string_view OpenParen = "(";
 
 void ScientificEngine::LeftParen(const PressedKey& key) {
   Says.Say(key.SpokenName);
-  if (ErrorState || LastAction == RParen || LastAction == Uop || LastAction == Equal) ClearAll();
-  if (ParenDepth == MostOpenGroups) throw ArithmeticFault("too many open parentheses");
-  ExponentEntry = false;
-  DecimalEntered = false;
-  OuterOperand outer = ParenJustOpened ? BeginInnerGroup() : BeginGroup();
-  ParenJustOpened = true;
-  SecondOperandBegun = false;
-  const auto level = static_cast<std::size_t>(ParenDepth++);
-  if (ParenStack.size() <= level) ParenStack.resize(level + 1);
-  ParenStack[level] = std::move(outer);
+  if (Now.ErrorState || Now.LastAction == RParen || Now.LastAction == Uop || Now.LastAction == Equal)
+    ClearAll();
+  if (Now.ParenDepth == MostOpenGroups) throw ArithmeticFault("too many open parentheses");
+  EndExponent();
+  Now.DecimalEntered = false;
+  OuterOperand outer = Now.ParenJustOpened ? BeginInnerGroup() : BeginGroup();
+  Now.ParenJustOpened = true;
+  Now.SecondOperandBegun = false;
+  const auto level = static_cast<std::size_t>(Now.ParenDepth++);
+  if (Now.ParenStack.size() <= level) Now.ParenStack.resize(level + 1);
+  Now.ParenStack[level] = std::move(outer);
 }
 
 /// A group within a group that has no operator yet starts as "0 +", so that its result is added to nothing.
-ScientificEngine::OuterOperand ScientificEngine::BeginInnerGroup() {
+OuterOperand ScientificEngine::BeginInnerGroup() {
   ExtendInstead(OpenParen);
-  EntryText = "0";
-  CurrentValue = 0;
-  CurrentOp = "+";
-  LastAction = Biop;
-  return {EntryText, CurrentValue, CurrentOp};
+  Now.EntryText = "0";
+  Now.CurrentValue = 0;
+  Now.CurrentOp = "+";
+  Now.LastAction = Biop;
+  return {Now.EntryText, Now.CurrentValue, Now.CurrentOp};
 }
 
-ScientificEngine::OuterOperand ScientificEngine::BeginGroup() {
-  if (!PendingOp.empty() && !SecondOperandDue()) {
+OuterOperand ScientificEngine::BeginGroup() {
+  if (!Now.PendingOp.empty() && !SecondOperandDue()) {
     // The group takes the place of the operand that was being typed.
-    EntryText = WriteNumber(Accumulator);
-    CurrentValue = Accumulator;
+    Now.EntryText = WriteNumber(Now.Accumulator);
+    Now.CurrentValue = Now.Accumulator;
   }
   ShowInstead(OpenParen);
-  LastAction = LParen;
-  return {EntryText, CurrentValue, PendingOp};
+  Now.LastAction = LParen;
+  return {Now.EntryText, Now.CurrentValue, Now.PendingOp};
 }
 
 /// Ignored when no operator is pending at all, as in "( 5 )" at the very start: the group stays open. That is
 /// wanted.
 void ScientificEngine::RightParen(const PressedKey& key) {
   Says.Say(key.SpokenName);
-  if (PendingOp.empty() || ParenDepth < 1 || GroupIsEmpty()) return;
-  ExponentEntry = false;
-  if (!ParenJustOpened) CompletePending();
-  if (ErrorState) return Says.SayError();
+  if (Now.PendingOp.empty() || Now.ParenDepth < 1 || GroupIsEmpty()) return;
+  EndExponent();
+  if (!Now.ParenJustOpened) CompletePending();
+  if (Now.ErrorState) return Says.SayError();
   if (!ShowsEntry()) Show();
   RestoreOuterOperand();
 }
 
 void ScientificEngine::RestoreOuterOperand() {
-  const OuterOperand& outer = ParenStack[static_cast<std::size_t>(--ParenDepth)];
-  PrevEntryText = outer.Text;
-  Accumulator = outer.Value;
-  PendingOp = outer.Op;
-  ParenJustOpened = false;
-  SecondOperandBegun = true;
-  DecimalEntered = false;
-  LastAction = RParen;
+  const OuterOperand& outer = Now.ParenStack[static_cast<std::size_t>(--Now.ParenDepth)];
+  Now.PrevEntryText = outer.Text;
+  Now.Accumulator = outer.Value;
+  Now.PendingOp = outer.Op;
+  Now.ParenJustOpened = false;
+  Now.SecondOperandBegun = true;
+  Now.DecimalEntered = false;
+  Now.LastAction = RParen;
 }
 
 /// The last key was "(".
 bool ScientificEngine::GroupIsEmpty() const {
-  return LastAction == LParen || (LastAction == Biop && ParenJustOpened);
+  return Now.LastAction == LParen || (Now.LastAction == Biop && Now.ParenJustOpened);
 }
 
 }  // namespace qves

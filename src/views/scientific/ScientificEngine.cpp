@@ -3,15 +3,15 @@
 #include <cmath>
 #include <utility>
 
-#include "engine/Numbers.h"
+#include "formulas/Numbers.h"
+#include "formulas/SciFormat.h"
+#include "formulas/Trigonometry.h"
 #include "model/ArithmeticFault.h"
-#include "views/scientific/SciFormat.h"
 #include "views/scientific/ScientificOperators.h"
-#include "views/scientific/Trigonometry.h"
 
 namespace qves {
 
-using enum qves::LastAction;
+using enum ActionKind;
 
 namespace {
 constexpr double LargestTrigResult = 1e15;
@@ -30,12 +30,13 @@ const ScientificEngine::EntryOperator ScientificEngine::EntryOperators[] = {
     {"+/-", &ScientificEngine::FlipExponentSign, true},
 };
 
-ScientificEngine::ScientificEngine(EngineHost& host, ScientificHost& modes, Announcer& announcer)
-    : EntryEngine(scientific::Operators, host, announcer), Modes(modes) {}
+ScientificEngine::ScientificEngine(ScientificState& state, EngineHost& host, ScientificHost& modes,
+                                   Announcer& announcer)
+    : EntryEngine(state, scientific::Operators, host, announcer), Modes(modes), Now(state) {}
 
 const ScientificEngine::EntryOperator* ScientificEngine::FindEntryOperator(std::string_view op) const {
   for (const EntryOperator& row : EntryOperators)
-    if (row.Caption == op && (ExponentEntry || !row.InExponentOnly)) return &row;
+    if (row.Caption == op && (Now.Form == EntryForm::Exponent || !row.InExponentOnly)) return &row;
   return nullptr;
 }
 
@@ -67,113 +68,88 @@ double ScientificEngine::ComputeTrig(std::string_view op, double x) {
 }
 
 void ScientificEngine::ShowResult(double& value) {
-  if (NumBase == NumberBase::Decimal) {
-    EntryText = NotationMode ? SciFormat(NumberToText(value)) : NumberToText(value);
+  if (Now.NumBase == NumberBase::Decimal) {
+    Now.EntryText = Now.Form == EntryForm::Notation ? SciFormat(NumberToText(value)) : NumberToText(value);
   } else {
-    EntryText = WriteNumber(value);
-    value = ValueOf(EntryText);  // what the base cannot show is lost
+    Now.EntryText = WriteNumber(value);
+    value = ValueOf(Now.EntryText);  // what the base cannot show is lost
   }
   Show();
 }
 
 void ScientificEngine::ToggleNotation() {
-  NotationMode = !NotationMode;
-  EntryText = NumberToText(CurrentValue);
-  if (NotationMode) EntryText = SciFormat(EntryText);
-  CurrentValue = ValueOf(EntryText);
+  Now.Form = Now.Form == EntryForm::Notation ? EntryForm::Plain : EntryForm::Notation;
+  Now.EntryText = NumberToText(Now.CurrentValue);
+  if (Now.Form == EntryForm::Notation) Now.EntryText = SciFormat(Now.EntryText);
+  Now.CurrentValue = ValueOf(Now.EntryText);
   Show();
 }
 
 std::string ScientificEngine::WriteNumber(double value) const {
-  return ConvertBase(NumberBase::Decimal, NumBase, NumberToText(value));
+  return ConvertBase(NumberBase::Decimal, Now.NumBase, NumberToText(value));
 }
 
 std::optional<double> ScientificEngine::ReadNumber(std::string_view text) const {
-  return ReadInBase(NumBase, text);
+  return ReadInBase(Now.NumBase, text);
 }
 
 /// "0" is 0 in every base, however long a zero would be written.
 std::string ScientificEngine::RecalledText() const {
-  const std::string& text = MemoryCell.Text();
-  return text == "0" ? text : ConvertBase(MemoryBase, NumBase, text);
+  const std::string& text = Now.MemoryCell.Text();
+  return text == "0" ? text : ConvertBase(Now.MemoryBase, Now.NumBase, text);
 }
 
 void ScientificEngine::OnClearAll() {
-  NotationMode = false;
-  ExponentEntry = false;
-  ParenDepth = 0;
-  ParenJustOpened = false;
+  Now.Form = EntryForm::Plain;
+  Now.ParenDepth = 0;
+  Now.ParenJustOpened = false;
 }
 
 void ScientificEngine::ClearEntry(const PressedKey& key) {
-  ExponentEntry = false;
+  EndExponent();
   EntryEngine::ClearEntry(key);
 }
 
 /// Inside a group just opened the operator only replaces the outer one, which is kept aside.
 bool ScientificEngine::OperatorCompletesPending() const {
-  return EntryEngine::OperatorCompletesPending() && !ParenJustOpened;
+  return EntryEngine::OperatorCompletesPending() && !Now.ParenJustOpened;
 }
 
 void ScientificEngine::BinaryOperator(const PressedKey& key) {
-  ExponentEntry = false;
+  EndExponent();
   EntryEngine::BinaryOperator(key);
-  ParenJustOpened = false;
+  Now.ParenJustOpened = false;
 }
 
 void ScientificEngine::UnaryOperator(const PressedKey& key) {
   const bool startsExponent = key.Caption == "Exp";
-  if (startsExponent && !ErrorState && RefusesExponent()) return SayResult("");  // it only speaks
-  if (!startsExponent && key.Caption != "+/-") ExponentEntry = false;
+  if (startsExponent && !Now.ErrorState && RefusesExponent()) return SayResult("");  // it only speaks
+  if (!startsExponent && key.Caption != "+/-") EndExponent();
   EntryEngine::UnaryOperator(key);
 }
 
 /// Open groups stay open: only the innermost operator is completed.
 void ScientificEngine::Equals(const PressedKey& key) {
-  const bool endsExponent = std::exchange(ExponentEntry, false);
-  if (endsExponent) ShowResult(CurrentValue);
+  if (EndExponent()) ShowResult(Now.CurrentValue);
   if (!ShowsEntry()) Show();
   EntryEngine::Equals(key);
 }
 
 void ScientificEngine::Memory(const PressedKey& key) {
-  ExponentEntry = false;
+  EndExponent();
   EntryEngine::Memory(key);
 }
 
 void ScientificEngine::ChangeBase(int base) {
-  NumBase = base;
-  const int from = std::exchange(PrevNumBase, base);
-  if (ErrorState) return;
-  if (std::exchange(ExponentEntry, false)) EntryText = NumberToText(CurrentValue);
+  const int from = std::exchange(Now.NumBase, base);
+  if (Now.ErrorState) return;
+  if (EndExponent()) Now.EntryText = NumberToText(Now.CurrentValue);
   // The number itself: its new text, if short, may mean a negative one.
-  if (from == NumberBase::Decimal) CurrentValue = std::trunc(TextToNumber(EntryText));
-  EntryText = ConvertBase(from, base, EntryText);
+  if (from == NumberBase::Decimal) Now.CurrentValue = Checked(std::trunc(TextToNumber(Now.EntryText)));
+  Now.EntryText = ConvertBase(from, base, Now.EntryText);
   Show();
-  LastAction = Uop;
-  DecimalEntered = false;
-}
-
-StateFields ScientificEngine::Fields() const {
-  std::vector<std::string> texts;
-  std::vector<std::string> ops;
-  for (const OuterOperand& outer : ParenStack) {
-    texts.push_back(outer.Text);
-    ops.push_back(outer.Op);
-  }
-  StateFields fields = EntryEngine::Fields();
-  fields.insert(fields.end(), {{"NotationMode", NotationMode},
-                               {"ExponentEntry", ExponentEntry},
-                               {"ExpMantissa", ExpMantissa},
-                               {"ExpSign", ExpSign},
-                               {"ExpDigits", ExpDigits},
-                               {"NumBase", double{1} * NumBase},
-                               {"PrevNumBase", double{1} * PrevNumBase},
-                               {"ParenDepth", double{1} * ParenDepth},
-                               {"ParenEntryStack", texts},
-                               {"ParenOpStack", ops},
-                               {"ParenJustOpened", ParenJustOpened}});
-  return fields;
+  Now.LastAction = Uop;
+  Now.DecimalEntered = false;
 }
 
 }  // namespace qves

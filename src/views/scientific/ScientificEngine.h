@@ -2,11 +2,8 @@
 // notation, exponent entry, number bases and parentheses.
 #pragma once
 
-#include <cstdint>
-#include <vector>
-
 #include "engine/EntryEngine.h"
-#include "views/scientific/NumberBases.h"
+#include "views/scientific/ScientificState.h"
 
 namespace qves {
 
@@ -26,18 +23,18 @@ class ScientificHost {
 
 class ScientificEngine : public EntryEngine {
  public:
-  ScientificEngine(EngineHost& host, ScientificHost& modes, Announcer& announcer);
+  ScientificEngine(ScientificState& state, EngineHost& host, ScientificHost& modes, Announcer& announcer);
 
   // ExponentKeys.cpp
-  void Digit(const PressedKey& key) override;
-  void DecimalPoint(const PressedKey& key) override;
-  void Backspace(const PressedKey& key) override;
+  void Digit(const PressedKey& key);
+  void DecimalPoint(const PressedKey& key);
+  void Backspace(const PressedKey& key);
 
-  void ClearEntry(const PressedKey& key) override;
-  void BinaryOperator(const PressedKey& key) override;
-  void UnaryOperator(const PressedKey& key) override;
-  void Equals(const PressedKey& key) override;
-  void Memory(const PressedKey& key) override;
+  void ClearEntry(const PressedKey& key);
+  void BinaryOperator(const PressedKey& key);
+  void UnaryOperator(const PressedKey& key);
+  void Equals(const PressedKey& key);
+  void Memory(const PressedKey& key);
 
   // ParenthesisKeys.cpp
   void LeftParen(const PressedKey& key);
@@ -48,9 +45,8 @@ class ScientificEngine : public EntryEngine {
   void ChangeBase(int base);
 
   ValueKind DisplayKind() const override {
-    return NumBase == NumberBase::Decimal ? ValueKind::Number : ValueKind::BaseDigits;
+    return Now.NumBase == NumberBase::Decimal ? ValueKind::Number : ValueKind::BaseDigits;
   }
-  StateFields Fields() const override;
 
  protected:
   void Evaluate(double first, double& second, std::string_view op) override;
@@ -58,7 +54,7 @@ class ScientificEngine : public EntryEngine {
   std::string WriteNumber(double value) const override;
   std::optional<double> ReadNumber(std::string_view text) const override;
   std::string RecalledText() const override;
-  void OnStored() override { MemoryBase = NumBase; }
+  void OnStored() override { Now.MemoryBase = Now.NumBase; }
   void OnClearAll() override;
   bool OperatorCompletesPending() const override;
 
@@ -74,15 +70,12 @@ class ScientificEngine : public EntryEngine {
   void StartExponent();
   bool RefusesExponent();
   void FlipExponentSign();
+  /// What is typed from now on is no exponent; true when it was one.
+  bool EndExponent();
   void ShowExponent();
   void DropExponentDigit();
 
   // ParenthesisKeys.cpp
-  struct OuterOperand {
-    std::string Text;
-    double Value = 0;
-    std::string Op;
-  };
   OuterOperand BeginGroup();
   OuterOperand BeginInnerGroup();
   void RestoreOuterOperand();
@@ -90,18 +83,7 @@ class ScientificEngine : public EntryEngine {
 
   ScientificHost& Modes;
 
-  bool NotationMode = false;
-  bool ExponentEntry = false;
-  std::string ExpMantissa;
-  std::string ExpSign;
-  std::string ExpDigits;
-  int NumBase = NumberBase::Decimal;
-  int PrevNumBase = NumberBase::Decimal;  ///< the base that the entry is written in
-  int MemoryBase = NumberBase::Decimal;   ///< the base that the memory is written in
-
-  std::int16_t ParenDepth = 0;
-  std::vector<OuterOperand> ParenStack;  ///< keeps its old elements when a group is closed
-  bool ParenJustOpened = false;          ///< until the first binary operator of the group
+  ScientificState& Now;
 };
 
 }  // namespace qves

@@ -5,8 +5,9 @@
 #pragma once
 
 #include "engine/Operators.h"
-#include "views/scientific/BitOperations.h"
-#include "views/scientific/ScientificFunctions.h"
+#include "formulas/Arithmetic.h"
+#include "formulas/BitOperations.h"
+#include "formulas/ScientificFunctions.h"
 
 namespace qves::scientific {
 

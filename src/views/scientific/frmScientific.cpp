@@ -1,7 +1,5 @@
 #include "views/scientific/frmScientific.h"
 
-#include "services/AppSettings.h"
-#include "views/MenuIds.h"
 #include "views/scientific/BaseButtons.h"
 #include "views/scientific/ScientificControls.h"
 #include "views/scientific/ScientificKeyMap.h"
@@ -10,14 +8,20 @@ namespace qves {
 namespace {
 
 constexpr ClickRow Clicks[] = {
+    {"cmdDigit", Do<ScientificEngine, &ScientificEngine::Digit>, FocusRule::Moves},
+    {"cmdDecimal", Do<ScientificEngine, &ScientificEngine::DecimalPoint>, FocusRule::Moves},
+    {"cmdBiOp", Do<ScientificEngine, &ScientificEngine::BinaryOperator>, FocusRule::Moves},
+    {"cmdMemory", Do<ScientificEngine, &ScientificEngine::Memory>, FocusRule::Moves},
+    {"cmdCE", Do<ScientificEngine, &ScientificEngine::ClearEntry>, FocusRule::Moves},
+    {"cmdUOp", Do<ScientificEngine, &ScientificEngine::UnaryOperator>, FocusRule::Stays},
+    {"cmdEqual", Do<ScientificEngine, &ScientificEngine::Equals>, FocusRule::Stays},
+    {"cmdBackspace", Do<ScientificEngine, &ScientificEngine::Backspace>, FocusRule::Stays},
     {"cmdLeftParen", Do<ScientificEngine, &ScientificEngine::LeftParen>, FocusRule::Moves},
     {"cmdRightParen", Do<ScientificEngine, &ScientificEngine::RightParen>, FocusRule::Moves},
 };
 
 constexpr ViewTables ScientificTables = {
     .FormName = "frmScientific",
-    .CalcView = ScientificView,
-    .NameMessage = ScientificItem,
     .Controls = scientific::Controls,
     .Panels = scientific::Panels,
     .KeyMap = scientific::KeyMap,
@@ -35,7 +39,7 @@ frmScientific::frmScientific(Services& services, ViewFrame& frame)
       TrigModes(static_cast<ListBox*>(Find("lltTrigMode"))) {
   EngineHost& host = *this;
   ScientificHost& modes = *this;
-  auto engine = std::make_unique<ScientificEngine>(host, modes, Says);
+  auto engine = std::make_unique<ScientificEngine>(State, host, modes, Says);
   Scientific = engine.get();
   UseEngine(std::move(engine));
   PlaceChoice(*NumBases, NumberBase::Decimal);

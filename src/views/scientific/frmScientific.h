@@ -11,6 +11,8 @@ class frmScientific : public View, private ScientificHost {
   frmScientific(Services& services, ViewFrame& frame);
 
  private:
+  StateFields EngineState() const override { return Describe(State); }
+
   // ScientificHost
   bool InverseChecked() const override { return Inv->Checked; }
   bool HyperbolicChecked() const override { return Hyp->Checked; }
@@ -22,6 +24,7 @@ class frmScientific : public View, private ScientificHost {
   void OnNewChoice(ListControl& list) override;
   void SetBaseButtons(int base);
 
+  ScientificState State;
   CheckBox* Inv;
   CheckBox* Hyp;
   ListBox* NumBases;

@@ -1,6 +1,6 @@
 #include "views/standard/StandardEngine.h"
 
-#include "engine/Numbers.h"
+#include "formulas/Numbers.h"
 #include "views/standard/StandardOperators.h"
 
 namespace qves {
@@ -19,29 +19,26 @@ std::string BeginTapeLine(double first, double second, std::string_view op) {
 
 }  // namespace
 
-StandardEngine::StandardEngine(EngineHost& host, TapeHost& tapeHost, Announcer& announcer)
-    : EntryEngine(standard::Operators, host, announcer), TapeShown(tapeHost) {}
+StandardEngine::StandardEngine(StandardState& state, EngineHost& host, TapeHost& tapeHost,
+                               Announcer& announcer)
+    : EntryEngine(state, standard::Operators, host, announcer), TapeShown(tapeHost), Now(state) {}
 
 void StandardEngine::Evaluate(double first, double& second, std::string_view op) {
-  TapeLine = BeginTapeLine(first, second, op);
+  Now.TapeLine = BeginTapeLine(first, second, op);
   EntryEngine::Evaluate(first, second, op);
-  TapeLine += EntryText;
-  const std::string line = TapeLine + "\r\n";
-  TapeText += line;
+  Now.TapeLine += Now.EntryText;
+  const std::string line = Now.TapeLine + "\r\n";
+  Now.TapeText += line;
   TapeShown.AppendTape(line);
 }
 
-void StandardEngine::ClearEverything() {
-  ClearAll();
-  TapeText.clear();
-  TapeShown.ClearTape();
-}
-
-StateFields StandardEngine::Fields() const {
-  StateFields fields = EntryEngine::Fields();
-  fields.push_back({"TapeLine", TapeLine});
-  fields.push_back({"TapeText", TapeText});
-  return fields;
+/// The clear-all key empties the tape, too; what else clears keeps it.
+void StandardEngine::Memory(const PressedKey& key) {
+  if (key.Caption == "C") {
+    Now.TapeText.clear();
+    TapeShown.ClearTape();
+  }
+  EntryEngine::Memory(key);
 }
 
 }  // namespace qves

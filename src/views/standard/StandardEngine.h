@@ -2,6 +2,7 @@
 #pragma once
 
 #include "engine/EntryEngine.h"
+#include "views/standard/StandardState.h"
 
 namespace qves {
 
@@ -16,18 +17,17 @@ class TapeHost {
 
 class StandardEngine : public EntryEngine {
  public:
-  StandardEngine(EngineHost& host, TapeHost& tapeHost, Announcer& announcer);
-  StateFields Fields() const override;
+  StandardEngine(StandardState& state, EngineHost& host, TapeHost& tapeHost, Announcer& announcer);
+
+  void Memory(const PressedKey& key);
 
  protected:
   void Evaluate(double first, double& second, std::string_view op) override;
-  void OnClearAll() override { TapeLine.clear(); }
-  void ClearEverything() override;
+  void OnClearAll() override { Now.TapeLine.clear(); }
 
  private:
   TapeHost& TapeShown;
-  std::string TapeLine;
-  std::string TapeText;
+  StandardState& Now;
 };
 
 }  // namespace qves

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "engine/Operators.h"
+#include "formulas/Arithmetic.h"
 
 namespace qves::standard {
 

@@ -11,9 +11,11 @@ class frmStandard : public View, private TapeHost {
   frmStandard(Services& services, ViewFrame& frame);
 
  private:
+  StateFields EngineState() const override { return Describe(State); }
   void AppendTape(std::string_view line) override { AppendText(*Tape, line); }
   void ClearTape() override { SetText(*Tape, ""); }
 
+  StandardState State;
   TextBox* Tape;
 };
 

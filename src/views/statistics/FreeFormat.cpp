@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-#include "engine/Numbers.h"
+#include "formulas/Numbers.h"
 #include "model/ArithmeticFault.h"
 
 namespace qves {

@@ -1,15 +1,13 @@
 #include "views/statistics/StatisticsEngine.h"
 
+#include "formulas/Arithmetic.h"
 #include "model/ArithmeticFault.h"
+#include "services/MessageIds.h"
 
 namespace qves {
 namespace {
 
-using enum qves::LastAction;
-
-constexpr int ClearEntryMessage = 1077;
-constexpr int DegreesSetMessage = 1446;
-constexpr int AlphaSetMessage = 1447;
+using enum ActionKind;
 
 constexpr OperatorRow SignOperator[] = {{"+/-", Arity::Unary, ChangeSign}};
 
@@ -20,21 +18,22 @@ const ListWords& WordsOf(DataList list) {
   return words[static_cast<std::size_t>(list)];
 }
 
-StatisticsEngine::StatisticsEngine(EngineHost& host, StatisticsHost& data, Announcer& announcer)
-    : EntryEngine(SignOperator, host, announcer), Data(data) {}
+StatisticsEngine::StatisticsEngine(StatisticsState& state, EngineHost& host, StatisticsHost& data,
+                                   Announcer& announcer)
+    : EntryEngine(state, SignOperator, host, announcer), Data(data), Now(state) {}
 
 void StatisticsEngine::Add(const PressedKey&) {
-  LastAction = Equal;
+  Now.LastAction = Equal;
   // The text alone counts, so "0." is added; and the sentence is no message. Both are wanted.
-  if (Data.IgnoresZero() && EntryText == "0") return Says.Say("data points of Zero will be ignored");
+  if (Data.IgnoresZero() && Now.EntryText == "0") return Says.Say("data points of Zero will be ignored");
   const DataList list = Data.TargetList();
   if (std::ssize(Data.Items(list)) >= MostPoints) throw ArithmeticFault("the list is full");
-  Data.AddItem(list, EntryText);
-  Says.SayMessage(WordsOf(list).Added, EntryText);
+  Data.AddItem(list, Now.EntryText);
+  Says.SayMessage(WordsOf(list).Added, Now.EntryText);
 }
 
 void StatisticsEngine::Remove(const PressedKey&) {
-  LastAction = Equal;
+  Now.LastAction = Equal;
   const DataList list = Data.TargetList();
   const int item = Data.SelectedItem(list);
   if (item < 0) return Says.SayMessage(WordsOf(list).Empty);
@@ -43,35 +42,28 @@ void StatisticsEngine::Remove(const PressedKey&) {
 }
 
 void StatisticsEngine::Clear(const PressedKey&) {
-  LastAction = Equal;
+  Now.LastAction = Equal;
   const DataList list = Data.TargetList();
   Data.ClearItems(list);
   Says.SayMessage(WordsOf(list).Cleared);
 }
 
 void StatisticsEngine::Run(const PressedKey&) {
-  LastAction = Equal;
-  if (!Data.Items(DataList::Main).empty()) Data.Report(DegreesOfFreedom, Alpha);
+  Now.LastAction = Equal;
+  if (!Data.Items(DataList::Main).empty()) Data.Report(Now.DegreesOfFreedom, Now.Alpha);
 }
 
 void StatisticsEngine::SetParameter(const PressedKey& key) {
-  if (ErrorState) {
-    ErrorState = false;
-    EntryText = "0";
+  if (Now.ErrorState) {
+    Now.ErrorState = false;
+    Now.EntryText = "0";
     Show();
     return Says.SayMessage(ClearEntryMessage);
   }
   const bool isAlpha = key.Caption == "alpha";
-  (isAlpha ? Alpha : DegreesOfFreedom) = ValueOf(DisplayText());
+  (isAlpha ? Now.Alpha : Now.DegreesOfFreedom) = ValueOf(DisplayText());
   Says.SayMessage(isAlpha ? AlphaSetMessage : DegreesSetMessage, DisplayText());
-  LastAction = Equal;
-}
-
-StateFields StatisticsEngine::Fields() const {
-  StateFields fields = EntryEngine::Fields();
-  const StateField own[] = {{"DegreesOfFreedom", DegreesOfFreedom}, {"Alpha", Alpha}};
-  fields.insert(fields.end(), std::begin(own), std::end(own));
-  return fields;
+  Now.LastAction = Equal;
 }
 
 }  // namespace qves

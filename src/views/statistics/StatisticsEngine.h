@@ -5,6 +5,7 @@
 #include <string>
 
 #include "engine/EntryEngine.h"
+#include "views/statistics/StatisticsState.h"
 
 namespace qves {
 
@@ -41,7 +42,7 @@ class StatisticsHost {
 
 class StatisticsEngine : public EntryEngine {
  public:
-  StatisticsEngine(EngineHost& host, StatisticsHost& data, Announcer& announcer);
+  StatisticsEngine(StatisticsState& state, EngineHost& host, StatisticsHost& data, Announcer& announcer);
 
   /// Faults when the list is full.
   void Add(const PressedKey& key);
@@ -54,12 +55,9 @@ class StatisticsEngine : public EntryEngine {
   /// number.
   void SetParameter(const PressedKey& key);
 
-  StateFields Fields() const override;
-
  private:
   StatisticsHost& Data;
-  double DegreesOfFreedom = 0;
-  double Alpha = 0;
+  StatisticsState& Now;
 };
 
 }  // namespace qves

@@ -5,7 +5,7 @@
 #include <utility>
 #include <vector>
 
-#include "engine/Numbers.h"
+#include "formulas/Numbers.h"
 
 namespace qves {
 namespace {

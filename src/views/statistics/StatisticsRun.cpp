@@ -2,10 +2,10 @@
 
 #include <algorithm>
 
-#include "engine/Numbers.h"
+#include "formulas/Numbers.h"
+#include "formulas/Reliability.h"
+#include "formulas/TStatistics.h"
 #include "model/ArithmeticFault.h"
-#include "views/statistics/Reliability.h"
-#include "views/statistics/TStatistics.h"
 
 namespace qves {
 namespace {

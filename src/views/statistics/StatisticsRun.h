@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "formulas/Descriptive.h"
 #include "platform/Spreadsheet.h"
-#include "views/statistics/Descriptive.h"
 
 namespace qves {
 

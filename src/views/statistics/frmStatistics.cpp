@@ -1,8 +1,8 @@
 #include "views/statistics/frmStatistics.h"
 
-#include "engine/Numbers.h"
+#include "formulas/Numbers.h"
 #include "model/ArithmeticFault.h"
-#include "services/AppSettings.h"
+#include "services/MessageIds.h"
 #include "views/statistics/FreeFormat.h"
 #include "views/statistics/StatisticsControls.h"
 #include "views/statistics/StatisticsKeyMap.h"
@@ -12,12 +12,9 @@
 namespace qves {
 namespace {
 
-constexpr int ImportTitleMessage = 400;
-constexpr int ImportFilterMessage = 401;
-
 constexpr MenuSpec Menus[] = {
     {FileMenu, {ImportItem, ExitItem}},
-    {ViewMenu, {ScientificItem, StatisticsItem, StandardItem, BusinessItem}},
+    {ViewMenu, {}},
     {HelpMenu, {AboutStatisticsItem, StatisticsHotKeysItem, InverseItem}},
 };
 
@@ -32,8 +29,6 @@ constexpr ClickRow Clicks[] = {
 
 constexpr ViewTables StatisticsTables = {
     .FormName = "frmStatistics",
-    .CalcView = StatisticsView,
-    .NameMessage = StatisticsItem,
     .Controls = statistics::Controls,
     .Panels = statistics::Panels,
     .KeyMap = statistics::KeyMap,
@@ -49,9 +44,11 @@ frmStatistics::frmStatistics(Services& services, ViewFrame& frame)
       Lists{static_cast<ListView*>(Find("lvwData")), static_cast<ListView*>(Find("lvwData2"))},
       IgnoreZero(static_cast<CheckBox*>(Find("cbIgnoreZero"))),
       UseList2(static_cast<CheckBox*>(Find("cbUseList2"))) {
+  for (const DataList list : {DataList::Main, DataList::Second})
+    ListOf(list).Items = &State.Lists[static_cast<std::size_t>(list)];
   EngineHost& host = *this;
   StatisticsHost& data = *this;
-  UseEngine(std::make_unique<StatisticsEngine>(host, data, Says));
+  UseEngine(std::make_unique<StatisticsEngine>(State, host, data, Says));
 }
 
 std::string frmStatistics::Announcement(const Control& control) {

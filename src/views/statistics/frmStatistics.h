@@ -13,6 +13,8 @@ class frmStatistics : public View, private StatisticsHost {
   frmStatistics(Services& services, ViewFrame& frame);
 
  private:
+  StateFields EngineState() const override { return Describe(State); }
+
   // View
   std::string Announcement(const Control& control) override;
   ValueSpan ValueIn(const Control& control, std::string_view announcement) const override;
@@ -23,7 +25,7 @@ class frmStatistics : public View, private StatisticsHost {
   // StatisticsHost
   DataList TargetList() const override { return UseList2->Checked ? DataList::Second : DataList::Main; }
   bool IgnoresZero() const override { return IgnoreZero->Checked; }
-  std::span<const std::string> Items(DataList list) const override { return ListOf(list).Items; }
+  std::span<const std::string> Items(DataList list) const override { return *ListOf(list).Items; }
   int SelectedItem(DataList list) const override { return ListOf(list).ListIndex; }
   void AddItem(DataList list, const std::string& text) override { AppendItems(ListOf(list), {&text, 1}); }
   void RemoveItem(DataList list, int item) override { RemoveItems(ListOf(list), item, 1); }
@@ -34,6 +36,7 @@ class frmStatistics : public View, private StatisticsHost {
   void Import();
   void ImportFile(const std::string& path);
 
+  StatisticsState State;
   std::array<ListView*, 2> Lists;
   CheckBox* IgnoreZero;
   CheckBox* UseList2;

@@ -1,0 +1,73 @@
+#include "formulas/ScientificFunctions.h"
+
+#include <cmath>
+
+#include "formulas/Arithmetic.h"
+#include "formulas/Numbers.h"
+#include "model/ArithmeticFault.h"
+
+namespace qves {
+
+double Square(double, double x) {
+  return Multiply(x, x);
+}
+
+double Cube(double, double x) {
+  return Power(x, 3);
+}
+
+double CubeRoot(double, double x) {
+  if (x < 0) throw ArithmeticFault("cube root of a negative number");
+  return std::cbrt(x);
+}
+
+double Power(double base, double exponent) {
+  return Checked(std::pow(base, exponent));
+}
+
+double Root(double radicand, double degree) {
+  return Power(radicand, Divide(1, degree));
+}
+
+double NaturalLog(double, double x) {
+  return Checked(std::log(x));
+}
+
+double CommonLog(double, double x) {
+  return Checked(std::log10(x));
+}
+
+double Exponential(double, double x) {
+  return Checked(std::exp(x));
+}
+
+double PowerOfTen(double, double x) {
+  return Power(10, x);
+}
+
+double Factorial(double, double x) {
+  if (x < 0) throw ArithmeticFault("factorial of a negative number");
+  const int count = ToInt16(std::trunc(x));
+  // Not in doubles: 170 roundings would show in the last digit.
+  Real product = 1;
+  for (int factor = 2; factor <= count && std::isfinite(product); ++factor) product *= factor;
+  return Checked(product);
+}
+
+double WholePart(double, double x) {
+  return Checked(std::trunc(x));
+}
+
+double FractionalPart(double, double x) {
+  return x - std::trunc(x);
+}
+
+double ShiftLeft(double value, double places) {
+  return Multiply(value, Checked(std::exp2(places)));
+}
+
+double ShiftRight(double value, double places) {
+  return Divide(value, Checked(std::exp2(places)));
+}
+
+}  // namespace qves

@@ -1,0 +1,43 @@
+// The messages that code asks for by name. Those that stand in a row of a table have no name but the row's.
+#pragma once
+
+namespace qves {
+
+enum MessageId : int {
+  ControlPlusMessage = 20,
+  ShiftPlusMessage = 21,
+  OpensDialogMessage = 22,
+  HasSubMenuMessage = 23,
+  MnemonicMessage = 24,
+  MoreItemsMessage = 25,
+  CopyMessage = 50,
+  MsgBaseMessage = 99,
+  TitleMessage = 100,
+  WelcomeMessage = 101,
+  ImportTitleMessage = 400,
+  ImportFilterMessage = 401,
+  LineBreakMessage = 402,
+  ClearAllMessage = 1062,
+  PointMessage = 1073,
+  ClearEntryMessage = 1077,
+  DecimalSeparatorMessage = 1081,
+  CheckedMessage = 1134,
+  ClearMessage = 1135,
+  CurrentValueMessage = 1201,
+  ErrorMessage = 1202,
+  MinusMessage = 1204,
+  OkMessage = 1205,
+  TimesMessage = 1208,
+  OkHelpMessage = 1264,
+  DegreesSetMessage = 1446,
+  AlphaSetMessage = 1447,
+  StoredMessage = 1562,
+  FirstWeekdayMessage = 1580,  ///< Sunday, and six more
+  FirstMonthMessage = 1587,    ///< January, abbreviated, and eleven more
+  AllSelectedMessage = 1600,
+  DisabledMessage = 1700,
+  FirstFullMonthMessage = 1730,  ///< in full
+  CharacterNameMessages = 4000,  ///< + the ASCII code
+};
+
+}  // namespace qves
