@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdlib>
 
 #include "dialogs/RichText.h"
 
@@ -230,19 +231,25 @@ TEST(RichText, DeepGroupsAreSkippedAndWhatFollowsIsRead) {
   EXPECT_EQ(Texts(opened + std::string(1'996, '}') + "end}"), std::string(199, 'a') + "end|");
 }
 
+/// Five megabytes, less where a sanitizer makes everything slow.
+std::size_t LargeSize() {
+  const char* slowness = std::getenv("QVES_SLOWNESS");
+  return 5'000'000U / std::size_t(slowness ? std::max(std::atoi(slowness), 1) : 1);
+}
+
 TEST(RichText, LargeTextsEndInBoundedMemory) {
   for (const char* part :
        {"{", "{\\b", "{}", "\\par", "\\b a\\b0 b", "\\'e9", "\\u233?", "{\\*\\pn{\\pntext", "{\\pict 00}",
         "\\u55357", "\\uc99\\u9{", "{\\colortbl;", "longword", "\\longword", "longword\\longword9", "\xE9"}) {
     std::size_t pieces = 0;
-    for (const Paragraph& each : ReadRichText(Repeated(part, 5'000'000)).Paragraphs)
+    for (const Paragraph& each : ReadRichText(Repeated(part, LargeSize())).Paragraphs)
       pieces += 1 + each.Runs.size();
     EXPECT_LE(pieces, 2'000'000U) << part;
   }
 }
 
 TEST(RichText, BeyondItsPiecesADocumentKeepsItsText) {
-  const std::string source = Repeated("a\\par{\\b b}", 5'000'000);
+  const std::string source = Repeated("a\\par{\\b b}", LargeSize());
   std::ptrdiff_t letters = 0;
   for (const Paragraph& each : ReadRichText(source).Paragraphs) {
     const std::string text = PlainText(each);
