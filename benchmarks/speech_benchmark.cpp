@@ -20,7 +20,10 @@
 #include <thread>
 #include <vector>
 
+#include "EnglishVoice.h"
+#include "speech/Pauses.h"
 #include "speech/SpeechBackEnds.h"
+#include "voicing/VoicedText.h"
 
 namespace {
 
@@ -88,7 +91,10 @@ class NoPump : public qves::EventPump {
   void ProcessEvents(int) override {}
 };
 
+long allSamples = 0;
+
 int TakeSamples(short* samples, int count, espeak_EVENT*) {
+  if (samples && count > 0) allSamples += count;
   if (samples && count > 0) NoteSamples(samples, std::size_t(count));
   return 0;
 }
@@ -96,6 +102,31 @@ int TakeSamples(short* samples, int count, espeak_EVENT*) {
 // The silence before the first audible sample, in microseconds.
 double Lead() {
   return silentLead * 1e6 / espeak_ng_GetSampleRate();
+}
+
+// As spoken and as voiced.
+void PrintSecondsOfSpeech() {
+  espeak_Initialize(AUDIO_OUTPUT_SYNCHRONOUS, 0, nullptr, 0);
+  espeak_SetSynthCallback(TakeSamples);
+  espeak_SetVoiceByName("English (America)");
+  const auto seconds = [](const std::string& text) {
+    allSamples = 0;
+    espeak_Synth(text.c_str(), text.size() + 1, 0, POS_CHARACTER, 0, espeakCHARS_UTF8, nullptr, nullptr);
+    return double(allSamples) / espeak_ng_GetSampleRate();
+  };
+  const struct {
+    const char* Text;
+    qves::ValueKind Kind;
+  } texts[] = {{"= 0point333333333333333", qves::ValueKind::Number},
+               {"=  minus 6point5", qves::ValueKind::Number},
+               {"11010101010101010101010101010101", qves::ValueKind::BaseDigits},
+               {"DEADBEEF", qves::ValueKind::BaseDigits}};
+  std::puts("seconds of speech                             as spoken  as voiced");
+  for (const auto& [text, kind] : texts) {
+    const std::string voiced = qves::MakeVoiced(text, {qves::English}, {0, std::strlen(text), kind}).Text;
+    std::printf("%-44s  %9.2f  %9.2f\n", text, seconds(text), seconds(qves::WithPauses(voiced, {}).Text));
+  }
+  espeak_Terminate();
 }
 
 struct FirstSample {
@@ -201,6 +232,7 @@ int main() {
   const SoundServer server;
   if (!server.Ready) return std::puts("pulseaudio is needed"), 1;
   const FirstSample inCall = BareFirstSample(AUDIO_OUTPUT_SYNCHRONOUS);
+  PrintSecondsOfSpeech();
   const FirstSample onThread = BareFirstSample(AUDIO_OUTPUT_RETRIEVAL);
   NoPump pump;
   const auto list = qves::MakeSpeech(qves::SpeechChoice::EspeakNg, pump);
