@@ -104,11 +104,8 @@ double Lead() {
   return silentLead * 1e6 / espeak_ng_GetSampleRate();
 }
 
-// As spoken and as voiced.
+// As spoken and as voiced. The library is set up to speak within the call.
 void PrintSecondsOfSpeech() {
-  espeak_Initialize(AUDIO_OUTPUT_SYNCHRONOUS, 0, nullptr, 0);
-  espeak_SetSynthCallback(TakeSamples);
-  espeak_SetVoiceByName("English (America)");
   const auto seconds = [](const std::string& text) {
     allSamples = 0;
     espeak_Synth(text.c_str(), text.size() + 1, 0, POS_CHARACTER, 0, espeakCHARS_UTF8, nullptr, nullptr);
@@ -126,7 +123,6 @@ void PrintSecondsOfSpeech() {
     const std::string voiced = qves::MakeVoiced(text, {qves::English}, {0, std::strlen(text), kind}).Text;
     std::printf("%-44s  %9.2f  %9.2f\n", text, seconds(text), seconds(qves::WithPauses(voiced, {}).Text));
   }
-  espeak_Terminate();
 }
 
 struct FirstSample {
@@ -149,6 +145,7 @@ FirstSample BareFirstSample(espeak_AUDIO_OUTPUT output) {
     std::this_thread::sleep_for(std::chrono::milliseconds(2));
     return taken;
   });
+  if (output == AUDIO_OUTPUT_SYNCHRONOUS) PrintSecondsOfSpeech();
   espeak_Terminate();
   return {median, Median(audibleTimes)};
 }
@@ -232,7 +229,6 @@ int main() {
   const SoundServer server;
   if (!server.Ready) return std::puts("pulseaudio is needed"), 1;
   const FirstSample inCall = BareFirstSample(AUDIO_OUTPUT_SYNCHRONOUS);
-  PrintSecondsOfSpeech();
   const FirstSample onThread = BareFirstSample(AUDIO_OUTPUT_RETRIEVAL);
   NoPump pump;
   const auto list = qves::MakeSpeech(qves::SpeechChoice::EspeakNg, pump);
