@@ -29,6 +29,7 @@ class JsonLine {
 
  private:
   void Separate();
+  void Quote(std::string_view text, std::string_view close);
   std::string Line;
 };
 
