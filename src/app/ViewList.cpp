@@ -37,8 +37,7 @@ constexpr auto Table = std::to_array<ViewRow>({
 /// No number, menu item or word stands twice, and no row has a gap.
 consteval bool IsSound(std::span<const ViewRow> rows) {
   for (const ViewRow& row : rows) {
-    if (row.Word.empty() || row.About.empty() || row.HotKeys.empty() || row.Inverse.empty() || !row.Make)
-      return false;
+    if (row.Word.empty() || row.About.empty() || row.HotKeys.empty() || row.Inverse.empty()) return false;
     for (const ViewRow& other : rows)
       if (&other != &row &&
           (other.Identity.CalcView == row.Identity.CalcView ||
