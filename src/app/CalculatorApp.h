@@ -1,6 +1,7 @@
 // The whole calculator: start-up, the current view, view switching and the end.
 #pragma once
 
+#include <map>
 #include <memory>
 #include <optional>
 #include <utility>
@@ -53,6 +54,7 @@ class CalculatorApp : private ViewFrame, private DialogFrame {
  private:
   // ViewFrame
   ViewIdentity Identity() const override { return Current->Identity; }
+  std::any& LeftBehind() override { return LeftByView[Current]; }
   std::vector<int> ViewItems() const override;
   void ChooseView(int menuItem) override;
   void Exit() override;
@@ -81,6 +83,7 @@ class CalculatorApp : private ViewFrame, private DialogFrame {
   AppObserver& Observer;
   std::span<const ViewRow> Rows;
   const ViewRow* Current = nullptr;  ///< of the view shown last
+  std::map<const ViewRow*, std::any> LeftByView;
   std::unique_ptr<frmCTLApp> HostForm;
   std::unique_ptr<Form> View;
   std::vector<std::unique_ptr<Form>> Dialogs;  ///< open above the view, the top one last

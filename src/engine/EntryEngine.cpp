@@ -211,6 +211,11 @@ void EntryEngine::Show(ValueKind kind) {
   Host.ShowDisplay(Now.EntryText);
 }
 
+void EntryEngine::ShowAll() {
+  Host.ShowDisplay(Now.DisplayText());
+  Host.ShowMemory(Now.MemoryCell.Indicator());
+}
+
 void EntryEngine::ShowInstead(std::string_view text) {
   Now.EntryKind = ValueKind::Number;
   Now.InsteadOfEntry = text;

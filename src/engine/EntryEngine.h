@@ -64,6 +64,11 @@ class EntryEngine {
   /// A fault outside an evaluation: the error state, and it is said.
   void FailAloud();
 
+  /// Says what the display shows, after what has been said.
+  void SayValue() { SayResult(""); }
+  /// Shows the calculation, all of which may have changed.
+  void ShowAll();
+
   bool InError() const { return Now.ErrorState; }
   /// What the display shows: the entry, or what stands in its place for the moment.
   const std::string& DisplayText() const { return Now.DisplayText(); }

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "model/RichText.h"
+#include "model/SharedList.h"
 
 namespace qves {
 
@@ -151,7 +152,7 @@ class ListBox : public ListControl {
 class ListView : public ListControl {
  public:
   using ListControl::ListControl;
-  std::vector<std::string>* Items = nullptr;  ///< null: it is empty
+  SharedList<std::string>* Items = nullptr;  ///< null: it is empty
 
   int ItemCount() const override { return Items ? static_cast<int>(Items->size()) : 0; }
   const std::string& ItemText(int item) const override { return (*Items)[static_cast<std::size_t>(item)]; }

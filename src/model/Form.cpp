@@ -33,12 +33,14 @@ void Form::Click(Control& control) {
   if (!control.Enabled) return;
   if (auto* box = dynamic_cast<CheckBox*>(&control)) SetChecked(*box, !box->Checked);
   Guarded([&] { OnClick(control); });
+  OnActed(control);
 }
 
 void Form::Choose(ListControl& list, int item) {
   if (!list.Enabled || item == list.ListIndex || item < 0 || item >= list.ItemCount()) return;
   PlaceChoice(list, item);
   Guarded([&] { OnChoose(list); });
+  OnActed(list);
 }
 
 void Form::MouseClick(Control& control) {
@@ -121,7 +123,7 @@ void Form::PlaceChoice(ListControl& list, int item) {
 void Form::AppendItems(ListView& list, std::span<const std::string> items) {
   if (items.empty()) return;
   const int from = list.ItemCount();
-  list.Items->insert(list.Items->end(), items.begin(), items.end());
+  list.Items->Append(items);
   if (list.ListIndex == NoItem) list.ListIndex = 0;
   Tell([&](FormObserver& observer) {
     observer.ItemsChanged(*this, list, from, 0, static_cast<int>(items.size()));
@@ -130,13 +132,16 @@ void Form::AppendItems(ListView& list, std::span<const std::string> items) {
 
 void Form::RemoveItems(ListView& list, int from, int count) {
   if (count == 0) return;
-  const auto first = list.Items->begin() + from;
-  list.Items->erase(first, first + count);
+  list.Items->Erase(static_cast<std::size_t>(from), static_cast<std::size_t>(count));
   if (list.ListIndex >= from + count)
     list.ListIndex -= count;
   else if (list.ListIndex >= from)
     list.ListIndex = std::min(from, list.ItemCount() - 1);
   Tell([&](FormObserver& observer) { observer.ItemsChanged(*this, list, from, count, 0); });
+}
+
+void Form::ItemsReplaced(ListView& list, int before) {
+  Tell([&](FormObserver& observer) { observer.ItemsChanged(*this, list, 0, before, list.ItemCount()); });
 }
 
 void Form::SetEnabled(Control& control, bool enabled) {

@@ -112,6 +112,8 @@ class Form {
   /// of all becomes the chosen one; where the chosen one goes, the one that takes its place or the last is.
   void AppendItems(ListView& list, std::span<const std::string> items);
   void RemoveItems(ListView& list, int from, int count);
+  /// The list shows other items than it did, of which there were so many.
+  void ItemsReplaced(ListView& list, int before);
   void SetEnabled(Control& control, bool enabled);
   /// Places in the reader's document have changed.
   void ReaderMoved(Reader& reader);
@@ -130,6 +132,8 @@ class Form {
   virtual void OnMenu(int /*id*/) {}
   /// An arithmetic fault of a handler.
   virtual void OnFault() {}
+  /// The control's handler has acted, or has ended in a fault.
+  virtual void OnActed(Control&) {}
 
   std::vector<PanelSpec> PanelList;
   std::vector<Menu> MenuList;

@@ -7,13 +7,17 @@
 
 namespace qves {
 
+/// Who may read a file that is written.
+enum class FileReaders { Everybody, OwnerOnly };
+
 class FileStore {
  public:
   virtual ~FileStore() = default;
   /// The whole file; nothing on failure, with the reason in `error`.
   virtual std::optional<std::string> Read(const std::string& path, std::string& error) = 0;
   /// Replaces the file in one step (a temporary name, then a rename), making its folder when missing.
-  virtual bool Write(const std::string& path, std::string_view content, std::string& error) = 0;
+  virtual bool Write(const std::string& path, std::string_view content, std::string& error,
+                     FileReaders readers = FileReaders::Everybody) = 0;
   /// Appends to the file, making it when missing.
   virtual bool Append(const std::string& path, std::string_view text, std::string& error) = 0;
   virtual bool IsFile(const std::string& path) = 0;  ///< exists and is no folder

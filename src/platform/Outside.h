@@ -16,6 +16,7 @@ class DirectoryManager {
   virtual std::string UserName() = 0;
   virtual std::string ProgramFolder() = 0;    ///< of the program, or of its installed data
   virtual std::string ConfigFolder() = 0;     ///< the user's settings, of all programs
+  virtual std::string StateFolder() = 0;      ///< what programs remember of a user's work
   virtual std::string DocumentsFolder() = 0;  ///< the user's documents
 };
 

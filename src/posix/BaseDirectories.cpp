@@ -51,8 +51,16 @@ std::string BaseDirectories::UserName() {
 }
 
 std::string BaseDirectories::ConfigFolder() {
-  const std::string config = Confined ? "" : EnvironmentPath("XDG_CONFIG_HOME");
-  return config.empty() ? HomeFolder + "/.config" : config;
+  return BaseFolder("XDG_CONFIG_HOME", "/.config");
+}
+
+std::string BaseDirectories::StateFolder() {
+  return BaseFolder("XDG_STATE_HOME", "/.local/state");
+}
+
+std::string BaseDirectories::BaseFolder(const char* variable, const char* usual) const {
+  const std::string folder = Confined ? "" : EnvironmentPath(variable);
+  return folder.empty() ? HomeFolder + usual : folder;
 }
 
 std::string BaseDirectories::DocumentsFolder() {

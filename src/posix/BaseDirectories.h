@@ -16,12 +16,15 @@ class BaseDirectories : public DirectoryManager {
   std::string UserName() override;
   std::string ProgramFolder() override { return Program; }
   std::string ConfigFolder() override;
+  std::string StateFolder() override;
   std::string DocumentsFolder() override;
   const std::string& Home() const { return HomeFolder; }
   /// The home below which everything lies; "" without one.
   std::string ConfinedTo() const { return Confined ? HomeFolder : std::string(); }
 
  private:
+  /// Of the environment, or the usual one below the home.
+  std::string BaseFolder(const char* variable, const char* usual) const;
   std::string FromUserDirs(const std::string& name);
 
   bool Confined;

@@ -29,7 +29,8 @@ constexpr off_t LargestFile = 256 * 1024 * 1024;
 
 class Descriptor {
  public:
-  Descriptor(const std::string& path, int flags) : Number(::open(path.c_str(), flags | O_CLOEXEC, 0666)) {}
+  Descriptor(const std::string& path, int flags, mode_t mode = 0666)
+      : Number(::open(path.c_str(), flags | O_CLOEXEC, mode)) {}
   ~Descriptor() {
     if (Number >= 0) ::close(Number);
   }
@@ -100,13 +101,15 @@ std::optional<std::string> PosixFileStore::Read(const std::string& path, std::st
   }
 }
 
-bool PosixFileStore::Write(const std::string& path, std::string_view content, std::string& error) {
+bool PosixFileStore::Write(const std::string& path, std::string_view content, std::string& error,
+                           FileReaders readers) {
   if (!MayWrite(path, error)) return false;
   MakeFolder(fs::path(path).parent_path());
   const std::string temporary = path + "." + std::to_string(::getpid()) + ".tmp";
   bool written = false;
   {
-    const Descriptor file(temporary, O_WRONLY | O_CREAT | O_TRUNC);
+    const Descriptor file(temporary, O_WRONLY | O_CREAT | O_TRUNC,
+                          readers == FileReaders::OwnerOnly ? 0600 : 0666);
     written = file.Number >= 0 && WriteAll(file.Number, content) && ::fsync(file.Number) == 0;
     if (!written) Fail(error);
   }

@@ -18,7 +18,8 @@ class PosixFileStore : public FileStore {
   void RefuseRelativePaths() { RelativePaths = false; }
 
   std::optional<std::string> Read(const std::string& path, std::string& error) override;
-  bool Write(const std::string& path, std::string_view content, std::string& error) override;
+  bool Write(const std::string& path, std::string_view content, std::string& error,
+             FileReaders readers = FileReaders::Everybody) override;
   bool Append(const std::string& path, std::string_view text, std::string& error) override;
   bool IsFile(const std::string& path) override;
   bool IsFolder(const std::string& path) override;

@@ -68,6 +68,7 @@ struct AppSettings {
   int PairsOfDecimals = 0;  ///< a number is spoken with twice so many decimals; 0: with all
   int Detail = FullSpeech;
   int NoFunctionSound = SwitchOn;  ///< a key that does nothing makes a sound
+  int KeepHistory = SwitchOn;      ///< over restarts
 
   /// True when a host settings file was found: only then its colours and font replace the desktop's own.
   bool HostFileFound = false;

@@ -17,6 +17,7 @@ inline constexpr int ReportErrorCode = 4;    ///< the statistics report
 inline constexpr int ImportErrorCode = 5;    ///< a file of data to import
 inline constexpr int OverflowErrorCode = 6;  ///< a count beyond its integer range
 inline constexpr int DocumentErrorCode = 7;  ///< a document that is shown
+inline constexpr int HistoryErrorCode = 8;   ///< the history of calculations
 
 class ErrorLog {
  public:

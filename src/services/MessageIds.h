@@ -37,6 +37,10 @@ enum MessageId : int {
   AllSelectedMessage = 1600,
   DisabledMessage = 1700,
   FirstFullMonthMessage = 1730,  ///< in full
+  UndoneMessage = 1750,
+  DoneAgainMessage = 1751,
+  NothingToUndoMessage = 1752,
+  NothingToRedoMessage = 1753,
   CharacterNameMessages = 4000,  ///< + the ASCII code
 };
 

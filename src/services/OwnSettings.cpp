@@ -28,6 +28,7 @@ constexpr OwnSetting OwnSettings[] = {
     {"SpokenDecimals", &AppSettings::PairsOfDecimals, Decimals},
     {"SpeechDetail", &AppSettings::Detail, Details},
     {"NoFunctionSound", &AppSettings::NoFunctionSound, TrueFalse},
+    {"KeepHistory", &AppSettings::KeepHistory, TrueFalse},
 };
 
 std::string Lower(std::string_view text) {

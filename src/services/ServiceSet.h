@@ -14,7 +14,9 @@ class ServiceSet {
         SettingsStore(Settings, FolderLocations, Messages, Verbosity, Log, platform),
         Speech(platform, Settings, Messages),
         Sounds(Verbosity, Messages, FolderLocations, Log, platform),
-        All{Settings, SettingsStore, FolderLocations, Messages, Log, Speech, Verbosity, platform, Sounds} {}
+        Past(platform, Settings, Log),
+        All{Settings, SettingsStore, FolderLocations, Messages, Log,
+            Speech,   Verbosity,     platform,        Sounds,   Past} {}
   ServiceSet(const ServiceSet&) = delete;
   ServiceSet& operator=(const ServiceSet&) = delete;
 
@@ -27,6 +29,7 @@ class ServiceSet {
   SettingsFiles SettingsStore;
   SpeechService Speech;
   EventSounds Sounds;
+  History Past;
 
  public:
   Services All;

@@ -6,6 +6,7 @@
 #include "services/ErrorLog.h"
 #include "services/EventSounds.h"
 #include "services/Folders.h"
+#include "services/History.h"
 #include "services/Messages.h"
 #include "services/Settings.h"
 #include "services/Speech.h"
@@ -23,6 +24,7 @@ struct Services {
   VerbosityTable& Verbosity;
   Platform& Outside;
   EventSounds& Sounds;
+  History& Past;
 };
 
 }  // namespace qves

@@ -33,7 +33,12 @@ View::View(const ViewTables& tables, Services& services, ViewFrame& frame)
 }
 
 void View::AddControls() {
-  for (const ControlSpec& spec : Tables.Controls) Add(MakeControl(spec, Services_.Messages));
+  for (const ControlSpec& spec : Tables.Controls) {
+    Control& control = Add(MakeControl(spec, Services_.Messages));
+    if (auto* box = dynamic_cast<CheckBox*>(&control)) Boxes.push_back(box);
+    if (auto* list = dynamic_cast<ListBox*>(&control)) OptionLists.push_back(list);
+    if (auto* list = dynamic_cast<ListView*>(&control)) DataLists.push_back(list);
+  }
   Display = static_cast<TextBox*>(Find("txtDisplay"));
   MemoryBox = static_cast<TextBox*>(Find("txtMemory"));
 }
@@ -62,6 +67,22 @@ void View::Form_Load() {
   Frame.ViewLoaded();
 }
 
+View::Choices View::TakeChoices() const {
+  Choices choices;
+  for (const CheckBox* box : Boxes) choices.Options.push_back(box->Checked);
+  for (const ListBox* list : OptionLists) choices.Options.push_back(list->ListIndex);
+  for (const ListView* list : DataLists) choices.Points.push_back(list->ListIndex);
+  return choices;
+}
+
+void View::PutChoices(const Choices& choices) {
+  auto option = choices.Options.begin();
+  for (CheckBox* box : Boxes) SetChecked(*box, *option++ != 0);
+  for (ListBox* list : OptionLists) PlaceChoice(*list, *option++);
+  auto point = choices.Points.begin();
+  for (ListView* list : DataLists) PlaceChoice(*list, *point++);
+}
+
 void View::CreateSpeech() {
   const AppSettings& s = Services_.Settings;
   if (Services_.Speech.CreateSpeech(s.SystemVoice, s.SystemManuf, s.SystemProduct, s.SystemLanguage))
@@ -88,6 +109,10 @@ void View::ShutDownSpeech() {
 }
 
 void View::NotifyKeyDown(bool& handled, const KeyEvent& event) {
+  if (PressEveryViewKey(event)) {
+    handled = true;
+    return;
+  }
   if (!Frame.IsActive(*this)) return;
   const auto target = [&](const KeyRow& row) { return Find(row.Control, IndexFor(row, event)); };
   const KeyRow* row = FindKeyRow(

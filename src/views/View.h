@@ -47,6 +47,23 @@ class View : public Form, protected EngineHost {
     if (MemoryBox) SetText(*MemoryBox, indicator);
   }
 
+  /// What is chosen on the form: check boxes and lists of options; and the points chosen in lists of data.
+  struct Choices {
+    std::vector<int> Options;
+    std::vector<int> Points;
+  };
+  Choices TakeChoices() const;
+  void PutChoices(const Choices& choices);
+  /// Something has been done: a step of that name, where it has changed the calculation.
+  virtual void NoteStep(const std::string& /*name*/) {}
+  /// Takes a step back, or does it again: its name; null where there is none.
+  virtual const std::string* UndoStep() { return nullptr; }
+  virtual const std::string* RedoStep() { return nullptr; }
+  /// Shows all of a calculation that has been put back.
+  virtual void ShowCalculation() { Engine->ShowAll(); }
+  const std::string& ViewName() const { return Message(Frame.Identity().NameMessage); }
+  const std::string& Message(int id) const { return Services_.Messages.GetMessage(id); }
+
   /// The user has chosen another item; it has been spoken.
   virtual void OnNewChoice(ListControl&) {}
   /// What a control says of itself.
@@ -68,6 +85,7 @@ class View : public Form, protected EngineHost {
   void OnGotFocus(Control& control) override;
   KeyUse OnControlKey(Control& control, const KeyEvent& event) override;
   void OnFault() override { Engine->FailAloud(); }
+  void OnActed(Control& control) override { NoteStep(control.SpokenName); }
 
   void AddControls();
   void AddMenus();
@@ -79,12 +97,22 @@ class View : public Form, protected EngineHost {
   void SayOf(const Control& control, bool queued);
   const std::string& StateOf(const CheckBox& box) const;
   KeyUse TextBoxKey(TextBox& box, const KeyEvent& event);
-  const std::string& Message(int id) const { return Services_.Messages.GetMessage(id); }
+
+  // EveryViewKeys.cpp
+  struct EveryViewKey;
+  static const EveryViewKey EveryViewKeys[];
+  bool PressEveryViewKey(const KeyEvent& event);
+  void Undo();
+  void Redo();
+  void TellStep(const std::string* step, int toldMessage, int noneMessage);
 
   const ViewTables& Tables;
   std::unique_ptr<EntryEngine> Engine;
   TextBox* Display = nullptr;
   TextBox* MemoryBox = nullptr;  ///< null in a view without a memory
+  std::vector<CheckBox*> Boxes;
+  std::vector<ListBox*> OptionLists;
+  std::vector<ListView*> DataLists;
 };
 
 }  // namespace qves

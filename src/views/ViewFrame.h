@@ -1,6 +1,7 @@
 // What a view asks of the application around it.
 #pragma once
 
+#include <any>
 #include <vector>
 
 namespace qves {
@@ -18,6 +19,8 @@ class ViewFrame {
   virtual ~ViewFrame() = default;
   /// Of the view that is current.
   virtual ViewIdentity Identity() const = 0;
+  /// What the current view left behind in its life before; empty in its first one. It is the view's own.
+  virtual std::any& LeftBehind() = 0;
   /// The items of the View menu.
   virtual std::vector<int> ViewItems() const = 0;
   /// Unloads the current view and shows the one of that View-menu item; says its name when it is current.

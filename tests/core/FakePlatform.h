@@ -22,7 +22,8 @@ struct FakeFiles : FileStore {
     error = IsFolder(path) ? "Is a directory" : "No such file or directory";
     return std::nullopt;
   }
-  bool Write(const std::string& path, std::string_view content, std::string& error) override {
+  bool Write(const std::string& path, std::string_view content, std::string& error,
+             FileReaders = FileReaders::Everybody) override {
     if (!ReadOnly) Content[path] = content;
     error = "Read-only file system";
     return !ReadOnly;
@@ -46,6 +47,7 @@ struct FakeDirectories : DirectoryManager {
   std::string UserName() override { return "anna"; }
   std::string ProgramFolder() override { return "/program"; }
   std::string ConfigFolder() override { return "/home/LocalService/.config"; }
+  std::string StateFolder() override { return "/home/anna/.local/state"; }
   std::string DocumentsFolder() override { return "/home/anna/Documents"; }
 };
 

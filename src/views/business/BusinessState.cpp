@@ -13,7 +13,7 @@ StateFields Describe(const BusinessState& state) {
                                {"PMT", r.PMT},
                                {"FV", r.FV},
                                {"CF0", r.CF0},
-                               {"CashFlows", r.CashFlows},
+                               {"CashFlows", r.CashFlows.Copy()},
                                {"FlowCount", double{1} * r.FlowCount()},
                                {"LastGroupCount", double{1} * r.LastGroupCount},
                                {"j", r.J},

@@ -1,6 +1,7 @@
 #include "views/business/FinancialRegisters.h"
 
-#include <cmath>
+#include <algorithm>
+#include <array>
 
 #include "formulas/Numbers.h"
 #include "model/ArithmeticFault.h"
@@ -9,15 +10,16 @@ namespace qves {
 
 void AppendFlow(FinancialRegisters& registers, double flow) {
   ToInt16(registers.FlowCount() + 1.0);
-  registers.CashFlows.back() = flow;
-  registers.CashFlows.push_back(0);
+  const std::size_t slot = registers.CashFlows.size() - 1;
+  registers.CashFlows.Shorten(slot);
+  registers.CashFlows.Append(std::array{flow, 0.0});
 }
 
-double* FindFlow(FinancialRegisters& registers) {
-  if (!(registers.J > 0 && registers.J <= registers.FlowCount())) return nullptr;
+std::optional<std::size_t> FindFlow(const FinancialRegisters& registers) {
+  if (!(registers.J > 0 && registers.J <= registers.FlowCount())) return std::nullopt;
   const auto slot = ToInt16(registers.J - 1);
   if (slot < 0) throw ArithmeticFault("no flow has that index");
-  return &registers.CashFlows[static_cast<std::size_t>(slot)];
+  return static_cast<std::size_t>(slot);
 }
 
 void RepeatLastFlow(FinancialRegisters& registers, double count) {
@@ -27,9 +29,10 @@ void RepeatLastFlow(FinancialRegisters& registers, double count) {
   const std::int16_t group = ToInt16(count);
   if (after < 0) throw ArithmeticFault("fewer flows than none");
   const double last = registers.CashFlows[static_cast<std::size_t>(before - 1)];
-  registers.CashFlows.resize(static_cast<std::size_t>(after) + 1);
-  registers.CashFlows.back() = 0;
-  for (int k = 1; k <= count - 1; ++k) registers.CashFlows[static_cast<std::size_t>(after - k)] = last;
+  registers.CashFlows.Shorten(static_cast<std::size_t>(std::min(before, after)));
+  std::vector<double> added(static_cast<std::size_t>(std::max(after - before, 0)), last);
+  added.push_back(0);
+  registers.CashFlows.Append(added);
   registers.LastGroupCount = group;
 }
 

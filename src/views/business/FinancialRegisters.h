@@ -2,9 +2,10 @@
 #pragma once
 
 #include <cstdint>
-#include <vector>
+#include <optional>
 
 #include "formulas/Dates.h"
+#include "model/SharedList.h"
 
 namespace qves {
 
@@ -17,7 +18,7 @@ struct FinancialRegisters {
   double CF0 = 0;  ///< the initial investment
   double J = 0;    ///< index of a cash flow, from 1
   /// The flows, and one slot more, which is 0.
-  std::vector<double> CashFlows = {0};
+  SharedList<double> CashFlows = {0};
   std::int16_t LastGroupCount = 0;
   DayNumber BeginDate = 0;
   DayNumber EndDate = 0;
@@ -29,9 +30,9 @@ struct FinancialRegisters {
 
 /// Adds a flow. Faults when the list is full: 32767 flows.
 void AppendFlow(FinancialRegisters& registers, double flow);
-/// The slot of flow j; null when j is not above 0, or above the number of flows. Faults when j, which may be
-/// a fraction, is rounded to no slot.
-double* FindFlow(FinancialRegisters& registers);
+/// The slot of flow j; nothing when j is not above 0, or above the number of flows. Faults when j, which may
+/// be a fraction, is rounded to no slot.
+std::optional<std::size_t> FindFlow(const FinancialRegisters& registers);
 /// Makes the last flow stand `count` times at the end of the list; a count below 1 shortens the list instead.
 /// Faults, and changes nothing, when there is no flow and when the list would be too short or too long.
 void RepeatLastFlow(FinancialRegisters& registers, double count);

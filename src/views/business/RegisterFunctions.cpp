@@ -51,12 +51,13 @@ double BusinessEngine::FindInterest(double) {
 }
 
 double BusinessEngine::FindNPV(double) {
-  return rtcNPV(Now.Registers.I, Now.Registers.CF0, Now.Registers.CashFlows);
+  return rtcNPV(Now.Registers.I, Now.Registers.CF0, Now.Registers.CashFlows.Copy());
 }
 
 double BusinessEngine::FindIRR(double) {
-  std::vector<double> flows = {Now.Registers.CF0};
-  flows.insert(flows.end(), Now.Registers.CashFlows.begin(), Now.Registers.CashFlows.end() - 1);
+  std::vector<double> flows = Now.Registers.CashFlows.Copy();
+  flows.pop_back();
+  flows.insert(flows.begin(), Now.Registers.CF0);
   return Checked(rtcIRR(flows) * 100);
 }
 

@@ -88,7 +88,7 @@ void BusinessEngine::Store(const RegisterRow& row) {
 /// Without a prefix a flow is added; after STO flow j is changed, if there is one.
 void BusinessEngine::StoreFlow() {
   if (Prefix != Sto) return AppendFlow(Now.Registers, Now.CurrentValue);
-  if (double* flow = FindFlow(Now.Registers)) *flow = Now.CurrentValue;
+  if (const auto slot = FindFlow(Now.Registers)) Now.Registers.CashFlows.Set(*slot, Now.CurrentValue);
 }
 
 void BusinessEngine::StoreCount() {
@@ -97,8 +97,8 @@ void BusinessEngine::StoreCount() {
 }
 
 void BusinessEngine::RecallFlow() {
-  const double* flow = FindFlow(Now.Registers);
-  Now.CurrentValue = flow ? *flow : 0;
+  const auto slot = FindFlow(Now.Registers);
+  Now.CurrentValue = slot ? Now.Registers.CashFlows[*slot] : 0;
 }
 
 void BusinessEngine::RecallFlowCount() {

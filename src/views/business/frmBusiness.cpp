@@ -31,7 +31,7 @@ constexpr ViewTables BusinessTables = {
 }  // namespace
 
 frmBusiness::frmBusiness(Services& services, ViewFrame& frame)
-    : View(BusinessTables, services, frame),
+    : StateView(BusinessTables, services, frame),
       INTBase(static_cast<ListBox*>(Find("lltINTBase"))),
       PMTMode(static_cast<ListBox*>(Find("lltPMTMode"))),
       OddPeriodMode(static_cast<ListBox*>(Find("lltOddPeriod"))) {
@@ -41,7 +41,7 @@ frmBusiness::frmBusiness(Services& services, ViewFrame& frame)
   for (std::string& name : Names.Months) name = services.Messages.GetMessage(id++);
   EngineHost& host = *this;
   BusinessHost& modes = *this;
-  auto engine = std::make_unique<BusinessEngine>(State, host, modes, Says);
+  auto engine = std::make_unique<BusinessEngine>(Now, host, modes, Says);
   engine->ClearFinancial();
   UseEngine(std::move(engine));
 }

@@ -1,18 +1,16 @@
 // The Business view: financial registers, cash flows, depreciation, bonds and dates.
 #pragma once
 
-#include "views/View.h"
+#include "views/StateView.h"
 #include "views/business/BusinessEngine.h"
 
 namespace qves {
 
-class frmBusiness : public View, private BusinessHost {
+class frmBusiness : public StateView<BusinessState>, private BusinessHost {
  public:
   frmBusiness(Services& services, ViewFrame& frame);
 
  private:
-  StateFields EngineState() const override { return Describe(State); }
-
   // BusinessHost
   int PaymentMode() const override { return PMTMode->ListIndex; }
   int OddPeriod() const override { return OddPeriodMode->ListIndex; }
@@ -20,7 +18,6 @@ class frmBusiness : public View, private BusinessHost {
   Date Today() const override { return Services_.Outside.Clock.Today(); }
   const DateNames& NamesOfDates() const override { return Names; }
 
-  BusinessState State;
   ListBox* INTBase;
   ListBox* PMTMode;
   ListBox* OddPeriodMode;

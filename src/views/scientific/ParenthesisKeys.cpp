@@ -22,12 +22,14 @@ void ScientificEngine::LeftParen(const PressedKey& key) {
   if (Now.ParenDepth == MostOpenGroups) throw ArithmeticFault("too many open parentheses");
   EndExponent();
   Now.DecimalEntered = false;
-  OuterOperand outer = Now.ParenJustOpened ? BeginInnerGroup() : BeginGroup();
+  const OuterOperand outer = Now.ParenJustOpened ? BeginInnerGroup() : BeginGroup();
   Now.ParenJustOpened = true;
   Now.SecondOperandBegun = false;
   const auto level = static_cast<std::size_t>(Now.ParenDepth++);
-  if (Now.ParenStack.size() <= level) Now.ParenStack.resize(level + 1);
-  Now.ParenStack[level] = std::move(outer);
+  if (level < Now.ParenStack.size())
+    Now.ParenStack.Set(level, outer);
+  else
+    Now.ParenStack.Append(outer);
 }
 
 /// A group within a group that has no operator yet starts as "0 +", so that its result is added to nothing.

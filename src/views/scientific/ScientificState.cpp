@@ -5,7 +5,7 @@ namespace qves {
 StateFields Describe(const ScientificState& state) {
   std::vector<std::string> texts;
   std::vector<std::string> ops;
-  for (const OuterOperand& outer : state.ParenStack) {
+  for (const OuterOperand& outer : state.ParenStack.Copy()) {
     texts.push_back(outer.Text);
     ops.push_back(outer.Op);
   }

@@ -3,10 +3,10 @@
 
 #include <cstdint>
 #include <string>
-#include <vector>
 
 #include "engine/EntryState.h"
 #include "formulas/NumberBases.h"
+#include "model/SharedList.h"
 
 namespace qves {
 
@@ -36,8 +36,8 @@ struct ScientificState : EntryState {
   int MemoryBase = NumberBase::Decimal;  ///< the base that the memory is written in
 
   std::int16_t ParenDepth = 0;
-  std::vector<OuterOperand> ParenStack;  ///< keeps its old elements when a group is closed
-  bool ParenJustOpened = false;          ///< until the first binary operator of the group
+  SharedList<OuterOperand> ParenStack;  ///< keeps its old elements when a group is closed
+  bool ParenJustOpened = false;         ///< until the first binary operator of the group
 
   bool operator==(const ScientificState&) const = default;
 };

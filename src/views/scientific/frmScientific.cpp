@@ -32,14 +32,14 @@ constexpr ViewTables ScientificTables = {
 }  // namespace
 
 frmScientific::frmScientific(Services& services, ViewFrame& frame)
-    : View(ScientificTables, services, frame),
+    : StateView(ScientificTables, services, frame),
       Inv(static_cast<CheckBox*>(Find("cbInv"))),
       Hyp(static_cast<CheckBox*>(Find("cbHyp"))),
       NumBases(static_cast<ListBox*>(Find("lltNumBase"))),
       TrigModes(static_cast<ListBox*>(Find("lltTrigMode"))) {
   EngineHost& host = *this;
   ScientificHost& modes = *this;
-  auto engine = std::make_unique<ScientificEngine>(State, host, modes, Says);
+  auto engine = std::make_unique<ScientificEngine>(Now, host, modes, Says);
   Scientific = engine.get();
   UseEngine(std::move(engine));
   PlaceChoice(*NumBases, NumberBase::Decimal);

@@ -1,17 +1,20 @@
 // The Scientific view: functions, powers, bitwise operations, number bases and parentheses.
 #pragma once
 
-#include "views/View.h"
+#include "views/StateView.h"
 #include "views/scientific/ScientificEngine.h"
 
 namespace qves {
 
-class frmScientific : public View, private ScientificHost {
+class frmScientific : public StateView<ScientificState>, private ScientificHost {
  public:
   frmScientific(Services& services, ViewFrame& frame);
 
  private:
-  StateFields EngineState() const override { return Describe(State); }
+  void ShowCalculation() override {
+    View::ShowCalculation();
+    SetBaseButtons(Now.NumBase);
+  }
 
   // ScientificHost
   bool InverseChecked() const override { return Inv->Checked; }
@@ -24,7 +27,6 @@ class frmScientific : public View, private ScientificHost {
   void OnNewChoice(ListControl& list) override;
   void SetBaseButtons(int base);
 
-  ScientificState State;
   CheckBox* Inv;
   CheckBox* Hyp;
   ListBox* NumBases;

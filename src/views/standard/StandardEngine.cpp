@@ -27,15 +27,14 @@ void StandardEngine::Evaluate(double first, double& second, std::string_view op)
   Now.TapeLine = BeginTapeLine(first, second, op);
   EntryEngine::Evaluate(first, second, op);
   Now.TapeLine += Now.EntryText;
-  const std::string line = Now.TapeLine + "\r\n";
-  Now.TapeText += line;
-  TapeShown.AppendTape(line);
+  Now.Tape.Append(Now.TapeLine);
+  TapeShown.AppendTape(Now.TapeLine + "\r\n");
 }
 
 /// The clear-all key empties the tape, too; what else clears keeps it.
 void StandardEngine::Memory(const PressedKey& key) {
   if (key.Caption == "C") {
-    Now.TapeText.clear();
+    Now.Tape.Clear();
     TapeShown.ClearTape();
   }
   EntryEngine::Memory(key);

@@ -21,10 +21,10 @@ constexpr ViewTables StandardTables = {
 }  // namespace
 
 frmStandard::frmStandard(Services& services, ViewFrame& frame)
-    : View(StandardTables, services, frame), Tape(static_cast<TextBox*>(Find("txtResult"))) {
+    : StateView(StandardTables, services, frame), Tape(static_cast<TextBox*>(Find("txtResult"))) {
   EngineHost& host = *this;
   TapeHost& tape = *this;
-  UseEngine(std::make_unique<StandardEngine>(State, host, tape, Says));
+  UseEngine(std::make_unique<StandardEngine>(Now, host, tape, Says));
 }
 
 }  // namespace qves

@@ -1,7 +1,6 @@
 // The engine of the Statistics view: an entry for two lists of data, and what is asked of them.
 #pragma once
 
-#include <span>
 #include <string>
 
 #include "engine/EntryEngine.h"
@@ -10,7 +9,7 @@
 namespace qves {
 
 /// The most points that a list of data holds.
-inline constexpr int MostPoints = 32767;
+inline constexpr std::size_t MostPoints = 32767;
 
 enum class DataList { Main, Second };
 
@@ -30,7 +29,7 @@ class StatisticsHost {
   /// The list that keys add to and take from.
   virtual DataList TargetList() const = 0;
   virtual bool IgnoresZero() const = 0;
-  virtual std::span<const std::string> Items(DataList list) const = 0;
+  virtual const SharedList<std::string>& Items(DataList list) const = 0;
   /// Of the selected item, from 0; below 0 when none is.
   virtual int SelectedItem(DataList list) const = 0;
   virtual void AddItem(DataList list, const std::string& text) = 0;

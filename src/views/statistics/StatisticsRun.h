@@ -2,7 +2,6 @@
 #pragma once
 
 #include <optional>
-#include <span>
 #include <string>
 #include <vector>
 
@@ -12,11 +11,11 @@
 namespace qves {
 
 struct StatisticsInput {
-  std::span<const std::string> Items;   ///< of the main list
-  std::span<const std::string> Items2;  ///< of the second one
-  bool IgnoreZero = false;              ///< points of 0 count in neither
-  double DegreesOfFreedom = 0;          ///< of the critical t; 0 or less: it is not wanted
-  double Alpha = 0;                     ///< its significance level; outside of 0 to 1: it is not wanted
+  std::vector<std::string> Items;   ///< of the main list
+  std::vector<std::string> Items2;  ///< of the second one
+  bool IgnoreZero = false;          ///< points of 0 count in neither
+  double DegreesOfFreedom = 0;      ///< of the critical t; 0 or less: it is not wanted
+  double Alpha = 0;                 ///< its significance level; outside of 0 to 1: it is not wanted
 };
 
 struct ReliabilityResult {

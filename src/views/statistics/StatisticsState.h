@@ -2,16 +2,16 @@
 #pragma once
 
 #include <array>
-#include <vector>
 
 #include "engine/EntryState.h"
+#include "model/SharedList.h"
 
 namespace qves {
 
 struct StatisticsState : EntryState {
   double DegreesOfFreedom = 0;
   double Alpha = 0;
-  std::array<std::vector<std::string>, 2> Lists;  ///< by DataList: the points as they were typed
+  std::array<SharedList<std::string>, 2> Lists;  ///< by DataList: the points as they were typed
 
   bool operator==(const StatisticsState&) const = default;
 };

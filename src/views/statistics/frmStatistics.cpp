@@ -40,15 +40,21 @@ constexpr ViewTables StatisticsTables = {
 }  // namespace
 
 frmStatistics::frmStatistics(Services& services, ViewFrame& frame)
-    : View(StatisticsTables, services, frame),
+    : StateView(StatisticsTables, services, frame),
       Lists{static_cast<ListView*>(Find("lvwData")), static_cast<ListView*>(Find("lvwData2"))},
       IgnoreZero(static_cast<CheckBox*>(Find("cbIgnoreZero"))),
       UseList2(static_cast<CheckBox*>(Find("cbUseList2"))) {
   for (const DataList list : {DataList::Main, DataList::Second})
-    ListOf(list).Items = &State.Lists[static_cast<std::size_t>(list)];
+    ListOf(list).Items = &Now.Lists[static_cast<std::size_t>(list)];
   EngineHost& host = *this;
   StatisticsHost& data = *this;
-  UseEngine(std::make_unique<StatisticsEngine>(State, host, data, Says));
+  UseEngine(std::make_unique<StatisticsEngine>(Now, host, data, Says));
+}
+
+void frmStatistics::Restore(const StatisticsState& calculation) {
+  const std::array before = {Lists[0]->ItemCount(), Lists[1]->ItemCount()};
+  StateView::Restore(calculation);
+  for (std::size_t i = 0; i < before.size(); ++i) ItemsReplaced(*Lists[i], before[i]);
 }
 
 std::string frmStatistics::Announcement(const Control& control) {
@@ -96,9 +102,10 @@ void frmStatistics::OnMenu(int id) {
 void frmStatistics::Report(double degreesOfFreedom, double alpha) {
   const std::string path = Services_.FolderLocations.ReportFile();
   try {
-    const StatisticsResult result = RunStatistics(
-        {Items(DataList::Main), Items(DataList::Second), IgnoresZero(), degreesOfFreedom, alpha},
-        Services_.Outside.Spreadsheet);
+    const StatisticsResult result =
+        RunStatistics({Items(DataList::Main).Copy(), Items(DataList::Second).Copy(), IgnoresZero(),
+                       degreesOfFreedom, alpha},
+                      Services_.Outside.Spreadsheet);
     std::string error;
     if (!Services_.Outside.Files.Write(path, WriteReport(result, Services_.Messages), error))
       Services_.Log.WriteErrorLog(ReportErrorCode, "The report " + path + " cannot be written: " + error +
@@ -115,7 +122,9 @@ void frmStatistics::Import() {
   Services_.Outside.Files.MakeFolder(folder);
   const std::string path = Services_.Outside.FileDialog.Show(
       {messages.GetMessage(ImportTitleMessage), messages.GetMessage(ImportFilterMessage), "txt", folder});
-  if (!path.empty()) ImportFile(path);
+  if (path.empty()) return;
+  ImportFile(path);
+  NoteStep(messages.GetMessage(ImportTitleMessage));
 }
 
 /// The list is emptied when the file is open, before anything is read: what a broken file loses is wanted so.
@@ -131,7 +140,7 @@ void frmStatistics::ImportFile(const std::string& path) {
   std::vector<std::string> items;
   const auto take = [&](double value) {
     if (value == 0 && IgnoresZero()) return true;
-    if (std::ssize(items) == MostPoints) return false;
+    if (items.size() == MostPoints) return false;
     items.push_back(NumberToText(value));
     return true;
   };

@@ -3,19 +3,18 @@
 
 #include <array>
 
-#include "views/View.h"
+#include "views/StateView.h"
 #include "views/statistics/StatisticsEngine.h"
 
 namespace qves {
 
-class frmStatistics : public View, private StatisticsHost {
+class frmStatistics : public StateView<StatisticsState>, private StatisticsHost {
  public:
   frmStatistics(Services& services, ViewFrame& frame);
 
  private:
-  StateFields EngineState() const override { return Describe(State); }
-
   // View
+  void Restore(const StatisticsState& calculation) override;
   std::string Announcement(const Control& control) override;
   ValueSpan ValueIn(const Control& control, std::string_view announcement) const override;
   std::string ChosenWords(const ListControl& list) const override;
@@ -25,7 +24,7 @@ class frmStatistics : public View, private StatisticsHost {
   // StatisticsHost
   DataList TargetList() const override { return UseList2->Checked ? DataList::Second : DataList::Main; }
   bool IgnoresZero() const override { return IgnoreZero->Checked; }
-  std::span<const std::string> Items(DataList list) const override { return *ListOf(list).Items; }
+  const SharedList<std::string>& Items(DataList list) const override { return *ListOf(list).Items; }
   int SelectedItem(DataList list) const override { return ListOf(list).ListIndex; }
   void AddItem(DataList list, const std::string& text) override { AppendItems(ListOf(list), {&text, 1}); }
   void RemoveItem(DataList list, int item) override { RemoveItems(ListOf(list), item, 1); }
@@ -36,7 +35,6 @@ class frmStatistics : public View, private StatisticsHost {
   void Import();
   void ImportFile(const std::string& path);
 
-  StatisticsState State;
   std::array<ListView*, 2> Lists;
   CheckBox* IgnoreZero;
   CheckBox* UseList2;

@@ -1,0 +1,44 @@
+// The keys of every view: what they do stands in no key map.
+#include "services/MessageIds.h"
+#include "views/View.h"
+
+namespace qves {
+
+struct View::EveryViewKey {
+  int Code;
+  int Shift;
+  void (View::*Act)();
+  bool InDialogs = false;
+};
+
+const View::EveryViewKey View::EveryViewKeys[] = {
+    {KeyF1 + 2, NoShift, &View::Undo},
+    {KeyF1 + 2, ShiftBit, &View::Redo},
+};
+
+/// True when it was one of them.
+bool View::PressEveryViewKey(const KeyEvent& event) {
+  for (const EveryViewKey& key : EveryViewKeys) {
+    if (key.Code != event.Code || key.Shift != event.Shift) continue;
+    if (!key.InDialogs && !Frame.IsActive(*this)) continue;
+    (this->*key.Act)();
+    return true;
+  }
+  return false;
+}
+
+void View::Undo() {
+  TellStep(UndoStep(), UndoneMessage, NothingToUndoMessage);
+}
+
+void View::Redo() {
+  TellStep(RedoStep(), DoneAgainMessage, NothingToRedoMessage);
+}
+
+void View::TellStep(const std::string* step, int toldMessage, int noneMessage) {
+  if (!step) return Services_.Speech.SpeakText(Message(noneMessage));
+  Says.Say(FillPlaceholders(Message(toldMessage), {*step}));
+  Engine->SayValue();
+}
+
+}  // namespace qves
