@@ -1,10 +1,10 @@
 #include "services/OwnSettings.h"
 
 #include <algorithm>
-#include <cctype>
 #include <span>
 
 #include "services/QuotedFields.h"
+#include "text/Text.h"
 
 namespace qves {
 namespace {
@@ -29,13 +29,6 @@ constexpr OwnSetting OwnSettings[] = {
     {"SpeechDetail", &AppSettings::Detail, Details},
     {"NoFunctionSound", &AppSettings::NoFunctionSound, TrueFalse},
 };
-
-std::string Lower(std::string_view text) {
-  std::string lower(text);
-  std::ranges::transform(lower, lower.begin(),
-                         [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
-  return lower;
-}
 
 std::string ListOf(std::span<const std::string_view> words) {
   std::string list;

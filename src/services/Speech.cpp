@@ -1,25 +1,22 @@
 #include "services/Speech.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
 #include <limits>
 #include <vector>
 
 #include "model/ArithmeticFault.h"
 #include "services/MessageIds.h"
-#include "services/Text.h"
 #include "services/VoiceMessages.h"
+#include "text/Characters.h"
+#include "text/Integers.h"
+#include "text/Text.h"
 
 namespace qves {
 namespace {
 
 constexpr int PrimaryLanguageMask = 1023;
 constexpr int PitchSteps = 19;  // step 1 is the minimum, step 20 the maximum
-
-bool IsDigit(char c) {
-  return c >= '0' && c <= '9';
-}
 
 bool Wants(std::string_view setting, std::string_view item) {
   return setting.empty() || setting == item;
@@ -223,9 +220,7 @@ std::string SpeechService::SpeakableChar(std::string_view character) const {
 }
 
 void SpeechService::AttachSpeakingControls(Form& form, const VerbosityTable& verbosity) const {
-  const std::string& text = Messages.GetMessage(MsgBaseMessage);
-  std::int16_t base = 0;
-  std::from_chars(text.data(), text.data() + text.size(), base);
+  const auto base = ParseInteger<std::int16_t>(Messages.GetMessage(MsgBaseMessage)).value_or(0);
   for (const auto& control : form.Controls())
     control->Speaking = {base,
                          SpeechEngine.get(),

@@ -1,6 +1,7 @@
 #include "services/VoiceMessages.h"
 
 #include "services/MessageIds.h"
+#include "text/Text.h"
 
 namespace qves {
 namespace {
@@ -34,12 +35,6 @@ constexpr WordRow HeardWords[] = {
 constexpr std::pair<std::string_view, int> Functions[] = {{"Sqr", 1000}};
 
 constexpr int MonthCount = 12;
-
-std::string Trimmed(std::string_view text) {
-  const std::size_t first = text.find_first_not_of(' ');
-  if (first == std::string_view::npos) return "";
-  return std::string(text.substr(first, text.find_last_not_of(' ') - first + 1));
-}
 
 }  // namespace
 

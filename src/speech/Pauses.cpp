@@ -1,5 +1,7 @@
 #include "speech/Pauses.h"
 
+#include "text/Characters.h"
+
 namespace qves {
 namespace {
 
@@ -9,12 +11,8 @@ bool IsLineEnd(char c) {
   return c == '\r' || c == '\n';
 }
 
-bool IsLetter(char c) {
-  return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
-}
-
-bool IsWordCharacter(char c) {
-  return IsLetter(c) || (c >= '0' && c <= '9') || c == '\'' || (c & 0x80) != 0;
+bool IsPartOfWord(char c) {
+  return IsWordCharacter(c) || c == '\'';
 }
 
 class Pausing {
@@ -47,8 +45,8 @@ class Pausing {
 
   /// A single letter is here, and no part of a word.
   bool IsLoneLetter(std::size_t at) const {
-    return at < Text.size() && IsLetter(Text[at]) && (at == 0 || !IsWordCharacter(Text[at - 1])) &&
-           (at + 1 >= Text.size() || !IsWordCharacter(Text[at + 1]));
+    return at < Text.size() && IsLetter(Text[at]) && (at == 0 || !IsPartOfWord(Text[at - 1])) &&
+           (at + 1 >= Text.size() || !IsPartOfWord(Text[at + 1]));
   }
 
   bool PausesNext() const {

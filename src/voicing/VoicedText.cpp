@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "text/Characters.h"
 #include "voicing/SpokenNumber.h"
 
 namespace qves {
@@ -13,11 +14,6 @@ constexpr std::string_view BaseDigits = "0123456789ABCDEF";
 
 bool IsBlank(char c) {
   return Blanks.find(c) != std::string_view::npos;
-}
-
-/// A digit, a letter or a byte of a letter beyond ASCII.
-bool IsWordCharacter(char c) {
-  return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || (c & 0x80) != 0;
 }
 
 /// Whether a word that comes next has to be kept apart from what stands there.
@@ -130,7 +126,7 @@ class Voicing {
 
   bool TakeNumber() {
     const char c = Text[At];
-    const bool mayBegin = (c >= '0' && c <= '9') || c == '-' || Words.SpokenMinus.starts_with(c);
+    const bool mayBegin = IsDigit(c) || c == '-' || Words.SpokenMinus.starts_with(c);
     if (!mayBegin) return false;
     const auto number = FindNumber(TextOfNumber(), At, Rules);
     if (number) Say(NumberInWords(*number, Rules), number->Length);
@@ -149,8 +145,7 @@ class Voicing {
   /// The place of an item in its list is another number.
   void PauseBehindValue() {
     const bool isBehind = Value.Length > 0 && At == Value.Start + Value.Length;
-    if (isBehind && At + 1 < Text.size() && Text[At] == ' ' && Text[At + 1] >= '0' && Text[At + 1] <= '9')
-      Out.Text += ',';
+    if (isBehind && At + 1 < Text.size() && Text[At] == ' ' && IsDigit(Text[At + 1])) Out.Text += ',';
   }
 
   /// A number that was spoken with its digits apart ends where its value does: digits of others may follow.

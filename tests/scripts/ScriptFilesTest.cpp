@@ -20,8 +20,8 @@
 #include <sstream>
 
 #include "TemporaryFolder.h"
-#include "services/Text.h"
 #include "terminal/ScriptSession.h"
+#include "text/Text.h"
 
 namespace qves {
 namespace {

@@ -5,8 +5,9 @@
 #include <unistd.h>
 
 #include <cerrno>
-#include <cstdlib>
 #include <utility>
+
+#include "text/Integers.h"
 
 namespace qves {
 namespace {
@@ -95,7 +96,7 @@ void SpeechdConnection::TakeLine(std::string_view line) {
     Coming.Lines.emplace_back(line.substr(codeLength + 1));
     return;
   }
-  Coming.Code = std::atoi(std::string(line.substr(0, codeLength)).c_str());
+  Coming.Code = ParseInteger(line.substr(0, codeLength)).value_or(0);
   (Coming.Code >= FirstEvent ? Events : Answers).push_back(std::exchange(Coming, {}));
 }
 

@@ -16,6 +16,8 @@
 #include <optional>
 #include <thread>
 
+#include "text/Integers.h"
+
 namespace qves {
 namespace {
 
@@ -73,7 +75,7 @@ SpeechdServer::SpeechdServer() : Path(UsualPath()) {
     Path.clear();
     const std::size_t colon = place->find(':');
     Host = colon == 0 || place->empty() ? "127.0.0.1" : place->substr(0, colon);
-    Port = colon == std::string::npos ? UsualPort : std::atoi(place->c_str() + colon + 1);
+    Port = colon == std::string::npos ? UsualPort : ParseInteger(place->substr(colon + 1)).value_or(0);
   }
 }
 

@@ -2,7 +2,7 @@
 #include "formulas/MoneyText.h"
 #include "formulas/Numbers.h"
 #include "services/MessageIds.h"
-#include "services/Text.h"
+#include "text/Text.h"
 #include "views/business/BusinessEngine.h"
 
 namespace qves {
