@@ -164,8 +164,8 @@ void SpeechService::HandOver(SpeechAct act) {
 
 void SpeechService::ReadNextPiece(bool now) {
   if (!PrimarySpeaker || Reading.IsOver()) return;
-  const PiecewiseReading::Piece piece = Reading.Next();
-  const VoicedText voiced = MakeVoiced(piece.Text, Rules(), {0, 0, Reading.Kind()}, piece.Marks);
+  const MarkedText piece = Reading.Next();
+  const MarkedText voiced = MakeVoiced(piece.Text, Rules(), {0, 0, Reading.Kind()}, piece.Marks);
   if (now)
     PrimarySpeaker->SpeakNow(voiced.Text, voiced.Marks);
   else

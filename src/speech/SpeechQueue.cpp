@@ -123,7 +123,7 @@ void SpeechQueue::Play(QueuedText& text) {
   text.What.Speaking = *chosen;
   text.What.Text = CleanText(text.What.Text);
   text.What.Marks = OrderedMarks(text.What.Marks, text.What.Text.size());
-  PausedText paused = WithPauses(text.What.Text, text.What.Marks);
+  MarkedText paused = WithPauses(text.What.Text, text.What.Marks);
   text.What.Text = std::move(paused.Text);
   text.What.Marks = std::move(paused.Marks);
   for (SpeechBackEnd* backEnd : InOrder(*chosen)) {

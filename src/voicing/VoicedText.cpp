@@ -30,33 +30,27 @@ class Voicing {
     Out.Marks.reserve(marks.size());
   }
 
-  VoicedText Run() {
+  MarkedText Run() {
     while (At < Text.size()) {
       if (!TakeValue() && !TakeParen() && !TakeNumber() && !TakeSign() && !TakeFunction() &&
           !TakeFunctionEnd())
         Copy();
       PauseBehindValue();
     }
-    PinMarks(Text.size());
+    Marks.MoveUpTo(Text.size(), Out);
     return std::move(Out);
   }
 
  private:
-  /// The marks up to that place in the spoken text stand where the voiced text has come to.
-  void PinMarks(std::size_t place) {
-    for (; NextMark < Marks.size() && Marks[NextMark].Offset <= place; ++NextMark)
-      Out.Marks.push_back({Out.Text.size(), Marks[NextMark].Number});
-  }
-
   void Copy() {
-    PinMarks(At);
+    Marks.MoveUpTo(At, Out);
     Out.Text += Text[At++];
   }
 
   /// Writes words in place of so many bytes.
   void Say(std::string_view words, std::size_t length) {
     if (!Out.Text.empty() && IsWordCharacter(Out.Text.back())) Out.Text += ' ';
-    PinMarks(At);
+    Marks.MoveUpTo(At, Out);
     Out.Text += words;
     At += length;
   }
@@ -204,10 +198,9 @@ class Voicing {
   const VoicingRules& Rules;
   const VoiceWords& Words;
   ValueSpan Value;
-  std::span<const BookMark> Marks;
-  VoicedText Out;
+  MarkMover Marks;
+  MarkedText Out;
   std::size_t At = 0;
-  std::size_t NextMark = 0;
   int OpenFunctions = 0;
 };
 
@@ -218,7 +211,7 @@ bool IsPlain(std::string_view text) {
 
 }  // namespace
 
-VoicedText MakeVoiced(std::string_view spoken, const VoicingRules& rules, ValueSpan value,
+MarkedText MakeVoiced(std::string_view spoken, const VoicingRules& rules, ValueSpan value,
                       std::span<const BookMark> marks) {
   const bool isLeftAlone = rules.Reading == NumberReading::Voice || !rules.Words.Complete();
   if (isLeftAlone || (value.Length == 0 && IsPlain(spoken)))
