@@ -2,45 +2,27 @@
 
 #include <algorithm>
 
+#include "services/Text.h"
+
 namespace qves {
 namespace {
-
-struct Utf8Row {
-  unsigned char Mask;
-  unsigned char Lead;
-  std::size_t Length;
-  std::uint32_t Lowest;  // what is below could have been written shorter
-};
-constexpr Utf8Row Utf8Rows[] = {
-    {0x80, 0x00, 1, 0}, {0xe0, 0xc0, 2, 0x80}, {0xf0, 0xe0, 3, 0x800}, {0xf8, 0xf0, 4, 0x10000}};
 
 bool IsContinuation(char c) {
   return (static_cast<unsigned char>(c) & 0xc0) == 0x80;
 }
 
-// The character's code, or nothing of `row`'s form.
-std::uint32_t Decode(std::string_view text, const Utf8Row& row) {
-  std::uint32_t code = static_cast<unsigned char>(text[0]) & static_cast<unsigned char>(~row.Mask);
-  for (std::size_t i = 1; i < row.Length; ++i)
-    code = (code << 6) | (static_cast<unsigned char>(text[i]) & 0x3f);
-  return code;
-}
-
-bool IsSpeakable(std::uint32_t code) {
-  const bool control = (code < 0x20 && code != '\n' && code != '\t') || (code >= 0x7f && code < 0xa0);
-  const bool surrogate = code >= 0xd800 && code < 0xe000;
-  return !control && !surrogate && code <= 0x10ffff;
+bool IsSpeakable(std::string_view character) {
+  const char first = character[0];
+  const bool control = (first >= 0 && first < ' ' && first != '\n' && first != '\t') || first == 0x7f;
+  return !control && (character < "\u0080" || character >= "\u00a0");
 }
 
 // How many bytes the speakable character at the text's start has; 0 when there is none.
 std::size_t CharacterLength(std::string_view text) {
-  for (const Utf8Row& row : Utf8Rows) {
-    if ((static_cast<unsigned char>(text[0]) & row.Mask) != row.Lead) continue;
-    if (text.size() < row.Length) return 0;
-    const auto rest = text.substr(1, row.Length - 1);
-    if (!std::all_of(rest.begin(), rest.end(), IsContinuation)) return 0;
-    const std::uint32_t code = Decode(text, row);
-    return code >= row.Lowest && IsSpeakable(code) ? row.Length : 0;
+  constexpr std::size_t longest = 4;
+  for (std::size_t length = 1; length <= std::min(longest, text.size()); ++length) {
+    const std::string_view character = text.substr(0, length);
+    if (IsUtf8(character)) return IsSpeakable(character) ? length : 0;
   }
   return 0;
 }
