@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
+#include <thread>
 
 #include "SpeechRig.h"
 #include "speech/SpeechBackEnds.h"
@@ -199,6 +200,7 @@ TEST_F(EspeakHeardTest, ATextAfterASoundServerWasReplacedUnnoticedIsHeardWhole) 
   const BookMark marks[] = {{0, 1}, {6, 2}};
   Speaker->SpeakNow("Before.");
   ASSERT_TRUE(Idle(6s));
+  std::this_thread::sleep_for(50ms);  // the server is not listened to any more, so its end is not noticed
   Sound.Signal(SIGKILL);
   std::optional<PrivateSound> next;
   ASSERT_TRUE(ReachedWithin(Pump, 10s, [&] {
