@@ -234,7 +234,7 @@ TEST_F(EspeakHeardTest, WhatADyingSoundServerCutsOffIsNotReportedAndTheNextOneIs
       return next->Ready();
     }));
     Speaker->SpeakNow("This is heard again, and for a while.");
-    EXPECT_TRUE(ReachedWithin(Pump, 1s, [&] { return next->LoudestOfLast(300ms) > Loud; })) << round;
+    EXPECT_TRUE(ReachedWithin(Pump, 500ms, [&] { return next->LoudestOfLast(300ms) > Loud; })) << round;
     next->Signal(SIGKILL);
     EXPECT_TRUE(Idle(6s));
   }
