@@ -32,7 +32,7 @@ constexpr WordRow HeardWords[] = {
 };
 
 /// A function as a tape line writes it, and the name of its button.
-constexpr std::pair<std::string_view, int> Functions[] = {{"Sqr", 1000}};
+constexpr std::pair<std::string_view, int> Functions[] = {{"Sqr", SquareRootMessage}};
 
 constexpr int MonthCount = 12;
 

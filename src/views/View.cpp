@@ -89,7 +89,7 @@ void View::ShutDownSpeech() {
 
 void View::NotifyKeyDown(bool& handled, const KeyEvent& event) {
   if (!Frame.IsActive(*this)) return;
-  const auto target = [&](const KeyRow& row) { return Find(row.Control, IndexFor(row, event)); };
+  const auto target = [&](const KeyRow& row) { return Find(row.Target.Name, IndexFor(row, event.Code)); };
   const KeyRow* row = FindKeyRow(
       Tables.KeyMap, event, [&](const KeyRow& one) { return !one.WhileEnabled || target(one)->Enabled; });
   if (!row || row->Action == KeyAction::LeaveIt) return;

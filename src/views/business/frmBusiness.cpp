@@ -19,6 +19,8 @@ constexpr ClickRow Clicks[] = {
     {"cmdSTO", Prefix, FocusRule::MovesSilently},
 };
 
+static_assert(AllStandIn(business::Controls, business::KeyMap));
+
 constexpr ViewTables BusinessTables = {
     .FormName = "frmBusiness",
     .Controls = business::Controls,

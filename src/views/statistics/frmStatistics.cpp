@@ -27,6 +27,8 @@ constexpr ClickRow Clicks[] = {
     {"cmdStat", Do<StatisticsEngine, &StatisticsEngine::SetParameter>, FocusRule::Stays},
 };
 
+static_assert(AllStandIn(statistics::Controls, statistics::KeyMap));
+
 constexpr ViewTables StatisticsTables = {
     .FormName = "frmStatistics",
     .Controls = statistics::Controls,
