@@ -1,7 +1,7 @@
 #include "app/frmCTLApp.h"
 
 #include "services/MessageIds.h"
-#include "services/Text.h"
+#include "text/Text.h"
 
 namespace qves {
 namespace {

@@ -1,6 +1,7 @@
 #include "dialogs/CodePages.h"
 
 #include <algorithm>
+#include <string_view>
 
 namespace qves {
 namespace {
@@ -40,10 +41,6 @@ struct CodePageRow {
 constexpr CodePageRow CodePages[] = {{1252, Windows1252}, {1250, Windows1250}, {1251, Windows1251},
                                      {437, Dos437},       {850, Dos850},       {10000, Macintosh}};
 
-char Byte(char32_t bits) {
-  return static_cast<char>(static_cast<unsigned char>(bits));
-}
-
 }  // namespace
 
 char32_t FromCodePage(int codePage, unsigned char byte) {
@@ -53,23 +50,6 @@ char32_t FromCodePage(int codePage, unsigned char byte) {
   if (row == std::end(CodePages)) row = CodePages;
   const std::size_t index = byte - 0x80U;
   return index < row->Characters.size() ? row->Characters[index] : byte;
-}
-
-char32_t TakeUtf8(std::string_view& text) {
-  const auto first = static_cast<unsigned char>(text.front());
-  const std::size_t more = first < 0xC0 ? 0 : first < 0xE0 ? 1 : first < 0xF0 ? 2 : 3;
-  char32_t code = more == 0 ? first : first & (0x3FU >> more);
-  for (std::size_t i = 1; i <= more; ++i) code = code << 6 | (static_cast<unsigned char>(text[i]) & 0x3FU);
-  text.remove_prefix(more + 1);
-  return code;
-}
-
-std::string Utf8(char32_t code) {
-  const auto tail = [&](int shift) { return Byte(0x80 | (code >> shift & 0x3F)); };
-  if (code < 0x80) return {Byte(code)};
-  if (code < 0x800) return {Byte(0xC0 | code >> 6), tail(0)};
-  if (code < 0x10000) return {Byte(0xE0 | code >> 12), tail(6), tail(0)};
-  return {Byte(0xF0 | code >> 18), tail(12), tail(6), tail(0)};
 }
 
 }  // namespace qves

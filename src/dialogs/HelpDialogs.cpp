@@ -2,7 +2,7 @@
 
 #include "dialogs/DocumentFile.h"
 #include "dialogs/RichText.h"
-#include "services/Text.h"
+#include "text/Text.h"
 
 namespace qves {
 namespace {

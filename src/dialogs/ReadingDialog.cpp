@@ -4,7 +4,7 @@
 
 #include "dialogs/RichText.h"
 #include "services/MessageIds.h"
-#include "services/Text.h"
+#include "text/Text.h"
 
 namespace qves {
 namespace {

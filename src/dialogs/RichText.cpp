@@ -3,7 +3,8 @@
 #include <algorithm>
 
 #include "dialogs/RichTextReader.h"
-#include "services/Text.h"
+#include "text/Characters.h"
+#include "text/Text.h"
 
 namespace qves {
 namespace {
@@ -11,7 +12,7 @@ namespace {
 bool IsRich(std::string_view source) {
   constexpr std::string_view mark = "{\\rtf";
   if (!source.starts_with(mark)) return false;
-  return source.size() == mark.size() || !IsAsciiLetter(source[mark.size()]);
+  return source.size() == mark.size() || !IsLetter(source[mark.size()]);
 }
 
 std::string MakePlain(std::string_view source) {
@@ -33,7 +34,7 @@ RichText ReadPlainText(std::string_view source) {
 }
 
 RichText ReadRichText(std::string_view source) {
-  if (source.starts_with("\xEF\xBB\xBF")) source.remove_prefix(3);
+  source = WithoutByteOrderMark(source);
   const std::size_t start = std::min(source.find_first_not_of(" \t\r\n"), source.size());
   if (IsRich(source.substr(start))) return RichTextReader(source.substr(start)).Read();
   return MakePlain(source) == source ? ReadPlainText(source) : RichText();

@@ -4,32 +4,26 @@
 #include <utility>
 
 #include "dialogs/CodePages.h"
-#include "services/Text.h"
+#include "text/Characters.h"
+#include "text/Text.h"
+#include "text/Utf8.h"
 
 namespace qves {
 namespace {
+
+constexpr std::string_view Blanks = " \t";
 
 bool IsPrintable(char c) {
   return c >= ' ' && c <= '~';
 }
 
-bool IsControl(char32_t code) {
-  return (code < 0x20 && code != '\t') || (code >= 0x7F && code < 0xA0);
-}
-
-bool IsCharacter(char32_t code) {
-  return !IsControl(code) && (code < 0xD800 || code > 0xDFFF) && code <= 0x10FFFF;
+bool IsShown(char32_t code) {
+  return IsCharacter(code) && (!IsControl(code) || code == '\t');
 }
 
 // A label of one character is a bullet; only a digit would be a number. Letters are bullets of symbol fonts.
 bool IsBullet(std::string_view label) {
-  const auto begins = [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; };
-  return std::count_if(label.begin(), label.end(), begins) == 1 && (label[0] < '0' || label[0] > '9');
-}
-
-std::string_view Trimmed(std::string_view text) {
-  const std::size_t first = std::min(text.find_first_not_of(" \t"), text.size());
-  return text.substr(first, text.find_last_not_of(" \t") + 1 - first);
+  return !label.empty() && FirstCharacter(label).Length == label.size() && !IsDigit(label[0]);
 }
 
 }  // namespace
@@ -91,9 +85,9 @@ void RichTextReader::Enter(Destination destination) {
 
 void RichTextReader::EndLabel(const Group& label) {
   const std::string text = std::exchange(LabelText, {});
-  if (IsBullet(Trimmed(text)))
+  if (IsBullet(Trimmed(text, Blanks)))
     Document.MarkBullet();
-  else if (Here().To == Destination::Body && !Trimmed(text).empty())
+  else if (Here().To == Destination::Body && !Trimmed(text, Blanks).empty())
     Document.Append(text, label.Style, Here().Looks);
 }
 
@@ -132,9 +126,10 @@ void RichTextReader::ReadText(std::string_view text) {
 
 // Bare bytes that make no UTF-8 are of the code page.
 char32_t RichTextReader::TakeCharacter(std::string_view& text, bool utf8) const {
-  if (utf8) return TakeUtf8(text);
   const char first = text.front();
-  text.remove_prefix(1);
+  const Utf8Character character = FirstCharacter(text);
+  text.remove_prefix(utf8 ? character.Length : 1);
+  if (utf8) return character.Code;
   return FromCodePage(CodePage, static_cast<unsigned char>(first));
 }
 
@@ -148,7 +143,7 @@ void RichTextReader::Put(char32_t code) {
   constexpr char32_t paragraphSeparator = 0x2029;
   if (code == lineSeparator) return EndLine();
   if (code == paragraphSeparator) return EndParagraph();
-  if (IsCharacter(code)) Append(Utf8(code));
+  if (IsShown(code)) Append(Utf8(code));
 }
 
 void RichTextReader::Append(std::string_view text) {

@@ -1,16 +1,14 @@
 #include "dialogs/RichTextTokens.h"
 
 #include <algorithm>
-#include <charconv>
+
+#include "text/Characters.h"
+#include "text/Integers.h"
 
 namespace qves {
 namespace {
 
 constexpr int LargestNumber = 1'000'000'000;
-
-bool IsDigit(char c) {
-  return c >= '0' && c <= '9';
-}
 
 bool EndsText(char c) {
   return c == '\\' || c == '{' || c == '}' || c == '\r' || c == '\n';
@@ -23,10 +21,6 @@ std::size_t Count(std::string_view text, Condition condition) {
 }
 
 }  // namespace
-
-bool IsAsciiLetter(char c) {
-  return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z');
-}
 
 RichToken RichTokenReader::Next() {
   Take(Count(Rest, [](char c) { return c == '\r' || c == '\n'; }));
@@ -52,7 +46,7 @@ std::string_view RichTokenReader::Take(std::size_t length) {
 
 RichToken RichTokenReader::Escaped() {
   if (Rest.empty()) return {};
-  return IsAsciiLetter(Rest.front()) ? Word() : Symbol();
+  return IsLetter(Rest.front()) ? Word() : Symbol();
 }
 
 RichToken RichTokenReader::Symbol() {
@@ -76,16 +70,14 @@ RichToken RichTokenReader::Symbol() {
 
 RichToken RichTokenReader::HexByte() {
   const std::string_view digits = Rest.substr(0, 2);
-  int value = 0;
-  const char* const end = digits.data() + digits.size();
-  if (digits.size() < 2 || digits.front() == '-' || std::from_chars(digits.data(), end, value, 16).ptr != end)
-    return {RichTokenKind::Word, "'", {}};
+  const auto value = ParseInteger<unsigned char>(digits, 16);
+  if (digits.size() < 2 || !value) return {RichTokenKind::Word, "'", {}};
   Take(2);
-  return {RichTokenKind::Byte, digits, value};
+  return {RichTokenKind::Byte, digits, *value};
 }
 
 RichToken RichTokenReader::Word() {
-  RichToken token{RichTokenKind::Word, Take(Count(Rest, IsAsciiLetter)), Number()};
+  RichToken token{RichTokenKind::Word, Take(Count(Rest, IsLetter)), Number()};
   if (Rest.starts_with(' ')) Take(1);
   if (token.Text == "bin") Take(static_cast<std::size_t>(std::max(0, token.Or(0))));
   return token;
@@ -96,11 +88,7 @@ std::optional<int> RichTokenReader::Number() {
   const std::size_t length = Count(Rest.substr(negative), IsDigit);
   if (length == 0) return std::nullopt;
   Take(negative);
-  int number = LargestNumber;
-  const std::string_view digits = Take(length);
-  if (std::from_chars(digits.data(), digits.data() + length, number).ec != std::errc())
-    number = LargestNumber;
-  number = std::min(number, LargestNumber);
+  const int number = std::min(ParseInteger(Take(length)).value_or(LargestNumber), LargestNumber);
   return negative ? -number : number;
 }
 

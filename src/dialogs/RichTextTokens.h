@@ -18,8 +18,6 @@ struct RichToken {
   int Or(int usual) const { return Number.value_or(usual); }
 };
 
-bool IsAsciiLetter(char c);
-
 class RichTokenReader {
  public:
   explicit RichTokenReader(std::string_view source) : Rest(source) {}

@@ -2,15 +2,13 @@
 
 #include <algorithm>
 
+#include "text/Utf8.h"
+
 namespace qves {
 namespace {
 
 constexpr std::string_view Blanks = " \t\n";
 constexpr std::string_view Ends = ".?!";
-
-bool IsInsideCharacter(char byte) {
-  return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
-}
 
 /// Just behind the sentence that begins there.
 std::size_t EndOfSentence(std::string_view text, std::size_t start) {

@@ -1,5 +1,6 @@
 #include "engine/EntryEngine.h"
 
+#include "engine/Buttons.h"
 #include "formulas/Numbers.h"
 #include "model/ArithmeticFault.h"
 #include "services/MessageIds.h"
@@ -55,7 +56,7 @@ void EntryEngine::Backspace(const PressedKey&) {
   Says.Say(isPoint ? Says.Message(PointMessage) : last);
   // A sign change may be backspaced into; after any other result the key only speaks.
   if (!IsOneOf(Now.LastAction, {Num, ActionKind::Backspace, Decimal}) &&
-      !(Now.CurrentOp == "+/-" && Now.LastAction == Uop))
+      !(Now.CurrentOp == Buttons::Sign.Caption && Now.LastAction == Uop))
     return;
   const std::size_t length = Now.EntryText.size();
   if (length < 2 || (length == 2 && Now.EntryText.front() == '-')) {

@@ -2,6 +2,7 @@
 // acts as a recalled number does.
 #include <string>
 
+#include "engine/Buttons.h"
 #include "engine/EntryEngine.h"
 #include "formulas/Numbers.h"
 
@@ -14,9 +15,12 @@ struct EntryEngine::MemoryRow {
 };
 
 const EntryEngine::MemoryRow EntryEngine::MemoryTable[] = {
-    {"MC", &EntryEngine::ClearMemory, false}, {"MR", &EntryEngine::ReturnMemory, false},
-    {"MS", &EntryEngine::StoreMemory, true},  {"M+", &EntryEngine::AddMemory, true},
-    {"C", &EntryEngine::ClearAll, false},     {"Pi", &EntryEngine::RecallPi, false},
+    {Buttons::MemoryClear.Caption, &EntryEngine::ClearMemory, false},
+    {Buttons::MemoryRecall.Caption, &EntryEngine::ReturnMemory, false},
+    {Buttons::MemoryStore.Caption, &EntryEngine::StoreMemory, true},
+    {Buttons::MemoryAdd.Caption, &EntryEngine::AddMemory, true},
+    {Buttons::ClearAll.Caption, &EntryEngine::ClearAll, false},
+    {Buttons::Pi.Caption, &EntryEngine::RecallPi, false},
 };
 
 void EntryEngine::Memory(const PressedKey& key) {

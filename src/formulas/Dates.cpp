@@ -1,13 +1,13 @@
 #include "formulas/Dates.h"
 
 #include <algorithm>
-#include <charconv>
 #include <chrono>
 #include <cmath>
 #include <optional>
 
 #include "formulas/Numbers.h"
 #include "model/ArithmeticFault.h"
+#include "text/Integers.h"
 
 namespace qves {
 namespace {
@@ -28,14 +28,6 @@ DayNumber Number(calendar::year_month_day date) {
   const int year = static_cast<int>(date.year());
   if (!date.ok() || year < FirstYear || year > LastYear) throw ArithmeticFault("no such date");
   return static_cast<DayNumber>((calendar::sys_days(date) - DayZero).count());
-}
-
-std::optional<unsigned> ReadDigits(std::string_view text) {
-  unsigned value = 0;
-  const char* end = text.data() + text.size();
-  const auto [stop, error] = std::from_chars(text.data(), end, value);
-  if (text.empty() || stop != end || error != std::errc()) return std::nullopt;
-  return value;
 }
 
 std::string TwoDigits(unsigned number) {
@@ -75,8 +67,8 @@ std::optional<DayNumber> ParseLongDate(std::string_view text, const DateNames& n
   const std::size_t afterDay = rest.rfind(' ');
   if (afterMonth == afterDay) return std::nullopt;
   const auto month = MonthByName(rest.substr(0, afterMonth), names);
-  const auto day = ReadDigits(rest.substr(afterMonth + 1, afterDay - afterMonth - 1));
-  const auto year = ReadDigits(rest.substr(afterDay + 1));
+  const auto day = ParseInteger<unsigned>(rest.substr(afterMonth + 1, afterDay - afterMonth - 1));
+  const auto year = ParseInteger<unsigned>(rest.substr(afterDay + 1));
   if (!month || !day || !year) return std::nullopt;
   return ToDayNumber({static_cast<int>(*year), static_cast<int>(*month), static_cast<int>(*day)});
 }
@@ -112,9 +104,9 @@ std::string FormatDateNumber(DayNumber day) {
 
 DayNumber ParseDateNumber(std::string_view text, const DateNames& names) {
   if (const auto parts = SplitNumber(text)) {
-    const auto month = ReadDigits(parts->Month);
-    const auto day = ReadDigits(parts->Day);
-    const auto year = ReadDigits(parts->Year);
+    const auto month = ParseInteger<unsigned>(parts->Month);
+    const auto day = ParseInteger<unsigned>(parts->Day);
+    const auto year = ParseInteger<unsigned>(parts->Year);
     if (month && day && year)
       return ToDayNumber({static_cast<int>(*year), static_cast<int>(*month), static_cast<int>(*day)});
   }

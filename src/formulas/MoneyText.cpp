@@ -1,7 +1,8 @@
 #include "formulas/MoneyText.h"
 
 #include <algorithm>
-#include <charconv>
+
+#include "text/Integers.h"
 
 namespace qves {
 namespace {
@@ -22,7 +23,7 @@ Digits Read(std::string_view number) {
   if (exponentAt < number.size()) {
     std::string_view rest = number.substr(exponentAt + 1);
     if (rest.starts_with('+')) rest.remove_prefix(1);
-    std::from_chars(rest.data(), rest.data() + rest.size(), exponent);
+    exponent = ParseInteger(rest).value_or(0);
   }
   digits.Text = mantissa;
   std::erase(digits.Text, '.');

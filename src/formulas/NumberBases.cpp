@@ -1,12 +1,12 @@
 #include "formulas/NumberBases.h"
 
 #include <array>
-#include <charconv>
 #include <cmath>
 #include <cstdint>
 
 #include "formulas/Numbers.h"
 #include "model/ArithmeticFault.h"
+#include "text/Integers.h"
 
 namespace qves {
 namespace {
@@ -21,11 +21,9 @@ constexpr std::size_t LongestBinary = 32;
 /// Nothing when a character is no digit of that radix; faults beyond 32 bits.
 std::optional<std::uint32_t> ReadDigits(std::string_view text, int radix) {
   std::uint32_t value = 0;
-  const char* end = text.data() + text.size();
-  const auto [stop, error] = std::from_chars(text.data(), end, value, radix);
-  if (text.empty() || stop != end || error == std::errc::invalid_argument) return std::nullopt;
+  const std::errc error = ReadInteger(text, value, radix);
   if (error == std::errc::result_out_of_range) throw ArithmeticFault("the number has more than 32 bits");
-  return value;
+  return error == std::errc() ? std::optional(value) : std::nullopt;
 }
 
 double Signed(std::uint32_t value, bool isShort) {

@@ -7,6 +7,7 @@
 #include <limits>
 
 #include "model/ArithmeticFault.h"
+#include "text/Integers.h"
 
 namespace qves {
 namespace {
@@ -61,8 +62,7 @@ bool IsHuge(const NumberParts& parts) {
   std::string_view digits = parts.Exponent;
   const bool negative = digits.starts_with('-');
   if (negative || digits.starts_with('+')) digits.remove_prefix(1);
-  const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), exponent);
-  if (error == std::errc::result_out_of_range) return !negative;
+  if (ReadInteger(digits, exponent) == std::errc::result_out_of_range) return !negative;
   return order + (negative ? -exponent : exponent) > 0;
 }
 

@@ -28,10 +28,6 @@ bool Matches(const KeyRow& row, const KeyEvent& event) {
 
 }  // namespace
 
-int IndexFor(const KeyRow& row, const KeyEvent& event) {
-  return row.IndexFromCode ? event.Code + row.Index : row.Index;
-}
-
 const KeyRow* FindKeyRow(std::span<const KeyRow> rows, const KeyEvent& event,
                          const std::function<bool(const KeyRow&)>& counts) {
   for (const KeyRow& row : rows)

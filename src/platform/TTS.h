@@ -14,14 +14,9 @@
 #include <string_view>
 #include <vector>
 
-namespace qves {
+#include "text/MarkedText.h"
 
-/// A mark inside a text; it is reported when the speech reaches it, and again when a piece of the text is
-/// spoken again after a failure.
-struct BookMark {
-  std::size_t Offset = 0;  ///< in bytes from the start of the text
-  std::int32_t Number = 0;
-};
+namespace qves {
 
 class TtsSpeaker {
  public:

@@ -1,6 +1,6 @@
 #include "posix/IniRegistry.h"
 
-#include "services/Text.h"
+#include "text/Text.h"
 
 namespace qves {
 

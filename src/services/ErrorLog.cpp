@@ -2,7 +2,7 @@
 
 #include <iostream>
 
-#include "services/Text.h"
+#include "text/Text.h"
 
 namespace qves {
 

@@ -17,9 +17,8 @@ enum MessageId : int {
   ImportTitleMessage = 400,
   ImportFilterMessage = 401,
   LineBreakMessage = 402,
-  ClearAllMessage = 1062,
+  SquareRootMessage = 1000,
   PointMessage = 1073,
-  ClearEntryMessage = 1077,
   DecimalSeparatorMessage = 1081,
   CheckedMessage = 1134,
   ClearMessage = 1135,
@@ -32,6 +31,9 @@ enum MessageId : int {
   DegreesSetMessage = 1446,
   AlphaSetMessage = 1447,
   StoredMessage = 1562,
+  PrincipalPaidMessage = 1576,
+  InterestPaidMessage = 1577,
+  AccruedInterestMessage = 1578,
   FirstWeekdayMessage = 1580,  ///< Sunday, and six more
   FirstMonthMessage = 1587,    ///< January, abbreviated, and eleven more
   AllSelectedMessage = 1600,

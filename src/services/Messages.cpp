@@ -1,10 +1,10 @@
 #include "services/Messages.h"
 
-#include <charconv>
-#include <limits>
 #include <optional>
 
-#include "services/Text.h"
+#include "text/Integers.h"
+#include "text/Text.h"
+#include "text/Utf8.h"
 
 namespace qves {
 namespace {
@@ -29,11 +29,8 @@ std::optional<std::string> Unescape(std::string_view text) {
 
 /// A message id: decimal digits, 0 to 32767.
 std::optional<int> ParseId(std::string_view digits) {
-  int id = 0;
-  const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), id);
-  if (error != std::errc() || end != digits.data() + digits.size()) return std::nullopt;
-  if (id < 0 || id > std::numeric_limits<std::int16_t>::max()) return std::nullopt;
-  return id;
+  const auto id = ParseInteger<std::int16_t>(digits);
+  return id && *id >= 0 ? id : std::nullopt;
 }
 
 }  // namespace

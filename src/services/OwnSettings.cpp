@@ -1,10 +1,10 @@
 #include "services/OwnSettings.h"
 
 #include <algorithm>
-#include <cctype>
 #include <span>
 
 #include "services/QuotedFields.h"
+#include "text/Text.h"
 
 namespace qves {
 namespace {
@@ -30,13 +30,6 @@ constexpr OwnSetting OwnSettings[] = {
     {"NoFunctionSound", &AppSettings::NoFunctionSound, TrueFalse},
     {"KeepHistory", &AppSettings::KeepHistory, TrueFalse},
 };
-
-std::string Lower(std::string_view text) {
-  std::string lower(text);
-  std::ranges::transform(lower, lower.begin(),
-                         [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
-  return lower;
-}
 
 std::string ListOf(std::span<const std::string_view> words) {
   std::string list;

@@ -2,11 +2,11 @@
 
 #include <algorithm>
 
+#include "text/Text.h"
+
 namespace qves {
 
-FieldReader::FieldReader(std::string_view text) : Rest(text) {
-  if (Rest.starts_with("\xEF\xBB\xBF")) Rest.remove_prefix(3);
-}
+FieldReader::FieldReader(std::string_view text) : Rest(WithoutByteOrderMark(text)) {}
 
 std::optional<std::string> FieldReader::Next() {
   Skip(" \t\r\n");
@@ -39,10 +39,9 @@ std::string FieldReader::Quoted() {
 
 std::string FieldReader::Unquoted() {
   const std::size_t end = std::min(Rest.find_first_of(",\n"), Rest.size());
-  std::string_view field = Rest.substr(0, end);
+  const std::string_view field = Rest.substr(0, end);
   Rest.remove_prefix(end);
-  const std::size_t last = field.find_last_not_of(" \t\r");
-  return std::string(field.substr(0, last == std::string_view::npos ? 0 : last + 1));
+  return std::string(Trimmed(field, " \t\r"));
 }
 
 std::string Quote(std::string_view text) {

@@ -2,13 +2,12 @@
 
 #include <algorithm>
 #include <array>
-#include <cctype>
-#include <charconv>
 #include <variant>
 
 #include "services/OwnSettings.h"
 #include "services/QuotedFields.h"
-#include "services/Text.h"
+#include "text/Integers.h"
+#include "text/Text.h"
 
 namespace qves {
 namespace {
@@ -26,22 +25,16 @@ std::string_view Store(std::vector<std::string>& field, std::string_view value) 
 
 template <class Integer>
 std::string_view Store(Integer& field, std::string_view digits) {
-  while (digits.starts_with(' ')) digits.remove_prefix(1);
-  while (digits.ends_with(' ')) digits.remove_suffix(1);
+  digits = Trimmed(digits);
   if (digits.starts_with('+') && !digits.starts_with("+-")) digits.remove_prefix(1);
-  Integer value = 0;
-  const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value);
+  const std::errc error = ReadInteger(digits, field);
   if (error == std::errc::result_out_of_range) return "is out of range";
-  if (error != std::errc() || end != digits.data() + digits.size()) return "is no integer";
-  field = value;
-  return "";
+  return error == std::errc() ? "" : "is no integer";
 }
 
 /// True and False in any case, with or without the marks of the write format, or a number.
 std::string_view Store(bool& field, std::string_view value) {
-  std::string word(value);
-  std::transform(word.begin(), word.end(), word.begin(),
-                 [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+  const std::string word = Lower(value);
   std::int32_t number = word == "true" || word == "#true#" ? -1 : 0;
   const bool isWord = number != 0 || word == "false" || word == "#false#";
   if (!isWord && !Store(number, value).empty()) return "is neither true nor false";

@@ -1,25 +1,20 @@
 #include "services/Speech.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
 #include <limits>
 #include <vector>
 
 #include "model/ArithmeticFault.h"
 #include "services/MessageIds.h"
-#include "services/Text.h"
 #include "services/VoiceMessages.h"
+#include "text/Integers.h"
 
 namespace qves {
 namespace {
 
 constexpr int PrimaryLanguageMask = 1023;
 constexpr int PitchSteps = 19;  // step 1 is the minimum, step 20 the maximum
-
-bool IsDigit(char c) {
-  return c >= '0' && c <= '9';
-}
 
 bool Wants(std::string_view setting, std::string_view item) {
   return setting.empty() || setting == item;
@@ -103,16 +98,9 @@ void SpeechService::ReleaseSpeech() {
   SpeechEngine.reset();
 }
 
-void SpeechService::SpeakText(std::string_view text, ValueSpan value) {
+void SpeechService::Say(SpeechHow how, std::string_view text, ValueSpan value) {
   if (!PrimarySpeaker) return;
-  Turn.push_back({SpeechHow::Now, std::string(text), value, {}});
-  LastText = text;
-  LastValue = value;
-}
-
-void SpeechService::SpeakTextQueued(std::string_view text, ValueSpan value) {
-  if (!PrimarySpeaker) return;
-  Turn.push_back({SpeechHow::Queued, std::string(text), value, {}});
+  Turn.push_back({how, std::string(text), value, {}});
   LastText = text;
   LastValue = value;
 }
@@ -167,8 +155,8 @@ void SpeechService::HandOver(SpeechAct act) {
 
 void SpeechService::ReadNextPiece(bool now) {
   if (!PrimarySpeaker || Reading.IsOver()) return;
-  const PiecewiseReading::Piece piece = Reading.Next();
-  const VoicedText voiced = MakeVoiced(piece.Text, Rules(), {0, 0, Reading.Kind()}, piece.Marks);
+  const MarkedText piece = Reading.Next();
+  const MarkedText voiced = MakeVoiced(piece.Text, Rules(), {0, 0, Reading.Kind()}, piece.Marks);
   if (now)
     PrimarySpeaker->SpeakNow(voiced.Text, voiced.Marks);
   else
@@ -193,39 +181,8 @@ std::string SpeechService::VoicedTextOf(const SpeechAct& act) const {
   return MakeVoiced(act.Text, rules, act.Value).Text;
 }
 
-std::string SpeechService::TranslateForSpeech(std::string_view text) const {
-  if (!SpeechEngine) return std::string(text);
-  std::string out;
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    if (i > 0 && IsDigit(text[i - 1]) && IsDigit(text[i])) out += ' ';
-    out += text[i];
-  }
-  return out;
-}
-
-std::string SpeechService::SpeechFormatNumber(std::string_view text) const {
-  std::string out = Settings.ReadAsDigits ? TranslateForSpeech(text) : std::string(text);
-  const std::string& separator = Messages.GetMessage(DecimalSeparatorMessage);
-  // No blanks around the word for the point: it is spoken close to its digits, as wanted.
-  if (!separator.empty()) out = ReplaceAll(out, separator, Messages.GetMessage(PointMessage));
-  out = ReplaceAll(out, "-", Messages.GetMessage(MinusMessage));
-  return ReplaceAll(out, "*", Messages.GetMessage(TimesMessage));
-}
-
-std::string SpeechService::SpeakableChar(std::string_view character) const {
-  if (character.empty()) return "";
-  if (character[0] == 11 || character[0] == 13) return Messages.GetMessage(LineBreakMessage) + " ";
-  if (!SpeechEngine || character.size() > 1) return std::string(character);
-  // No engine library tells a character's name, so all engines share the names of the message file.
-  const std::string& name =
-      Messages.GetMessage(CharacterNameMessages + static_cast<unsigned char>(character[0]));
-  return name.empty() ? std::string(character) : name;
-}
-
 void SpeechService::AttachSpeakingControls(Form& form, const VerbosityTable& verbosity) const {
-  const std::string& text = Messages.GetMessage(MsgBaseMessage);
-  std::int16_t base = 0;
-  std::from_chars(text.data(), text.data() + text.size(), base);
+  const auto base = ParseInteger<std::int16_t>(Messages.GetMessage(MsgBaseMessage)).value_or(0);
   for (const auto& control : form.Controls())
     control->Speaking = {base,
                          SpeechEngine.get(),

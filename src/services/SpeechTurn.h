@@ -4,7 +4,6 @@
 #include <cstdint>
 #include <span>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "voicing/VoicedText.h"
@@ -35,13 +34,9 @@ class PiecewiseReading {
   PiecewiseReading(std::string text, std::vector<BookMark> marks, ValueKind kind)
       : Text(std::move(text)), Marks(std::move(marks)), Numbers(kind) {}
 
-  struct Piece {
-    std::string_view Text;
-    std::vector<BookMark> Marks;  ///< offsets within the piece
-  };
-
   bool IsOver() const { return Start == Text.size(); }
-  Piece Next();
+  /// The next piece, the offsets of its marks within it.
+  MarkedText Next();
   /// What the numbers of the text are.
   ValueKind Kind() const { return Numbers; }
   /// Whether that mark begins the piece taken last.

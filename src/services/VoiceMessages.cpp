@@ -1,6 +1,7 @@
 #include "services/VoiceMessages.h"
 
 #include "services/MessageIds.h"
+#include "text/Text.h"
 
 namespace qves {
 namespace {
@@ -31,15 +32,9 @@ constexpr WordRow HeardWords[] = {
 };
 
 /// A function as a tape line writes it, and the name of its button.
-constexpr std::pair<std::string_view, int> Functions[] = {{"Sqr", 1000}};
+constexpr std::pair<std::string_view, int> Functions[] = {{"Sqr", SquareRootMessage}};
 
 constexpr int MonthCount = 12;
-
-std::string Trimmed(std::string_view text) {
-  const std::size_t first = text.find_first_not_of(' ');
-  if (first == std::string_view::npos) return "";
-  return std::string(text.substr(first, text.find_last_not_of(' ') - first + 1));
-}
 
 }  // namespace
 

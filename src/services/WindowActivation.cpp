@@ -1,7 +1,7 @@
 #include "services/WindowActivation.h"
 
 #include "model/KeyEvent.h"
-#include "services/Text.h"
+#include "text/Text.h"
 
 namespace qves {
 

@@ -1,5 +1,7 @@
 #include "speech/Pauses.h"
 
+#include "text/Characters.h"
+
 namespace qves {
 namespace {
 
@@ -9,36 +11,27 @@ bool IsLineEnd(char c) {
   return c == '\r' || c == '\n';
 }
 
-bool IsLetter(char c) {
-  return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
-}
-
-bool IsWordCharacter(char c) {
-  return IsLetter(c) || (c >= '0' && c <= '9') || c == '\'' || (c & 0x80) != 0;
+bool IsPartOfWord(char c) {
+  return IsWordCharacter(c) || c == '\'';
 }
 
 class Pausing {
  public:
   Pausing(std::string_view text, std::span<const BookMark> marks) : Text(text), Marks(marks) {}
 
-  PausedText Run() {
+  MarkedText Run() {
     Out.Text.reserve(Text.size() + Text.size() / 16);
     for (; At < Text.size(); ++At) {
       if (IsLineEnd(Text[At])) EndLine();
-      PinMarks(At);
+      Marks.MoveUpTo(At, Out);
       Out.Text += Text[At];
       if (EndsLetterA() || EndsThreeEqualLetters()) Out.Text += ',';
     }
-    PinMarks(Text.size());
+    Marks.MoveUpTo(Text.size(), Out);
     return std::move(Out);
   }
 
  private:
-  void PinMarks(std::size_t place) {
-    for (; NextMark < Marks.size() && Marks[NextMark].Offset <= place; ++NextMark)
-      Out.Marks.push_back({Out.Text.size(), Marks[NextMark].Number});
-  }
-
   void EndLine() {
     const std::size_t last = Out.Text.find_last_not_of(" \t");
     if (last == std::string::npos || IsLineEnd(Out.Text[last])) return;
@@ -47,8 +40,8 @@ class Pausing {
 
   /// A single letter is here, and no part of a word.
   bool IsLoneLetter(std::size_t at) const {
-    return at < Text.size() && IsLetter(Text[at]) && (at == 0 || !IsWordCharacter(Text[at - 1])) &&
-           (at + 1 >= Text.size() || !IsWordCharacter(Text[at + 1]));
+    return at < Text.size() && IsLetter(Text[at]) && (at == 0 || !IsPartOfWord(Text[at - 1])) &&
+           (at + 1 >= Text.size() || !IsPartOfWord(Text[at + 1]));
   }
 
   bool PausesNext() const {
@@ -75,15 +68,14 @@ class Pausing {
   }
 
   std::string_view Text;
-  std::span<const BookMark> Marks;
-  PausedText Out;
+  MarkMover Marks;
+  MarkedText Out;
   std::size_t At = 0;
-  std::size_t NextMark = 0;
 };
 
 }  // namespace
 
-PausedText WithPauses(std::string_view text, std::span<const BookMark> marks) {
+MarkedText WithPauses(std::string_view text, std::span<const BookMark> marks) {
   return Pausing(text, marks).Run();
 }
 

@@ -2,23 +2,16 @@
 #pragma once
 
 #include <span>
-#include <string>
 #include <string_view>
-#include <vector>
 
-#include "platform/TTS.h"
+#include "text/MarkedText.h"
 
 namespace qves {
-
-struct PausedText {
-  std::string Text;
-  std::vector<BookMark> Marks;
-};
 
 /// The text with a full stop at the end of each line that has no punctuation there, as a voice reads over a
 /// line end; with a comma after a letter A in the middle of a sentence, which a voice takes for the article;
 /// and with one after three equal letters, as espeak-ng drops the fourth. The marks, in order, move with
 /// their places.
-PausedText WithPauses(std::string_view text, std::span<const BookMark> marks);
+MarkedText WithPauses(std::string_view text, std::span<const BookMark> marks);
 
 }  // namespace qves

@@ -61,8 +61,8 @@ class SpeechBackEnd {
   virtual ~SpeechBackEnd() = default;
   /// The voices known by now, the best for the desktop's user first.
   virtual const std::vector<Voice>& Voices() = 0;
-  /// Plays the text until it has been heard or is stopped. False: this back end cannot speak it, now.
-  /// The voice may be another back end's; then the nearest voice of its own speaks.
+  /// Plays the text, in a voice of its own, until it has been heard or is stopped. False: this back end
+  /// cannot speak it, now.
   virtual bool Play(const Utterance& text, Playing& playing) = 0;
   /// There is nothing to play; called after each text. Returns when to call it again. What it does meanwhile
   /// ends when the queue's wake is notified, which it never clears. Voices() may tell more afterwards.

@@ -1,7 +1,5 @@
 #include "speech/SpeechBackEnds.h"
 
-#include <vector>
-
 #include "speech/SpeechList.h"
 #ifdef QVES_HAVE_ESPEAK
 #include "speech/espeak/EspeakBackEnd.h"
@@ -13,46 +11,33 @@
 namespace qves {
 namespace {
 
-using Makers = std::vector<BackEndMaker>;
-
-Makers Espeak() {
 #ifdef QVES_HAVE_ESPEAK
-  return {[](Wake& changed) { return std::make_unique<EspeakBackEnd>(changed); }};
+constexpr bool HaveEspeak = true;
 #else
-  return {};
+constexpr bool HaveEspeak = false;
+#endif
+
+void AddEspeak([[maybe_unused]] SpeechQueue& queue, [[maybe_unused]] bool listed) {
+#ifdef QVES_HAVE_ESPEAK
+  queue.Add(std::make_unique<EspeakBackEnd>(queue.Changed()), listed);
 #endif
 }
 
-Makers Speechd([[maybe_unused]] bool eager) {
+void AddSpeechd([[maybe_unused]] SpeechQueue& queue, [[maybe_unused]] bool eager) {
 #ifdef QVES_HAVE_SPEECHD
-  return {[eager](Wake& changed) { return std::make_unique<SpeechdBackEnd>(changed, eager); }};
-#else
-  return {};
+  queue.Add(std::make_unique<SpeechdBackEnd>(queue.Changed(), eager), true);
 #endif
-}
-
-Makers Both(Makers first, const Makers& second) {
-  first.insert(first.end(), second.begin(), second.end());
-  return first;
 }
 
 }  // namespace
 
 std::unique_ptr<TTS> MakeSpeech(SpeechChoice choice, EventPump& pump) {
-  const auto list = [&pump](const Makers& listed, const Makers& standIns) {
-    return std::make_unique<SpeechList>(pump, listed, standIns);
-  };
-  switch (choice) {
-    case SpeechChoice::EspeakNg:
-      return list(Espeak(), {});
-    case SpeechChoice::SpeechDispatcher:
-      return list(Speechd(true), Espeak());
-    case SpeechChoice::Off:
-      return list({}, {});
-    case SpeechChoice::Auto:
-      break;
-  }
-  return list(Both(Espeak(), Speechd(Espeak().empty())), {});
+  auto queue = std::make_shared<SpeechQueue>(pump);
+  const bool speechdOnly = choice == SpeechChoice::SpeechDispatcher;
+  if (speechdOnly) AddSpeechd(*queue, true);
+  if (choice != SpeechChoice::Off) AddEspeak(*queue, !speechdOnly);
+  if (choice == SpeechChoice::Auto) AddSpeechd(*queue, !HaveEspeak);
+  return std::make_unique<SpeechList>(std::move(queue));
 }
 
 }  // namespace qves

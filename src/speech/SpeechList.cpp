@@ -3,6 +3,7 @@
 #include <pthread.h>
 
 #include <chrono>
+#include <thread>
 #include <utility>
 
 #include "speech/SpeechEngine.h"
@@ -14,30 +15,21 @@ constexpr auto LongestFarewell = std::chrono::milliseconds(50);
 
 }  // namespace
 
-SpeechList::SpeechList(EventPump& pump, const std::vector<BackEndMaker>& listed,
-                       const std::vector<BackEndMaker>& standIns)
-    : Empty(listed.empty()), Queue(std::make_shared<SpeechQueue>(pump)) {
-  for (const BackEndMaker& make : listed) Queue->Add(make(Queue->Changed()), true);
-  for (const BackEndMaker& make : standIns) Queue->Add(make(Queue->Changed()), false);
-  std::packaged_task<void()> run([queue = Queue] { queue->Run(); });
+SpeechList::SpeechList(std::shared_ptr<SpeechQueue> queue) : Queue(std::move(queue)) {
+  std::packaged_task<void()> run([of = Queue] { of->Run(); });
   Ended = run.get_future();
-  if (Empty) return;
-  Thread = std::thread(std::move(run));
-  pthread_setname_np(Thread.native_handle(), "speech");
+  std::thread thread(std::move(run));
+  pthread_setname_np(thread.native_handle(), "speech");
+  thread.detach();
 }
 
 SpeechList::~SpeechList() {
   Queue->Close();
-  if (Empty) return;
-  if (Ended.wait_for(LongestFarewell) == std::future_status::ready)
-    Thread.join();
-  else
-    Thread.detach();
+  Ended.wait_for(LongestFarewell);
 }
 
 // A list that is still to be read may hold what is wanted, so this one is not looked at.
 std::unique_ptr<TtsEngine> SpeechList::Open(TtsChooser choose) {
-  if (Empty) return nullptr;
   return std::make_unique<SpeechEngine>(Queue, std::move(choose));
 }
 

@@ -1,7 +1,6 @@
 #include "speech/SpeechQueue.h"
 
 #include <algorithm>
-#include <iterator>
 #include <utility>
 
 #include "speech/Pauses.h"
@@ -15,6 +14,18 @@ void DropFront(Utterance& text, std::size_t length) {
   text.Text.erase(0, length);
   std::erase_if(text.Marks, [length](const BookMark& mark) { return mark.Offset < length; });
   for (BookMark& mark : text.Marks) mark.Offset -= length;
+}
+
+// The voice itself; for a back end that stands in for its own, that one's first of the language, or its
+// first.
+Voice VoiceOf(SpeechBackEnd& backEnd, const Voice& wanted) {
+  if (wanted.Owner == &backEnd) return wanted;
+  const std::vector<Voice>& voices = backEnd.Voices();
+  const auto same = std::find_if(voices.begin(), voices.end(), [&](const Voice& voice) {
+    return voice.Info.LanguageId == wanted.Info.LanguageId;
+  });
+  if (same != voices.end()) return *same;
+  return voices.empty() ? Voice{} : voices.front();
 }
 
 }  // namespace
@@ -120,14 +131,14 @@ void SpeechQueue::Play(QueuedText& text) {
   std::optional<Voice>& chosen = text.Engine->Chosen;
   if (text.Interrupts || !chosen) Choose(*text.Engine);
   if (!chosen) return;
-  text.What.Speaking = *chosen;
   text.What.Text = CleanText(text.What.Text);
   text.What.Marks = OrderedMarks(text.What.Marks, text.What.Text.size());
-  PausedText paused = WithPauses(text.What.Text, text.What.Marks);
+  MarkedText paused = WithPauses(text.What.Text, text.What.Marks);
   text.What.Text = std::move(paused.Text);
   text.What.Marks = std::move(paused.Marks);
   for (SpeechBackEnd* backEnd : InOrder(*chosen)) {
     Playing playing(Woken, StopCurrent, [&](std::int32_t number) { ReportMark(text, number); });
+    text.What.Speaking = VoiceOf(*backEnd, *chosen);
     if (playing.Stopped() || backEnd->Play(text.What, playing)) return;
     DropFront(text.What, playing.Spoken);
   }

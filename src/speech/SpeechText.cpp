@@ -2,48 +2,10 @@
 
 #include <algorithm>
 
+#include "text/Utf8.h"
+
 namespace qves {
 namespace {
-
-struct Utf8Row {
-  unsigned char Mask;
-  unsigned char Lead;
-  std::size_t Length;
-  std::uint32_t Lowest;  // what is below could have been written shorter
-};
-constexpr Utf8Row Utf8Rows[] = {
-    {0x80, 0x00, 1, 0}, {0xe0, 0xc0, 2, 0x80}, {0xf0, 0xe0, 3, 0x800}, {0xf8, 0xf0, 4, 0x10000}};
-
-bool IsContinuation(char c) {
-  return (static_cast<unsigned char>(c) & 0xc0) == 0x80;
-}
-
-// The character's code, or nothing of `row`'s form.
-std::uint32_t Decode(std::string_view text, const Utf8Row& row) {
-  std::uint32_t code = static_cast<unsigned char>(text[0]) & static_cast<unsigned char>(~row.Mask);
-  for (std::size_t i = 1; i < row.Length; ++i)
-    code = (code << 6) | (static_cast<unsigned char>(text[i]) & 0x3f);
-  return code;
-}
-
-bool IsSpeakable(std::uint32_t code) {
-  const bool control = (code < 0x20 && code != '\n' && code != '\t') || (code >= 0x7f && code < 0xa0);
-  const bool surrogate = code >= 0xd800 && code < 0xe000;
-  return !control && !surrogate && code <= 0x10ffff;
-}
-
-// How many bytes the speakable character at the text's start has; 0 when there is none.
-std::size_t CharacterLength(std::string_view text) {
-  for (const Utf8Row& row : Utf8Rows) {
-    if ((static_cast<unsigned char>(text[0]) & row.Mask) != row.Lead) continue;
-    if (text.size() < row.Length) return 0;
-    const auto rest = text.substr(1, row.Length - 1);
-    if (!std::all_of(rest.begin(), rest.end(), IsContinuation)) return 0;
-    const std::uint32_t code = Decode(text, row);
-    return code >= row.Lowest && IsSpeakable(code) ? row.Length : 0;
-  }
-  return 0;
-}
 
 bool BeginsSentence(std::string_view text, std::size_t offset) {
   const std::size_t last = text.find_last_not_of(" \t", offset == 0 ? 0 : offset - 1);
@@ -57,7 +19,7 @@ std::size_t CutBefore(std::string_view text, std::size_t from, std::size_t limit
     const std::size_t at = text.find_last_of(ends, limit - 1);
     if (at != std::string_view::npos && at > from) return at + 1;
   }
-  while (limit > from + 1 && IsContinuation(text[limit])) --limit;
+  while (limit > from + 1 && IsInsideCharacter(text[limit])) --limit;
   return limit;
 }
 
@@ -77,9 +39,10 @@ void DealMarks(std::vector<TextPiece>& pieces, const std::vector<std::size_t>& s
 std::string CleanText(std::string_view text) {
   std::string clean(text);
   for (std::size_t i = 0; i < clean.size();) {
-    const std::size_t length = CharacterLength(text.substr(i));
-    if (length == 0) clean[i] = ' ';
-    i += std::max<std::size_t>(length, 1);
+    const auto [code, length] = FirstCharacter(text.substr(i));
+    const bool isSpeakable = length > 0 && (!IsControl(code) || code == '\n' || code == '\t');
+    if (!isSpeakable) clean[i] = ' ';
+    i += isSpeakable ? length : 1;
   }
   return clean;
 }
@@ -97,7 +60,7 @@ std::vector<std::size_t> CharacterPositions(std::string_view text, std::span<con
   std::size_t byte = 0;
   std::size_t character = 0;
   for (const BookMark& mark : marks) {
-    for (; byte < mark.Offset; ++byte) character += !IsContinuation(text[byte]);
+    for (; byte < mark.Offset; ++byte) character += !IsInsideCharacter(text[byte]);
     positions.push_back(character);
   }
   return positions;
@@ -106,7 +69,8 @@ std::vector<std::size_t> CharacterPositions(std::string_view text, std::span<con
 std::vector<TextPiece> CutText(std::string_view text, std::span<const BookMark> marks, std::size_t longest) {
   std::vector<std::size_t> ends;
   for (const BookMark& mark : marks) {
-    if (mark.Offset < text.size() && !IsContinuation(text[mark.Offset]) && BeginsSentence(text, mark.Offset))
+    if (mark.Offset < text.size() && !IsInsideCharacter(text[mark.Offset]) &&
+        BeginsSentence(text, mark.Offset))
       ends.push_back(mark.Offset);
   }
   ends.push_back(text.size());

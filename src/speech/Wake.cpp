@@ -1,6 +1,5 @@
 #include "speech/Wake.h"
 
-#include <poll.h>
 #include <sys/eventfd.h>
 #include <unistd.h>
 
@@ -10,6 +9,16 @@
 #include <limits>
 
 namespace qves {
+namespace {
+
+// Rounded up, -1 for ever.
+int MillisecondsTo(TimePoint deadline) {
+  if (deadline == TimePoint::max()) return -1;
+  const auto left = std::chrono::ceil<std::chrono::milliseconds>(deadline - SteadyClock::now()).count();
+  return int(std::clamp<std::int64_t>(left, 0, std::numeric_limits<int>::max()));
+}
+
+}  // namespace
 
 Wake::Wake() : Event(::eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK)) {}
 
@@ -26,20 +35,13 @@ void Wake::Clear() {
   ::eventfd_read(Event, &count);
 }
 
-void Wake::Wait(TimePoint deadline, int file, short events) const {
-  pollfd waited[] = {{Event, POLLIN, 0}, {file, events, 0}};
-  ::poll(waited, std::size(waited), MillisecondsTo(deadline));
+void Wake::Wait(TimePoint deadline) const {
+  WaitFor({Event, POLLIN, 0}, deadline);
 }
 
-bool Wake::Notified() const {
-  pollfd event{Event, POLLIN, 0};
-  return ::poll(&event, 1, 0) > 0;
-}
-
-int MillisecondsTo(TimePoint deadline) {
-  if (deadline == TimePoint::max()) return -1;
-  const auto left = std::chrono::ceil<std::chrono::milliseconds>(deadline - SteadyClock::now()).count();
-  return int(std::clamp<std::int64_t>(left, 0, std::numeric_limits<int>::max()));
+bool WaitFor(pollfd file, TimePoint deadline, int wake) {
+  pollfd waited[] = {file, {wake, POLLIN, 0}};
+  return ::poll(waited, std::size(waited), MillisecondsTo(deadline)) > 0 && waited[0].revents;
 }
 
 }  // namespace qves

@@ -1,6 +1,8 @@
 // What the speech thread waits with.
 #pragma once
 
+#include <poll.h>
+
 #include <chrono>
 
 namespace qves {
@@ -20,10 +22,8 @@ class Wake {
   /// From any thread.
   void Notify();
   void Clear();
-  /// Returns when it has been notified since it was cleared, or at the deadline, or when one of `events` (as
-  /// of poll) holds for `file`.
-  void Wait(TimePoint deadline, int file = -1, short events = 0) const;
-  bool Notified() const;
+  /// Returns when it has been notified since it was cleared, or at the deadline.
+  void Wait(TimePoint deadline) const;
   /// Readable when it has been notified.
   int Descriptor() const { return Event; }
 
@@ -31,7 +31,8 @@ class Wake {
   int Event;
 };
 
-/// From now to the deadline in milliseconds for poll: rounded up, -1 for ever.
-int MillisecondsTo(TimePoint deadline);
+/// True as soon as the file has what is waited for, as of poll. False at the deadline, or when the file
+/// `wake`, where one is given, is readable.
+bool WaitFor(pollfd file, TimePoint deadline, int wake = -1);
 
 }  // namespace qves

@@ -1,8 +1,7 @@
 #include "terminal/Chord.h"
 
-#include <charconv>
-
 #include "model/UsKeyboard.h"
+#include "text/Integers.h"
 
 namespace qves {
 namespace {
@@ -69,11 +68,9 @@ int TakeModifiers(std::string_view& chord) {
 int NumberAfter(std::string_view prefix, std::string_view name, int lowest, int highest) {
   if (!name.starts_with(prefix)) return -1;
   name.remove_prefix(prefix.size());
-  int number = -1;
-  const auto [end, error] = std::from_chars(name.data(), name.data() + name.size(), number);
-  const bool plain = error == std::errc() && end == name.data() + name.size() && !name.starts_with('0');
-  const bool zero = name == "0";
-  return (plain || zero) && number >= lowest && number <= highest ? number : -1;
+  const int number = ParseInteger(name).value_or(-1);
+  const bool plain = !name.starts_with('0') || name == "0";
+  return plain && number >= lowest && number <= highest ? number : -1;
 }
 
 std::optional<KeyEvent> NamedKeyEvent(std::string_view name) {

@@ -1,25 +1,21 @@
 #include "terminal/Options.h"
 
-#include <charconv>
 #include <chrono>
+
+#include "text/Integers.h"
 
 namespace qves {
 namespace {
 
 std::optional<Date> ParseDate(std::string_view text) {
-  Date date;
   if (text.size() != 10 || text[4] != '-' || text[7] != '-') return std::nullopt;
-  const auto read = [&](std::size_t from, std::size_t length, int& into) {
-    const char* begin = text.data() + from;
-    const auto [end, error] = std::from_chars(begin, begin + length, into);
-    return error == std::errc() && end == begin + length;
-  };
-  if (!read(0, 4, date.Year) || !read(5, 2, date.Month) || !read(8, 2, date.Day)) return std::nullopt;
-  const std::chrono::year_month_day day{std::chrono::year(date.Year),
-                                        std::chrono::month(unsigned(date.Month)),
-                                        std::chrono::day(unsigned(date.Day))};
-  if (!day.ok()) return std::nullopt;
-  return date;
+  const auto year = ParseInteger(text.substr(0, 4));
+  const auto month = ParseInteger(text.substr(5, 2));
+  const auto day = ParseInteger(text.substr(8, 2));
+  if (!year || !month || !day) return std::nullopt;
+  const std::chrono::year_month_day date{std::chrono::year(*year), std::chrono::month(unsigned(*month)),
+                                         std::chrono::day(unsigned(*day))};
+  return date.ok() ? std::optional(Date{*year, *month, *day}) : std::nullopt;
 }
 
 std::string SetToday(Options& options, const std::string& value) {
@@ -28,10 +24,8 @@ std::string SetToday(Options& options, const std::string& value) {
 }
 
 std::string SetSeed(Options& options, const std::string& value) {
-  unsigned long seed = 0;
-  const auto [end, error] = std::from_chars(value.data(), value.data() + value.size(), seed);
-  options.Seed = seed;
-  return error == std::errc() && end == value.data() + value.size() ? "" : "a whole number";
+  options.Seed = ParseInteger<unsigned long>(value);
+  return options.Seed ? "" : "a whole number";
 }
 
 std::string SetSpeech(Options& options, const std::string& value) {

@@ -1,6 +1,6 @@
 #include "terminal/Report.h"
 
-#include "services/Text.h"
+#include "text/Text.h"
 
 namespace qves {
 namespace {

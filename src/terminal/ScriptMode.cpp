@@ -5,6 +5,7 @@
 
 #include "posix/LineReader.h"
 #include "terminal/ScriptSession.h"
+#include "text/Text.h"
 
 namespace qves {
 
@@ -13,7 +14,7 @@ int RunScript(const Options& options, int descriptor, std::ostream& out) {
   ScriptSession session(options);
   int number = 0;
   for (std::string line; out && lines.Next(line);) {
-    if (++number == 1 && line.starts_with("\xEF\xBB\xBF")) line.erase(0, 3);
+    if (++number == 1) line = WithoutByteOrderMark(line);
     if (line.ends_with('\r')) line.pop_back();
     if (line.find_first_not_of(" \t") == std::string::npos || line.starts_with('#')) continue;
     out << session.Run(number, line) << '\n' << std::flush;

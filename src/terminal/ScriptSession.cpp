@@ -1,13 +1,14 @@
 #include "terminal/ScriptSession.h"
 
-#include <charconv>
 #include <filesystem>
 #include <optional>
 
-#include "services/Text.h"
 #include "speech/SpeechModule.h"
 #include "terminal/Chord.h"
 #include "terminal/Report.h"
+#include "text/Integers.h"
+#include "text/Text.h"
+#include "text/Utf8.h"
 
 namespace qves {
 namespace {
@@ -17,9 +18,7 @@ bool IsBlank(char c) {
 }
 
 std::string_view Trim(std::string_view text) {
-  while (!text.empty() && (IsBlank(text.front()) || text.front() == '\r')) text.remove_prefix(1);
-  while (!text.empty() && (IsBlank(text.back()) || text.back() == '\r')) text.remove_suffix(1);
-  return text;
+  return Trimmed(text, " \t\r");
 }
 
 /// The first word of the text; the text keeps what follows, without blanks around.
@@ -29,13 +28,6 @@ std::string_view TakeWord(std::string_view& text) {
   const std::string_view word = text.substr(0, end);
   text = Trim(text.substr(end));
   return word;
-}
-
-std::optional<int> ToNumber(std::string_view text) {
-  int number = 0;
-  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-  if (error != std::errc() || end != text.data() + text.size()) return std::nullopt;
-  return number;
 }
 
 std::string_view NameOf(SpeechHow how) {
@@ -148,7 +140,7 @@ void ScriptSession::Press(const KeyEvent& event) {
 
 std::string ScriptSession::WithControl(std::string_view argument, void (Form::*action)(Control&)) {
   const std::string_view name = TakeWord(argument);
-  const auto index = argument.empty() ? NoIndex : ToNumber(argument);
+  const auto index = argument.empty() ? NoIndex : ParseInteger(argument);
   if (name.empty() || !index) return "a control's name is wanted, and its index in an array";
   Form* form = App.ActiveForm();
   if (!form) return "";
@@ -169,7 +161,7 @@ std::string ScriptSession::Focus(std::string_view argument) {
 
 std::string ScriptSession::Select(std::string_view argument) {
   const std::string_view name = TakeWord(argument);
-  const auto item = ToNumber(argument);
+  const auto item = ParseInteger(argument);
   if (name.empty() || !item) return "a list's name is wanted, and the index of the item";
   Form* form = App.ActiveForm();
   if (!form) return "";
@@ -181,7 +173,7 @@ std::string ScriptSession::Select(std::string_view argument) {
 }
 
 std::string ScriptSession::ChooseMenu(std::string_view argument) {
-  const auto id = ToNumber(argument);
+  const auto id = ParseInteger(argument);
   if (!id) return "menu wants the number of a message";
   Form* form = App.ActiveForm();
   return !form || form->ChooseMenu(*id) ? "" : "the form has no menu item " + std::to_string(*id);
@@ -194,7 +186,7 @@ std::string ScriptSession::Answer(std::string_view argument) {
 }
 
 std::string ScriptSession::Heard(std::string_view argument) {
-  const auto count = ToNumber(argument);
+  const auto count = ParseInteger(argument);
   if (!argument.empty() && (!count || *count < 0)) return "heard wants a number of bookmarks, or nothing";
   SilentSpeech.ReadOn(count);
   return "";

@@ -3,9 +3,34 @@
 
 #include <array>
 
-#include "model/Control.h"
+#include "engine/Buttons.h"
+
+namespace qves {
+
+/// A row of a control table: a button in its cell.
+constexpr ControlSpec At(ControlSpec button, GridCell cell, unsigned traits = PlainControl) {
+  button.Cell = cell;
+  button.Traits = traits;
+  return button;
+}
+
+}  // namespace qves
 
 namespace qves::shared {
+
+/// A digit, also one that only the hexadecimal base has.
+constexpr ControlSpec Digit(int value, GridCell cell) {
+  constexpr std::string_view captions = "0123456789ABCDEF";
+  const int help = value < 10 ? 1066 : 1067;
+  return {Buttons::Digits,
+          value,
+          ControlKind::Button,
+          captions.substr(static_cast<std::size_t>(value), 1),
+          0,
+          0,
+          help,
+          cell};
+}
 
 // name, index, kind, caption, caption message, name message, help message, {panel, row, column, spans},
 // traits
@@ -25,49 +50,48 @@ constexpr auto MemoryIndicator(int panel) {
 /// Backspace and clear entry, side by side.
 constexpr auto CorrectionButtons(int panel) {
   return std::to_array<ControlSpec>({
-      {"cmdBackspace", NoIndex, ControlKind::Button, "", 1075, 1082, 1076, {panel, 0, 0}},
-      {"cmdCE", NoIndex, ControlKind::Button, "CE", 0, 1077, 1078, {panel, 0, 1}},
+      At(Buttons::Backspace, {panel, 0, 0}),
+      At(Buttons::ClearEntry, {panel, 0, 1}),
   });
 }
 
 /// Clear all, at the right of those.
 constexpr auto ClearButton(int panel) {
-  return std::to_array<ControlSpec>(
-      {{"cmdMemory", 4, ControlKind::Button, "C", 0, 1062, 1063, {panel, 0, 2}}});
+  return std::to_array<ControlSpec>({At(Buttons::ClearAll, {panel, 0, 2})});
 }
 
 /// The memory buttons, one below the other.
 constexpr auto MemoryButtons(int panel) {
   return std::to_array<ControlSpec>({
-      {"cmdMemory", 0, ControlKind::Button, "MC", 0, 1054, 1055, {panel, 0, 0}},
-      {"cmdMemory", 1, ControlKind::Button, "MR", 0, 1056, 1057, {panel, 1, 0}},
-      {"cmdMemory", 2, ControlKind::Button, "MS", 0, 1058, 1059, {panel, 2, 0}},
-      {"cmdMemory", 3, ControlKind::Button, "M+", 0, 1060, 1061, {panel, 3, 0}},
+      At(Buttons::MemoryClear, {panel, 0, 0}),
+      At(Buttons::MemoryRecall, {panel, 1, 0}),
+      At(Buttons::MemoryStore, {panel, 2, 0}),
+      At(Buttons::MemoryAdd, {panel, 3, 0}),
   });
 }
 
 /// The four operators, one below the other.
 constexpr auto OperatorButtons(int panel) {
   return std::to_array<ControlSpec>({
-      {"cmdBiOp", 1, ControlKind::Button, "/", 0, 1036, 1037, {panel, 0, 0}},
-      {"cmdBiOp", 0, ControlKind::Button, "*", 0, 1034, 1035, {panel, 1, 0}},
-      {"cmdBiOp", 2, ControlKind::Button, "-", 0, 1038, 1039, {panel, 2, 0}},
-      {"cmdBiOp", 3, ControlKind::Button, "+", 0, 1040, 1041, {panel, 3, 0}},
+      At(Buttons::Divide, {panel, 0, 0}),
+      At(Buttons::Multiply, {panel, 1, 0}),
+      At(Buttons::Subtract, {panel, 2, 0}),
+      At(Buttons::Add, {panel, 3, 0}),
   });
 }
 
 /// The digits 7 to 9, 4 to 6 and 1 to 3 in three rows of their panel.
 constexpr auto UpperDigits(int panel, int row = 0) {
   return std::to_array<ControlSpec>({
-      {"cmdDigit", 7, ControlKind::Button, "7", 0, 0, 1066, {panel, row, 0}},
-      {"cmdDigit", 8, ControlKind::Button, "8", 0, 0, 1066, {panel, row, 1}},
-      {"cmdDigit", 9, ControlKind::Button, "9", 0, 0, 1066, {panel, row, 2}},
-      {"cmdDigit", 4, ControlKind::Button, "4", 0, 0, 1066, {panel, row + 1, 0}},
-      {"cmdDigit", 5, ControlKind::Button, "5", 0, 0, 1066, {panel, row + 1, 1}},
-      {"cmdDigit", 6, ControlKind::Button, "6", 0, 0, 1066, {panel, row + 1, 2}},
-      {"cmdDigit", 1, ControlKind::Button, "1", 0, 0, 1066, {panel, row + 2, 0}},
-      {"cmdDigit", 2, ControlKind::Button, "2", 0, 0, 1066, {panel, row + 2, 1}},
-      {"cmdDigit", 3, ControlKind::Button, "3", 0, 0, 1066, {panel, row + 2, 2}},
+      Digit(7, {panel, row, 0}),
+      Digit(8, {panel, row, 1}),
+      Digit(9, {panel, row, 2}),
+      Digit(4, {panel, row + 1, 0}),
+      Digit(5, {panel, row + 1, 1}),
+      Digit(6, {panel, row + 1, 2}),
+      Digit(1, {panel, row + 2, 0}),
+      Digit(2, {panel, row + 2, 1}),
+      Digit(3, {panel, row + 2, 2}),
   });
 }
 

@@ -3,6 +3,7 @@
 
 #include <array>
 
+#include "engine/Buttons.h"
 #include "model/KeyMap.h"
 
 namespace qves::shared {
@@ -10,7 +11,7 @@ namespace qves::shared {
 using enum ShiftRule;
 using enum KeyAction;
 
-// codes from and to, shift rule, layout character, action, control, index, index from the code
+// codes from and to, shift rule, layout character, action, control, code of index 0
 
 /// What is said again, and what is left to the focused control.
 inline constexpr auto FirstKeys = std::to_array<KeyRow>({
@@ -27,34 +28,34 @@ inline constexpr auto DisplayKey = std::to_array<KeyRow>({
 });
 
 inline constexpr auto MemoryKeys = std::to_array<KeyRow>({
-    {'L', 'L', ShiftRule::Control, 0, Click, "cmdMemory", 0},
-    {'R', 'R', ShiftRule::Control, 0, Click, "cmdMemory", 1},
-    {'M', 'M', ShiftRule::Control, 0, Click, "cmdMemory", 2},
-    {'P', 'P', ShiftRule::Control, 0, Click, "cmdMemory", 3},
-    {KeyEscape, KeyEscape, Any, 0, Click, "cmdMemory", 4},
+    {'L', 'L', ShiftRule::Control, 0, Click, Buttons::MemoryClear},
+    {'R', 'R', ShiftRule::Control, 0, Click, Buttons::MemoryRecall},
+    {'M', 'M', ShiftRule::Control, 0, Click, Buttons::MemoryStore},
+    {'P', 'P', ShiftRule::Control, 0, Click, Buttons::MemoryAdd},
+    {KeyEscape, KeyEscape, Any, 0, Click, Buttons::ClearAll},
 });
 
 inline constexpr auto DigitKeys = std::to_array<KeyRow>({
-    {'0', '9', None, 0, Click, "cmdDigit", -'0', true},
-    {KeyPad0, KeyPad9, Any, 0, Click, "cmdDigit", -KeyPad0, true},
+    {'0', '9', None, 0, Click, Buttons::Digits, '0'},
+    {KeyPad0, KeyPad9, Any, 0, Click, Buttons::Digits, KeyPad0},
 });
 
 inline constexpr auto PointKeys = std::to_array<KeyRow>({
-    {KeyPadDecimal, KeyPadDecimal, Any, 0, Click, "cmdDecimal"},
-    {KeyPeriod, KeyPeriod, Any, U'.', Click, "cmdDecimal"},
+    {KeyPadDecimal, KeyPadDecimal, Any, 0, Click, Buttons::Point},
+    {KeyPeriod, KeyPeriod, Any, U'.', Click, Buttons::Point},
 });
 
 inline constexpr auto OperatorKeys = std::to_array<KeyRow>({
-    {KeyPadMultiply, KeyPadMultiply, Any, U'*', Click, "cmdBiOp", 0},
-    {KeyPadDivide, KeyPadDivide, Any, U'/', Click, "cmdBiOp", 1},
-    {KeyPadSubtract, KeyPadSubtract, Any, U'-', Click, "cmdBiOp", 2},
-    {KeyPadAdd, KeyPadAdd, Any, U'+', Click, "cmdBiOp", 3},
-    {0, 0, Any, U'=', Click, "cmdEqual"},
+    {KeyPadMultiply, KeyPadMultiply, Any, U'*', Click, Buttons::Multiply},
+    {KeyPadDivide, KeyPadDivide, Any, U'/', Click, Buttons::Divide},
+    {KeyPadSubtract, KeyPadSubtract, Any, U'-', Click, Buttons::Subtract},
+    {KeyPadAdd, KeyPadAdd, Any, U'+', Click, Buttons::Add},
+    {0, 0, Any, U'=', Click, Buttons::Equals},
 });
 
 inline constexpr auto CorrectionKeys = std::to_array<KeyRow>({
-    {KeyDelete, KeyDelete, Any, 0, Click, "cmdCE"},
-    {KeyBackspace, KeyBackspace, Any, 0, Click, "cmdBackspace"},
+    {KeyDelete, KeyDelete, Any, 0, Click, Buttons::ClearEntry},
+    {KeyBackspace, KeyBackspace, Any, 0, Click, Buttons::Backspace},
 });
 
 }  // namespace qves::shared

@@ -2,20 +2,14 @@
 
 #include <algorithm>
 
+#include "text/Characters.h"
+
 namespace qves {
 namespace {
 
 constexpr std::size_t LongestWhole = 15;    // digits that a voice reads as one number
 constexpr std::size_t ShortestToGroup = 5;  // digits of a fraction
 constexpr std::string_view MinusNeighbours = " \t\r\n(=";
-
-bool IsDigit(char c) {
-  return c >= '0' && c <= '9';
-}
-
-bool IsLetter(char c) {
-  return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
-}
 
 /// Reads the parts of a number one after another.
 class NumberReader {

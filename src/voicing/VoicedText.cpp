@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "text/Characters.h"
 #include "voicing/SpokenNumber.h"
 
 namespace qves {
@@ -13,11 +14,6 @@ constexpr std::string_view BaseDigits = "0123456789ABCDEF";
 
 bool IsBlank(char c) {
   return Blanks.find(c) != std::string_view::npos;
-}
-
-/// A digit, a letter or a byte of a letter beyond ASCII.
-bool IsWordCharacter(char c) {
-  return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || (c & 0x80) != 0;
 }
 
 /// Whether a word that comes next has to be kept apart from what stands there.
@@ -34,33 +30,27 @@ class Voicing {
     Out.Marks.reserve(marks.size());
   }
 
-  VoicedText Run() {
+  MarkedText Run() {
     while (At < Text.size()) {
       if (!TakeValue() && !TakeParen() && !TakeNumber() && !TakeSign() && !TakeFunction() &&
           !TakeFunctionEnd())
         Copy();
       PauseBehindValue();
     }
-    PinMarks(Text.size());
+    Marks.MoveUpTo(Text.size(), Out);
     return std::move(Out);
   }
 
  private:
-  /// The marks up to that place in the spoken text stand where the voiced text has come to.
-  void PinMarks(std::size_t place) {
-    for (; NextMark < Marks.size() && Marks[NextMark].Offset <= place; ++NextMark)
-      Out.Marks.push_back({Out.Text.size(), Marks[NextMark].Number});
-  }
-
   void Copy() {
-    PinMarks(At);
+    Marks.MoveUpTo(At, Out);
     Out.Text += Text[At++];
   }
 
   /// Writes words in place of so many bytes.
   void Say(std::string_view words, std::size_t length) {
     if (!Out.Text.empty() && IsWordCharacter(Out.Text.back())) Out.Text += ' ';
-    PinMarks(At);
+    Marks.MoveUpTo(At, Out);
     Out.Text += words;
     At += length;
   }
@@ -130,7 +120,7 @@ class Voicing {
 
   bool TakeNumber() {
     const char c = Text[At];
-    const bool mayBegin = (c >= '0' && c <= '9') || c == '-' || Words.SpokenMinus.starts_with(c);
+    const bool mayBegin = IsDigit(c) || c == '-' || Words.SpokenMinus.starts_with(c);
     if (!mayBegin) return false;
     const auto number = FindNumber(TextOfNumber(), At, Rules);
     if (number) Say(NumberInWords(*number, Rules), number->Length);
@@ -149,8 +139,7 @@ class Voicing {
   /// The place of an item in its list is another number.
   void PauseBehindValue() {
     const bool isBehind = Value.Length > 0 && At == Value.Start + Value.Length;
-    if (isBehind && At + 1 < Text.size() && Text[At] == ' ' && Text[At + 1] >= '0' && Text[At + 1] <= '9')
-      Out.Text += ',';
+    if (isBehind && At + 1 < Text.size() && Text[At] == ' ' && IsDigit(Text[At + 1])) Out.Text += ',';
   }
 
   /// A number that was spoken with its digits apart ends where its value does: digits of others may follow.
@@ -209,10 +198,9 @@ class Voicing {
   const VoicingRules& Rules;
   const VoiceWords& Words;
   ValueSpan Value;
-  std::span<const BookMark> Marks;
-  VoicedText Out;
+  MarkMover Marks;
+  MarkedText Out;
   std::size_t At = 0;
-  std::size_t NextMark = 0;
   int OpenFunctions = 0;
 };
 
@@ -223,7 +211,7 @@ bool IsPlain(std::string_view text) {
 
 }  // namespace
 
-VoicedText MakeVoiced(std::string_view spoken, const VoicingRules& rules, ValueSpan value,
+MarkedText MakeVoiced(std::string_view spoken, const VoicingRules& rules, ValueSpan value,
                       std::span<const BookMark> marks) {
   const bool isLeftAlone = rules.Reading == NumberReading::Voice || !rules.Words.Complete();
   if (isLeftAlone || (value.Length == 0 && IsPlain(spoken)))

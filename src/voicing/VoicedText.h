@@ -5,9 +5,8 @@
 #include <span>
 #include <string>
 #include <string_view>
-#include <vector>
 
-#include "platform/TTS.h"
+#include "text/MarkedText.h"
 #include "voicing/VoiceWords.h"
 
 namespace qves {
@@ -28,15 +27,16 @@ struct ValueSpan {
   ValueKind Kind = ValueKind::Number;
 };
 
-struct VoicedText {
+/// A text to be spoken, and where a value stands in it.
+struct SpokenText {
   std::string Text;
-  std::vector<BookMark> Marks;
+  ValueSpan Value = {};
 };
 
 inline constexpr ValueSpan Prose = {0, 0, ValueKind::Prose};
 
 /// The text for the voice. The marks, in the order of their places, move with what they stand before.
-VoicedText MakeVoiced(std::string_view spoken, const VoicingRules& rules, ValueSpan value = {},
+MarkedText MakeVoiced(std::string_view spoken, const VoicingRules& rules, ValueSpan value = {},
                       std::span<const BookMark> marks = {});
 
 }  // namespace qves

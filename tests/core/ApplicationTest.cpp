@@ -1,6 +1,6 @@
 #include "ApplicationFixture.h"
-#include "services/Text.h"
 #include "services/WindowActivation.h"
+#include "text/Text.h"
 
 namespace qves {
 namespace {

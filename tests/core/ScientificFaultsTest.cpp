@@ -57,17 +57,6 @@ TEST_F(ScientificFaults, MoreOpenParenthesesThanFit) {
   EXPECT_EQ(Display(), "5");
 }
 
-TEST_F(ScientificFaults, AnEntryBeyondADouble) {
-  Press(U'9', 309);
-  EXPECT_EQ(Display(), "E");
-  EXPECT_EQ(LastSaid(), "queued Error");
-  Press(U"0.");
-  Press(U'1', 400);
-  EXPECT_EQ(Display(), "0." + std::string(400, '1'));
-  Press(U"*9=");
-  EXPECT_EQ(Display(), "1");
-}
-
 TEST_F(ScientificFaults, EveryFaultLeavesMemoryBaseAndUnitAlone) {
   const struct {
     int Base;

@@ -146,7 +146,7 @@ TEST(Voicing, DigitsThatWereSpokenApartBelongTogether) {
 TEST(Voicing, MarksStayBeforeWhatTheyStoodBefore) {
   const std::string text = "A = -2.5. 3.25 is B.";
   const BookMark marks[] = {{0, 1}, {10, 2}, {15, 3}, {text.size(), 4}};
-  const VoicedText voiced = MakeVoiced(text, {English}, {}, marks);
+  const MarkedText voiced = MakeVoiced(text, {English}, {}, marks);
   EXPECT_EQ(voiced.Text, "A equals minus 2 point 5. 3 point 2 5 is B.");
   ASSERT_EQ(voiced.Marks.size(), 4U);
   const std::string behind[] = {"A equals", "3 point", "is B", ""};

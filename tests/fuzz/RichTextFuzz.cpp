@@ -4,7 +4,7 @@
 #include <cstdlib>
 
 #include "dialogs/RichText.h"
-#include "services/Text.h"
+#include "text/Utf8.h"
 
 namespace {
 

@@ -15,9 +15,9 @@
 
 #include "../scripts/TemporaryFolder.h"
 #include "Voice.h"
-#include "services/Text.h"
 #include "speech/Pauses.h"
 #include "terminal/ScriptSession.h"
+#include "text/Text.h"
 
 namespace qves {
 namespace {

@@ -72,10 +72,6 @@ class FakeBackEnd : public SpeechBackEnd {
   std::vector<Voice> Known;
 };
 
-BackEndMaker MakerOf(const char* name, Stage& stage) {
-  return [name, &stage](Wake&) { return std::make_unique<FakeBackEnd>(name, stage); };
-}
-
 /// The voice with this name, else the first.
 TtsChooser ByName(const std::string& name) {
   return [name](const std::vector<TtsEngineInfo>& engines) {
@@ -98,8 +94,10 @@ class SpeechListTest : public testing::Test {
     ASSERT_TRUE(ReachedWithin(Pump, 5s, [&] { return !List->Engines().empty(); }));
   }
   void Make() {
-    List = std::make_unique<SpeechList>(Pump, std::vector{MakerOf("first", First)},
-                                        std::vector{MakerOf("second", Second)});
+    auto queue = std::make_shared<SpeechQueue>(Pump);
+    queue->Add(std::make_unique<FakeBackEnd>("first", First), true);
+    queue->Add(std::make_unique<FakeBackEnd>("second", Second), false);
+    List = std::make_unique<SpeechList>(std::move(queue));
   }
   bool Idle() {
     return ReachedWithin(Pump, 5s, [&] { return !Engine->Busy(); });
@@ -216,7 +214,7 @@ TEST_F(SpeechListTest, ABackEndThatFailsHandsItsTextsOn) {
   const BookMark marks[] = {{0, 1}, {4, 2}};
   Engine->Speaker(2)->SpeakQueued("one two", marks);
   Engine->Speaker(2)->SpeakQueued("three");
-  EXPECT_TRUE(Played(Second, {"first1: two", "first1: e"}));
+  EXPECT_TRUE(Played(Second, {"second1: two", "second1: e"}));
   First.Fails = false;
   Engine->Speaker(2)->SpeakNow("back");
   EXPECT_TRUE(Played(First, {"first1: back"}));
@@ -261,11 +259,13 @@ TEST_F(SpeechListTest, AVoiceThatIsFoundLaterIsTakenWithTheNextTextThatInterrupt
                              "first1: still more", "first2: a key"}));
 }
 
-TEST(SpeechBackEnds, OffIsAnEmptyList) {
+TEST(SpeechBackEnds, OffIsAnEmptyListAndSilence) {
   TestPump pump;
   const auto list = MakeSpeech(SpeechChoice::Off, pump);
   EXPECT_TRUE(list->Engines().empty());
-  EXPECT_EQ(list->Open([](const auto&) { return 1; }), nullptr);
+  const auto engine = list->Open([](const auto&) { return 1; });
+  engine->Speaker(1)->SpeakNow("unheard");
+  EXPECT_TRUE(ReachedWithin(pump, 5s, [&] { return !engine->Busy(); }));
 }
 
 }  // namespace

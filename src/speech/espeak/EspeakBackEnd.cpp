@@ -2,9 +2,7 @@
 
 #include <espeak-ng/speak_lib.h>
 
-#include <algorithm>
 #include <chrono>
-#include <thread>
 #include <utility>
 
 #include "speech/LanguageIds.h"
@@ -17,7 +15,7 @@ namespace {
 using std::chrono::milliseconds;
 using std::chrono::seconds;
 
-constexpr auto LongestTurn = seconds(2);
+constexpr auto LongestTurn = seconds(2);  // of another one with the library
 constexpr auto LongestConnect = milliseconds(1000);
 constexpr auto SettledAfter = milliseconds(1);
 constexpr auto SleepAfter = seconds(10);
@@ -25,17 +23,9 @@ constexpr auto FollowsWithin = milliseconds(100);
 constexpr auto PauseBetween = milliseconds(150);  // of two texts that follow each other
 
 // The library, free or in use. It outlives threads that are left behind.
-std::mutex& Library() {
-  static auto& library = *new std::mutex;
+std::timed_mutex& Library() {
+  static auto& library = *new std::timed_mutex;
   return library;
-}
-
-std::unique_lock<std::mutex> TakeLibrary() {
-  std::unique_lock turn(Library(), std::try_to_lock);
-  for (const TimePoint deadline = SteadyClock::now() + LongestTurn; !turn && SteadyClock::now() < deadline;
-       turn.try_lock())
-    std::this_thread::sleep_for(milliseconds(5));
-  return turn;
 }
 
 // Samples a second, 0 or less when the library does not find its data. Once initialised it stays so.
@@ -53,10 +43,10 @@ void SetParameter(espeak_PARAMETER parameter, int wanted) {
 bool EspeakBackEnd::Start() {
   if (Started) return !Offered.empty();
   Started = true;
-  Turn = TakeLibrary();
+  Turn = std::unique_lock(Library(), std::chrono::system_clock::now() + LongestTurn);
   if (!Turn || LibraryRate() <= 0) return false;
   espeak_SetSynthCallback(EspeakPlayback::Receive);
-  Offered = OfferedVoices(InstalledVoices(), DesktopLanguage(), this);
+  Offered = EspeakVoices(DesktopLanguage(), this);
   Server.emplace(Changed, LibraryRate());
   Device.emplace(Changed, LibraryRate());
   return !Offered.empty();
@@ -117,7 +107,7 @@ TimePoint EspeakBackEnd::Rest() {
 }
 
 void EspeakBackEnd::Apply(const Utterance& text) {
-  const std::string& key = KeyFor(text.Speaking);
+  const std::string& key = text.Speaking.Key;
   if (key != CurrentKey) espeak_SetVoiceByName(key.c_str());
   CurrentKey = key;
   const VoiceSettings& settings = text.Settings;
@@ -125,15 +115,6 @@ void EspeakBackEnd::Apply(const Utterance& text) {
   SetParameter(espeakVOLUME, Scaled(settings.Volume, VolumeScale, {0, 100}));  // without amplification
   SetParameter(espeakPITCH, settings.Pitch ? Scaled(*settings.Pitch, PitchScale, {0, 100})
                                            : espeak_GetParameter(espeakPITCH, 0));
-}
-
-// A text of another back end's voice is spoken by the best voice of its language.
-const std::string& EspeakBackEnd::KeyFor(const Voice& voice) const {
-  if (voice.Owner == this) return voice.Key;
-  const auto own = std::find_if(Offered.begin(), Offered.end(), [&](const Voice& offered) {
-    return offered.Info.LanguageId == voice.Info.LanguageId;
-  });
-  return own == Offered.end() ? Offered.front().Key : own->Key;
 }
 
 }  // namespace qves

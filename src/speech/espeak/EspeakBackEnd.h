@@ -26,11 +26,10 @@ class EspeakBackEnd : public SpeechBackEnd {
   SoundStream* Output();
   bool PlayOn(SoundStream* stream, const Utterance& text, Playing& playing);
   void Apply(const Utterance& text);
-  const std::string& KeyFor(const Voice& voice) const;
 
   Wake& Changed;
   bool Started = false;
-  std::unique_lock<std::mutex> Turn;
+  std::unique_lock<std::timed_mutex> Turn;
   std::vector<Voice> Offered;  // empty: the library cannot speak
   std::string CurrentKey;
   std::optional<PulseStream> Server;

@@ -4,6 +4,8 @@
 #include <chrono>
 #include <vector>
 
+#include "speech/SpeechText.h"
+
 namespace qves {
 namespace {
 
@@ -27,8 +29,10 @@ EspeakPlayback::EspeakPlayback(SoundStream& stream, int samplesPerSecond, const 
       Rate(samplesPerSecond),
       Text(text),
       Now(playing),
-      Marks(text, playing),
-      LeadLeft(std::int64_t(samplesPerSecond) * LongestLeadMilliseconds / 1000) {}
+      LeadLeft(std::int64_t(samplesPerSecond) * LongestLeadMilliseconds / 1000) {
+  const std::vector<std::size_t> characters = CharacterPositions(text.Text, text.Marks);
+  for (std::size_t i = 0; i < characters.size(); ++i) Marks.push_back({characters[i], text.Marks[i].Number});
+}
 
 bool EspeakPlayback::Run(milliseconds pauseBefore) {
   Stream.Restart();
@@ -36,11 +40,11 @@ bool EspeakPlayback::Run(milliseconds pauseBefore) {
   Lead = -std::int64_t(pause.size());
   WriteAll(pause);
   espeak_Synth(Text.Text.c_str(), Text.Text.size() + 1, 0, POS_CHARACTER, 0, espeakCHARS_UTF8, nullptr, this);
-  const bool heard = !Broken && WaitUntilHeard();
+  const bool heard = !Broken && WaitUntil([&] { return Played() >= Written; });
   if (Now.Stopped() || !heard)
     Stream.Flush();
   else
-    Marks.HeardAll();
+    ReachMarks(NotYet);
   return heard;
 }
 
@@ -52,15 +56,25 @@ int EspeakPlayback::Receive(short* samples, int count, espeak_EVENT* events) {
 }
 
 bool EspeakPlayback::Take(std::span<const std::int16_t> samples, const espeak_EVENT* events) {
-  NoteEvents(events);
+  for (; events->type != espeakEVENT_LIST_TERMINATED; ++events) {
+    if (events->type == espeakEVENT_WORD || events->type == espeakEVENT_SENTENCE) PlaceMarks(*events);
+  }
   Broken = !WriteAll(WithoutLead(samples)) && !Now.Stopped();
   return !Broken && !Now.Stopped();
 }
 
-void EspeakPlayback::NoteEvents(const espeak_EVENT* events) {
-  for (; events->type != espeakEVENT_LIST_TERMINATED; ++events) {
-    if (TellsPosition(*events)) Marks.Meet(events->text_position, events->sample);
+// The event's text position counts characters from 1.
+void EspeakPlayback::PlaceMarks(const espeak_EVENT& event) {
+  for (Mark& mark : Marks) {
+    if (std::int64_t(mark.Character) >= event.text_position) return;
+    mark.Sample = std::min<std::int64_t>(mark.Sample, event.sample);
   }
+}
+
+// All samples up to this one have been heard.
+void EspeakPlayback::ReachMarks(std::int64_t sample) {
+  for (; !Marks.empty() && Marks.front().Sample <= sample; Marks.pop_front())
+    Now.ReachMark(Marks.front().Number);
 }
 
 // The silence before the first sound would only delay it.
@@ -76,14 +90,8 @@ std::span<const std::int16_t> EspeakPlayback::WithoutLead(std::span<const std::i
 
 bool EspeakPlayback::WriteAll(std::span<const std::int16_t> samples) {
   while (!samples.empty()) {
-    Now.Changed.Clear();
-    if (Now.Stopped()) return false;
+    if (!WaitUntil([&] { return Stream.Room() > 0; }) || Now.Stopped()) return false;
     const std::size_t now = std::min(samples.size(), Stream.Room());
-    if (now == 0) {
-      if (!Stream.Alive() || Stalled()) return false;
-      Pause();
-      continue;
-    }
     Stream.Write(samples.first(now));
     Written += std::int64_t(now);
     samples = samples.subspan(now);
@@ -91,10 +99,11 @@ bool EspeakPlayback::WriteAll(std::span<const std::int16_t> samples) {
   return true;
 }
 
-bool EspeakPlayback::WaitUntilHeard() {
+// Or until the text is stopped; false when the stream has failed.
+bool EspeakPlayback::WaitUntil(const std::function<bool()>& reached) {
   while (true) {
     Now.Changed.Clear();
-    if (Now.Stopped() || Played() >= Written) return true;
+    if (Now.Stopped() || reached()) return true;
     if (!Stream.Alive() || Stalled()) return false;
     Pause();
   }
@@ -103,8 +112,8 @@ bool EspeakPlayback::WaitUntilHeard() {
 // Until something happens, or the next mark or the end is due.
 void EspeakPlayback::Pause() {
   const std::int64_t played = Played();
-  Marks.Heard(played + Lead);
-  const std::int64_t due = Marks.Next() >= 0 ? std::min(Written, Marks.Next() - Lead) : Written;
+  ReachMarks(played + Lead);
+  const std::int64_t due = Marks.empty() ? Written : std::min(Written, Marks.front().Sample - Lead);
   const auto wait =
       microseconds(std::max<std::int64_t>(due - played, 0) * 1'000'000 / Rate) + milliseconds(1);
   Stream.Wait(SteadyClock::now() + std::min<SteadyClock::duration>(wait, LongestPause));

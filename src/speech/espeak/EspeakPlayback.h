@@ -5,10 +5,12 @@
 
 #include <chrono>
 #include <cstdint>
+#include <deque>
+#include <functional>
+#include <limits>
 #include <span>
 
 #include "speech/SpeechBackEnd.h"
-#include "speech/espeak/MarkTracker.h"
 #include "speech/sound/SoundStream.h"
 
 namespace qves {
@@ -29,17 +31,27 @@ class EspeakPlayback {
   bool Take(std::span<const std::int16_t> samples, const espeak_EVENT* events);
   bool WriteAll(std::span<const std::int16_t> samples);
   std::span<const std::int16_t> WithoutLead(std::span<const std::int16_t> samples);
-  void NoteEvents(const espeak_EVENT* events);
-  bool WaitUntilHeard();
+  void PlaceMarks(const espeak_EVENT& event);
+  void ReachMarks(std::int64_t sample);
+  bool WaitUntil(const std::function<bool()>& reached);
   void Pause();
   std::int64_t Played();
   bool Stalled();
+
+  /// The library loses marks in markup that lie between two sentences, so they are found by the places of the
+  /// words. None is lost: at the latest, it is reached when all of the text has been heard.
+  static constexpr std::int64_t NotYet = std::numeric_limits<std::int64_t>::max() / 2;
+  struct Mark {
+    std::size_t Character;
+    std::int32_t Number;
+    std::int64_t Sample = NotYet;  // of the word that follows
+  };
 
   SoundStream& Stream;
   int Rate;
   const Utterance& Text;
   Playing& Now;
-  MarkTracker Marks;
+  std::deque<Mark> Marks;    // that have not been reached, in order
   std::int64_t Written = 0;  // samples
   std::int64_t Lead = 0;     // samples of silence that were left out, less those put before
   std::int64_t LeadLeft;     // how many more may be left out

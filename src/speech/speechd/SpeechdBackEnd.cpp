@@ -5,7 +5,6 @@
 #include <algorithm>
 #include <cstdlib>
 #include <iterator>
-#include <optional>
 #include <utility>
 
 #include "speech/LanguageIds.h"
@@ -28,20 +27,32 @@ constexpr auto LongestByte = milliseconds(250);
 constexpr auto ListAfter = milliseconds(3000);  // the start has the machine for itself
 constexpr auto EagerListAfter = milliseconds(1500);
 constexpr auto TryAgainAfter = seconds(30);
-constexpr auto TryHungAgainAfter = seconds(600);  // or as soon as it answers
 constexpr std::size_t LongestPiece = 2000;
-constexpr int MostFailures = 2;  // the second one after reconnecting
+constexpr int MostTries = 2;  // of a piece, each with a connection of its own
 
-constexpr const char* Preparations[] = {"SET SELF PRIORITY MESSAGE", "SET SELF NOTIFICATION BEGIN ON",
-                                        "SET SELF NOTIFICATION END ON", "SET SELF NOTIFICATION CANCEL ON"};
+constexpr const char* Preparations[] = {"SET SELF PRIORITY MESSAGE", "SET SELF NOTIFICATION ALL ON"};
 
 constexpr Scale ServerScale = {-100, 100};
 
 constexpr int Begin = 701, End = 702, Canceled = 703;
 
-std::string ClientName(const char* part) {
+std::string ClientName() {
   const char* user = std::getenv("USER");
-  return std::string("SET SELF CLIENT_NAME ") + (user && *user ? user : "user") + ":qvescalc:" + part;
+  return std::string("SET SELF CLIENT_NAME ") + (user && *user ? user : "user") + ":qvescalc:main";
+}
+
+// A text as the protocol takes it: it ends at a line with nothing but a dot.
+std::string Wrapped(const std::string& text) {
+  return (text.starts_with('.') ? "." : "") + text + "\r\n.";
+}
+
+bool Done(SpeechdConnection& link, const std::string& command, TimePoint deadline) {
+  const auto answer = link.Ask(command, deadline);
+  return answer && answer->Code / 100 == 2;
+}
+
+TimePoint In(SteadyClock::duration time) {
+  return SteadyClock::now() + time;
 }
 
 // "name<tab>language<tab>variant". A module with variants marks the voices proper, one in a hundred, as being
@@ -59,54 +70,61 @@ std::vector<Voice> VoicesOf(const std::string& module, const std::vector<std::st
   return found;
 }
 
-}  // namespace
-
 // The piece that is being spoken.
-struct SpeechdBackEnd::Passage {
-  const Utterance& Text;
+struct Passage {
+  const TextPiece& Piece;
   Playing& Now;
-  const TextPiece* Piece = nullptr;
   std::string Message = {};  // the server's number for it
   bool Ended = false;
-  TimePoint Deadline = {};    // for what is to come next
-  TimePoint NextAnswer = {};  // when to look whether the server still answers
+  TimePoint Deadline = In(LongestUntilBegin);  // for what is to come next
 
-  void ReachMarks(const std::vector<std::int32_t>& marks) {
+  void ReachMarks(const std::vector<std::int32_t>& marks) const {
     for (const std::int32_t number : marks) Now.ReachMark(number);
   }
 
   void Take(const SpeechdReply& event) {
     if (event.Lines.empty() || event.Lines[0] != Message) return;
     if (event.Code == Begin) {
-      Deadline = SteadyClock::now() + LongestUntilEnd + LongestByte * Piece->Text.size();
-      ReachMarks(Piece->FirstMarks);
+      Deadline = In(LongestUntilEnd + LongestByte * Piece.Text.size());
+      ReachMarks(Piece.FirstMarks);
     }
-    if (event.Code == End) ReachMarks(Piece->LaterMarks);
-    Ended = Ended || event.Code == End || event.Code == Canceled;
+    if (event.Code == End) ReachMarks(Piece.LaterMarks);
+    Ended = event.Code == End || event.Code == Canceled;
   }
 };
 
-SpeechdBackEnd::SpeechdBackEnd(Wake& changed, bool eager)
-    : Changed(changed), Eager(eager), ListAt(SteadyClock::now() + (eager ? EagerListAfter : ListAfter)) {
-  const int language = LanguageIdOf(DesktopLanguage());
-  Known.push_back({{"Speech Dispatcher", "speech-dispatcher", "default", language}, "", this});
+// Until the piece is over or stopped. False: the server has failed.
+bool Follow(SpeechdConnection& link, Passage& passage) {
+  while (true) {
+    passage.Now.Changed.Clear();
+    for (auto event = link.NextEvent(); event && !passage.Ended; event = link.NextEvent())
+      passage.Take(*event);
+    if (passage.Ended) return true;
+    if (passage.Now.Stopped()) return Done(link, "CANCEL SELF", In(LongestAnswer));
+    if (!link.Good() || SteadyClock::now() >= passage.Deadline) return false;
+    const TimePoint look = std::min(passage.Deadline, In(AnswerEvery));
+    WaitFor({link.Descriptor(), POLLIN, 0}, look, passage.Now.Changed.Descriptor());
+    if (SteadyClock::now() >= look && !Done(link, "HISTORY GET CLIENT_ID", In(LongestAnswer))) return false;
+  }
 }
 
-const std::vector<Voice>& SpeechdBackEnd::Voices() {
-  return Known;
+}  // namespace
+
+SpeechdBackEnd::SpeechdBackEnd(Wake& changed, bool eager)
+    : Changed(changed), Eager(eager), ListAt(In(eager ? EagerListAfter : ListAfter)) {
+  const int language = LanguageIdOf(DesktopLanguage());
+  Known.push_back({{"Speech Dispatcher", "speech-dispatcher", "default", language}, "", this});
 }
 
 bool SpeechdBackEnd::Play(const Utterance& text, Playing& playing) {
   if (!Eager) ListAt = TimePoint::max();  // the voice that is wanted is found already
   if (!Usable()) return false;
-  Passage passage{text, playing};
+  const Manner manner = MannerOf(text);
   for (const TextPiece& piece : CutText(text.Text, text.Marks, LongestPiece)) {
-    passage.Piece = &piece;
-    while (!playing.Stopped() && !PlayPiece(passage)) {
-      DropLink();
-      if (++Failures < MostFailures) continue;
-      GiveUp();
-      return false;
+    for (int tries = 0; !playing.Stopped(); ++tries) {
+      const bool ready = Good() && LinkManner == manner;
+      if (tries == MostTries || (!ready && !Connect(manner))) return GiveUp();
+      if (PlayPiece(piece, playing)) break;
     }
     playing.Spoken += piece.Text.size();
   }
@@ -114,136 +132,90 @@ bool SpeechdBackEnd::Play(const Utterance& text, Playing& playing) {
 }
 
 // False: the server has failed.
-bool SpeechdBackEnd::PlayPiece(Passage& passage) {
-  if (!Say(passage) || !Follow(passage)) return false;
-  if (passage.Now.Stopped()) return passage.Ended || Do("CANCEL SELF", SteadyClock::now() + LongestAnswer);
-  Failures = 0;
-  return true;
-}
-
-bool SpeechdBackEnd::Say(Passage& passage) {
-  const Manner wanted = MannerOf(passage.Text);
-  // A connection's settings can be changed but not unset.
-  const auto unset = [&](const auto& setting) { return !wanted.contains(setting.first); };
-  if (std::any_of(LinkManner.begin(), LinkManner.end(), unset)) Link.reset();
-  if (!Link && !Connect()) return false;
-  const TimePoint deadline = SteadyClock::now() + LongestAnswer;
-  for (const auto& [name, value] : wanted) {
-    if (LinkManner[name] != value && !Do("SET SELF " + name + " " + value, deadline)) return false;
-    LinkManner[name] = value;
-  }
-  if (!Do("SPEAK", deadline)) return false;
-  const auto queued = Link->Ask(SpeechdText(passage.Piece->Text), deadline);
+bool SpeechdBackEnd::PlayPiece(const TextPiece& piece, Playing& playing) {
+  const TimePoint deadline = In(LongestAnswer);
+  if (!Done(*Link, "SPEAK", deadline)) return false;
+  const auto queued = Link->Ask(Wrapped(piece.Text), deadline);
   if (!queued || queued->Lines.empty()) return false;
-  passage.Message = queued->Lines[0];
-  passage.Ended = false;
-  passage.Deadline = SteadyClock::now() + LongestUntilBegin;
-  passage.NextAnswer = SteadyClock::now() + AnswerEvery;
-  return true;
-}
-
-SpeechdBackEnd::Manner SpeechdBackEnd::MannerOf(const Utterance& text) const {
-  Manner manner;
-  if (text.Speaking.Owner == this && !text.Speaking.Key.empty()) {
-    manner["OUTPUT_MODULE"] = text.Speaking.Info.Product;
-    manner["SYNTHESIS_VOICE"] = text.Speaking.Key;
-  }
-  const VoiceSettings& settings = text.Settings;
-  const auto set = [&](const char* name, int value) { manner[name] = std::to_string(value); };
-  if (settings.WordsPerMinute != UnsetSpeed) set("RATE", SpeechdRate(settings.WordsPerMinute));
-  if (settings.Volume != UnsetVolume) set("VOLUME", Scaled(settings.Volume, VolumeScale, ServerScale));
-  if (settings.Pitch) set("PITCH", Scaled(*settings.Pitch, PitchScale, ServerScale));
-  return manner;
-}
-
-// Until the piece is over or stopped. False: the server has failed.
-bool SpeechdBackEnd::Follow(Passage& passage) {
-  while (true) {
-    Changed.Clear();
-    while (const auto event = Link->NextEvent()) passage.Take(*event);
-    if (passage.Ended || passage.Now.Stopped()) return true;
-    if (Link->Lost() || SteadyClock::now() >= passage.Deadline || !StillAnswers(passage)) return false;
-    Changed.Wait(std::min(passage.Deadline, passage.NextAnswer), Link->Descriptor(), POLLIN);
-  }
-}
-
-bool SpeechdBackEnd::StillAnswers(Passage& passage) {
-  if (SteadyClock::now() < passage.NextAnswer) return true;
-  passage.NextAnswer = SteadyClock::now() + AnswerEvery;
-  return Do("HISTORY GET CLIENT_ID", SteadyClock::now() + LongestAnswer);
-}
-
-bool SpeechdBackEnd::Connect() {
-  Tried = true;
-  if (Open(Hanging ? LongestSecondAnswer : LongestAnswer)) return true;
-  if (Hanging) return false;
-  Server.Start(SteadyClock::now() + LongestStart);
-  return Open(LongestAnswer);
-}
-
-bool SpeechdBackEnd::Open(milliseconds longest) {
-  const int socket = Server.Connect();
-  if (socket < 0) return false;
-  Link = std::make_unique<SpeechdConnection>(socket);
-  LinkManner.clear();
-  const auto done = [&, deadline = SteadyClock::now() + longest](const std::string& command) {
-    return Do(command, deadline);
-  };
-  if (done(ClientName("main")) && std::all_of(std::begin(Preparations), std::end(Preparations), done)) {
-    Hanging.reset();
-    DownUntil = {};
-    return true;
-  }
-  DropLink();
+  Passage passage{piece, playing, queued->Lines[0]};
+  if (Follow(*Link, passage)) return true;
+  if (!Good()) return false;
+  Link->Ask("CANCEL SELF", SteadyClock::now());  // what has not begun is not to begin later
+  Link.reset();
   return false;
 }
 
-bool SpeechdBackEnd::Do(const std::string& command, TimePoint deadline) {
-  const auto answer = Link->Ask(command, deadline);
-  return answer && answer->Code / 100 == 2;
+SpeechdBackEnd::Manner SpeechdBackEnd::MannerOf(const Utterance& text) {
+  Manner manner;
+  const auto set = [&](const char* name, const std::string& value) {
+    manner.push_back(std::string("SET SELF ") + name + " " + value);
+  };
+  const auto scale = [&](const char* name, int value) { set(name, std::to_string(value)); };
+  const VoiceSettings& settings = text.Settings;
+  if (!text.Speaking.Key.empty()) set("OUTPUT_MODULE", text.Speaking.Info.Product);
+  if (!text.Speaking.Key.empty()) set("SYNTHESIS_VOICE", text.Speaking.Key);
+  if (settings.WordsPerMinute != UnsetSpeed) scale("RATE", SpeechdRate(settings.WordsPerMinute));
+  if (settings.Volume != UnsetVolume) scale("VOLUME", Scaled(settings.Volume, VolumeScale, ServerScale));
+  if (settings.Pitch) scale("PITCH", Scaled(*settings.Pitch, PitchScale, ServerScale));
+  return manner;
 }
 
-void SpeechdBackEnd::DropLink() {
-  if (!Link || Link->Lost()) {
-    Link.reset();
-  } else if (Link->Hangs()) {
-    Hanging = std::move(Link);
-  } else {
-    Do("CANCEL SELF", SteadyClock::now());  // what has not begun is not to begin later
-    Link.reset();
-  }
+bool SpeechdBackEnd::Connect(const Manner& manner) {
+  Tried = true;
+  const bool hung = Hangs();
+  if (Open(manner, hung ? LongestSecondAnswer : LongestAnswer)) return true;
+  if (Hangs()) return false;
+  Server.Start(In(LongestStart));
+  return Open(manner, LongestAnswer);
 }
 
-void SpeechdBackEnd::GiveUp() {
-  Failures = 0;
-  DownUntil = SteadyClock::now() + (Hanging ? TryHungAgainAfter : seconds(TryAgainAfter));
+bool SpeechdBackEnd::Open(const Manner& manner, milliseconds longest) {
+  const int socket = Server.Connect();
+  if (socket < 0) return false;
+  auto link = std::make_unique<SpeechdConnection>(socket);
+  const auto done = [&, deadline = In(longest)](const std::string& command) {
+    return Done(*link, command, deadline);
+  };
+  const bool open = done(ClientName()) &&
+                    std::all_of(std::begin(Preparations), std::end(Preparations), done) &&
+                    std::all_of(manner.begin(), manner.end(), done);
+  if (!open && !link->Hangs()) return false;
+  Link = std::move(link);
+  LinkManner = manner;
+  DownUntil = {};
+  return open;
+}
+
+bool SpeechdBackEnd::GiveUp() {
+  DownUntil = Hangs() ? TimePoint::max() : In(TryAgainAfter);
+  return false;
 }
 
 bool SpeechdBackEnd::Usable() {
-  if (Hanging && Hanging->HasAnswered()) {
-    Hanging.reset();
+  if (Hangs() && Link->HasAnswered()) {
+    Link.reset();
     DownUntil = {};
   }
   return SteadyClock::now() >= DownUntil;
 }
 
 TimePoint SpeechdBackEnd::Rest() {
-  if (Eager && !Tried) Connect();
+  if (Eager && !Tried) Connect({});
   if (SteadyClock::now() < ListAt) return ListAt;
-  ListAt = ListVoices() ? TimePoint::max() : SteadyClock::now() + ListAfter;
+  ListAt = ListVoices() ? TimePoint::max() : In(ListAfter);
   return ListAt;
 }
 
-// False: a text has come, which goes first, or the server hangs.
+// False: a text has come, which goes first, or the server has failed.
 bool SpeechdBackEnd::ListVoices() {
-  const int socket = Eager || Server.Runs() ? Server.Connect() : -1;
+  const int socket = Server.Connect();
   if (socket < 0) return true;
   SpeechdConnection connection(socket);
-  const auto ask = [&, deadline = SteadyClock::now() + LongestList](const std::string& command) {
-    const auto answer = connection.Ask(command, deadline, &Changed);
+  const auto ask = [&, deadline = In(LongestList)](const std::string& command) {
+    const auto answer = connection.Ask(command, deadline, Changed.Descriptor());
     return answer ? answer->Lines : std::vector<std::string>();
   };
-  ask(ClientName("voices"));
+  ask(ClientName());
   std::vector<Voice> found;
   for (const std::string& module : ask("LIST OUTPUT_MODULES")) {
     ask("SET SELF OUTPUT_MODULE " + module);
@@ -252,7 +224,7 @@ bool SpeechdBackEnd::ListVoices() {
       found.push_back(std::move(voice));
     }
   }
-  if (connection.Hangs()) return false;
+  if (!connection.Good()) return false;
   std::move(found.begin(), found.end(), std::back_inserter(Known));
   return true;
 }

@@ -2,12 +2,12 @@
 #pragma once
 
 #include <chrono>
-#include <map>
 #include <memory>
 #include <string>
 #include <vector>
 
 #include "speech/SpeechBackEnd.h"
+#include "speech/SpeechText.h"
 #include "speech/speechd/SpeechdConnection.h"
 #include "speech/speechd/SpeechdServer.h"
 
@@ -18,27 +18,23 @@ class SpeechdBackEnd : public SpeechBackEnd {
   /// `eager`: connects at once and starts a server when none runs. Otherwise a server is started with the
   /// first text only, and only the voices of one that runs already are listed.
   SpeechdBackEnd(Wake& changed, bool eager);
-  const std::vector<Voice>& Voices() override;
+  const std::vector<Voice>& Voices() override { return Known; }
   bool Play(const Utterance& text, Playing& playing) override;
   TimePoint Rest() override;
 
  private:
-  /// What a connection has been told to speak like, by the server's names; what is not in it is as the user
-  /// has it in the server's own settings.
-  using Manner = std::map<std::string, std::string>;
-  struct Passage;
+  /// The commands that tell a connection what to speak like. What none of them sets is as the user has it in
+  /// the server's own settings; as a setting cannot be unset, another manner needs another connection.
+  using Manner = std::vector<std::string>;
+  static Manner MannerOf(const Utterance& text);
 
-  Manner MannerOf(const Utterance& text) const;
-  bool PlayPiece(Passage& passage);
-  bool Say(Passage& passage);
-  bool Follow(Passage& passage);
-  bool StillAnswers(Passage& passage);
-  bool Connect();
-  bool Open(std::chrono::milliseconds longest);
-  bool Do(const std::string& command, TimePoint deadline);
+  bool PlayPiece(const TextPiece& piece, Playing& playing);
+  bool Good() const { return Link && Link->Good(); }
+  bool Hangs() const { return Link && Link->Hangs(); }
+  bool Connect(const Manner& manner);
+  bool Open(const Manner& manner, std::chrono::milliseconds longest);
+  bool GiveUp();
   bool Usable();
-  void DropLink();
-  void GiveUp();
   bool ListVoices();
 
   Wake& Changed;
@@ -47,10 +43,9 @@ class SpeechdBackEnd : public SpeechBackEnd {
   std::vector<Voice> Known;
   TimePoint ListAt;
   bool Tried = false;  // to connect
-  std::unique_ptr<SpeechdConnection> Link;
+  std::unique_ptr<SpeechdConnection>
+      Link;  // one that owes an answer is kept: when that comes, the server is back
   Manner LinkManner;
-  std::unique_ptr<SpeechdConnection> Hanging;  // owes an answer: when that comes, the server is back
-  int Failures = 0;                            // since a text was spoken to its end
   TimePoint DownUntil;
 };
 

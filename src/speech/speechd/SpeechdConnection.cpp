@@ -1,12 +1,13 @@
 #include "speech/speechd/SpeechdConnection.h"
 
-#include <poll.h>
 #include <sys/socket.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <cerrno>
-#include <cstdlib>
 #include <utility>
+
+#include "text/Integers.h"
 
 namespace qves {
 namespace {
@@ -14,72 +15,55 @@ namespace {
 constexpr std::string_view LineEnd = "\r\n";
 constexpr int FirstEvent = 700;
 
-bool WaitFor(int file, short events, TimePoint deadline) {
-  pollfd waited{file, events, 0};
-  return ::poll(&waited, 1, MillisecondsTo(deadline)) > 0;
-}
-
-std::optional<SpeechdReply> Take(std::deque<SpeechdReply>& replies) {
-  if (replies.empty()) return std::nullopt;
-  SpeechdReply first = std::move(replies.front());
-  replies.pop_front();
-  return first;
-}
-
 }  // namespace
 
 SpeechdConnection::~SpeechdConnection() {
   ::close(File);
 }
 
-std::optional<SpeechdReply> SpeechdConnection::Ask(std::string_view command, TimePoint deadline,
-                                                   const Wake* wake) {
-  IsUnanswered = true;
-  if (!Send(std::string(command) + std::string(LineEnd), deadline)) return std::nullopt;
-  while (!IsLost) {
-    Receive();
-    if (auto answer = Take(Answers)) {
-      IsUnanswered = false;
-      return answer;
-    }
-    if (SteadyClock::now() >= deadline || (wake && wake->Notified())) break;
-    if (wake)
-      wake->Wait(deadline, File, POLLIN);
+std::optional<SpeechdReply> SpeechdConnection::Ask(std::string_view command, TimePoint deadline, int wake) {
+  Send(std::string(command) + std::string(LineEnd), deadline);
+  Receive();
+  while (Good() && !Answer) {
+    if (WaitFor({File, POLLIN, 0}, deadline, wake))
+      Receive();
     else
-      WaitFor(File, POLLIN, deadline);
+      Now = State::Hanging;
   }
-  return std::nullopt;
+  return std::exchange(Answer, std::nullopt);
 }
 
 std::optional<SpeechdReply> SpeechdConnection::NextEvent() {
   if (Events.empty()) Receive();
-  return Take(Events);
+  if (Events.empty()) return std::nullopt;
+  SpeechdReply first = std::move(Events.front());
+  Events.pop_front();
+  return first;
 }
 
 bool SpeechdConnection::HasAnswered() const {
-  return WaitFor(File, POLLIN, TimePoint());
+  return WaitFor({File, POLLIN, 0}, TimePoint());
 }
 
-bool SpeechdConnection::Send(std::string_view line, TimePoint deadline) {
-  while (!line.empty() && !IsLost) {
+void SpeechdConnection::Send(std::string_view line, TimePoint deadline) {
+  while (!line.empty() && Good()) {
     const ssize_t sent = ::send(File, line.data(), line.size(), MSG_NOSIGNAL | MSG_DONTWAIT);
     if (sent >= 0)
       line.remove_prefix(std::size_t(sent));
     else if (errno != EAGAIN)
-      IsLost = true;
-    else if (!WaitFor(File, POLLOUT, deadline))
-      return false;
+      Now = State::Lost;
+    else if (!WaitFor({File, POLLOUT, 0}, deadline))
+      Now = State::Hanging;
   }
-  return !IsLost;
 }
 
 void SpeechdConnection::Receive() {
   char bytes[16384];
-  while (!IsLost) {
+  while (Good()) {
     const ssize_t count = ::recv(File, bytes, sizeof bytes, MSG_DONTWAIT);
     if (count < 0 && errno == EAGAIN) break;
-    IsLost = count <= 0;
-    if (!IsLost) Unread.append(bytes, std::size_t(count));
+    if (count <= 0) Now = State::Lost;
+    Unread.append(bytes, std::size_t(std::max<ssize_t>(count, 0)));
   }
   std::size_t from = 0;
   for (std::size_t end; (end = Unread.find(LineEnd, from)) != std::string::npos; from = end + LineEnd.size())
@@ -95,12 +79,12 @@ void SpeechdConnection::TakeLine(std::string_view line) {
     Coming.Lines.emplace_back(line.substr(codeLength + 1));
     return;
   }
-  Coming.Code = std::atoi(std::string(line.substr(0, codeLength)).c_str());
-  (Coming.Code >= FirstEvent ? Events : Answers).push_back(std::exchange(Coming, {}));
-}
-
-std::string SpeechdText(std::string_view text) {
-  return (text.starts_with('.') ? "." : "") + std::string(text) + std::string(LineEnd) + ".";
+  Coming.Code = ParseInteger(line.substr(0, codeLength)).value_or(0);
+  SpeechdReply reply = std::exchange(Coming, {});
+  if (reply.Code >= FirstEvent)
+    Events.push_back(std::move(reply));
+  else
+    Answer = std::move(reply);
 }
 
 }  // namespace qves

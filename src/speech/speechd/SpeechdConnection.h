@@ -25,35 +25,33 @@ class SpeechdConnection {
   SpeechdConnection(const SpeechdConnection&) = delete;
   SpeechdConnection& operator=(const SpeechdConnection&) = delete;
 
-  /// Sends a command, or the text after "SPEAK", and waits for the answer: until the deadline, or until
-  /// `wake` is notified, where one is given. After that the connection is of no use but for HasAnswered().
-  std::optional<SpeechdReply> Ask(std::string_view command, TimePoint deadline, const Wake* wake = nullptr);
+  /// Sends a command, or the text after "SPEAK", and waits for the answer: until the deadline, or until the
+  /// file `wake`, where one is given, is readable. Without an answer the connection is not good any more.
+  std::optional<SpeechdReply> Ask(std::string_view command, TimePoint deadline, int wake = -1);
   /// What the server has said by itself, in order.
   std::optional<SpeechdReply> NextEvent();
-  /// The server has closed it.
-  bool Lost() const { return IsLost; }
+  /// The server has neither closed it nor failed to answer in time.
+  bool Good() const { return Now == State::Good; }
   /// The server has not answered in time.
-  bool Hangs() const { return IsUnanswered; }
+  bool Hangs() const { return Now == State::Hanging; }
   /// There is something to read, the end included.
   bool HasAnswered() const;
   /// To wait for what NextEvent gives.
   int Descriptor() const { return File; }
 
  private:
-  bool Send(std::string_view line, TimePoint deadline);
+  enum class State { Good, Hanging, Lost };
+
+  void Send(std::string_view line, TimePoint deadline);
   void Receive();
   void TakeLine(std::string_view line);
 
   int File;
-  bool IsLost = false;
-  bool IsUnanswered = false;
+  State Now = State::Good;
   std::string Unread;  // the line that is still incomplete
   SpeechdReply Coming;
-  std::deque<SpeechdReply> Answers;
+  std::optional<SpeechdReply> Answer;
   std::deque<SpeechdReply> Events;
 };
-
-/// A text as the protocol takes it: it ends at a line with nothing but a dot.
-std::string SpeechdText(std::string_view text);
 
 }  // namespace qves

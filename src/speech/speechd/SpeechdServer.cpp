@@ -5,7 +5,6 @@
 #include <signal.h>
 #include <spawn.h>
 #include <sys/socket.h>
-#include <sys/stat.h>
 #include <sys/un.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -13,13 +12,14 @@
 #include <cerrno>
 #include <chrono>
 #include <cstdlib>
-#include <optional>
 #include <thread>
+
+#include "text/Integers.h"
 
 namespace qves {
 namespace {
 
-constexpr int UsualPort = 6560;
+constexpr const char* UsualPort = "6560";
 constexpr auto LookEvery = std::chrono::milliseconds(10);
 
 std::string Variable(const char* name) {
@@ -34,10 +34,11 @@ std::string UsualPath() {
   return folder + "/speech-dispatcher/speechd.sock";
 }
 
-// What follows the prefix, without the colon between them; nothing when there is no such prefix.
-std::optional<std::string> After(const std::string& prefix, const std::string& text) {
-  if (!text.starts_with(prefix)) return std::nullopt;
-  return text.size() > prefix.size() ? text.substr(prefix.size() + 1) : "";
+// Takes the text up to the next colon off, or the fallback where there is none.
+std::string TakePart(std::string& text, const char* fallback = "") {
+  const std::string part = text.substr(0, text.find(':'));
+  text.erase(0, part.size() + 1);
+  return part.empty() ? fallback : part;
 }
 
 template <typename Address>
@@ -67,21 +68,20 @@ pid_t Run(const std::string& program, const std::string& path) {
 }  // namespace
 
 SpeechdServer::SpeechdServer() : Path(UsualPath()) {
-  const std::string address = Variable("SPEECHD_ADDRESS");
-  if (const auto path = After("unix_socket", address); path && !path->empty()) Path = *path;
-  if (const auto place = After("inet_socket", address)) {
-    Path.clear();
-    const std::size_t colon = place->find(':');
-    Host = colon == 0 || place->empty() ? "127.0.0.1" : place->substr(0, colon);
-    Port = colon == std::string::npos ? UsualPort : std::atoi(place->c_str() + colon + 1);
-  }
+  std::string address = Variable("SPEECHD_ADDRESS");
+  const std::string method = TakePart(address);
+  if (method == "unix_socket" && !address.empty()) Path = address;
+  if (method != "inet_socket") return;
+  Path.clear();
+  Host = TakePart(address, "127.0.0.1");
+  Port = TakePart(address, UsualPort);
 }
 
 int SpeechdServer::Connect() const {
   if (Path.empty()) {
     sockaddr_in address{};
     address.sin_family = AF_INET;
-    address.sin_port = htons(static_cast<std::uint16_t>(Port));
+    address.sin_port = htons(ParseInteger<std::uint16_t>(Port).value_or(0));
     if (::inet_pton(AF_INET, Host.c_str(), &address.sin_addr) != 1) return -1;
     return ConnectTo(address);
   }
@@ -90,11 +90,6 @@ int SpeechdServer::Connect() const {
   if (Path.size() >= sizeof address.sun_path) return -1;
   Path.copy(address.sun_path, Path.size());
   return ConnectTo(address);
-}
-
-bool SpeechdServer::Runs() const {
-  struct stat found;
-  return Path.empty() || ::stat(Path.c_str(), &found) == 0;
 }
 
 void SpeechdServer::Start(TimePoint deadline) const {

@@ -13,8 +13,6 @@ class SpeechdServer {
   SpeechdServer();
   /// A socket that never blocks, or -1 when nobody listens there.
   int Connect() const;
-  /// It seems to run already: its socket is there.
-  bool Runs() const;
   /// Starts it the way its own library does, unless the user's settings forbid that. Returns when it listens
   /// or has failed, at the deadline at the latest.
   void Start(TimePoint deadline) const;
@@ -22,7 +20,7 @@ class SpeechdServer {
  private:
   std::string Path;  // of the socket; empty: it is reached by the network
   std::string Host;
-  int Port = 0;
+  std::string Port;
 };
 
 }  // namespace qves

@@ -2,15 +2,16 @@
 
 #include "formulas/MoneyText.h"
 #include "formulas/Numbers.h"
-#include "views/business/BusinessOperators.h"
+#include "views/SharedOperators.h"
+#include "views/business/BusinessButtons.h"
 
 namespace qves {
 
 using enum ActionKind;
 
-std::span<const OperatorRow> BusinessEngine::Shared() {
-  return business::Operators;
-}
+BusinessEngine::BusinessEngine(BusinessState& state, EngineHost& host, BusinessHost& modes,
+                               Announcer& announcer)
+    : EntryEngine(state, shared::Operators, host, announcer), Modes(modes), Now(state) {}
 
 /// A prefix lasts until the next key. Only a register key looks at it; every other key finds things as they
 /// were before it.
@@ -22,9 +23,9 @@ void BusinessEngine::BeginKey() {
   Now.PrevAction = Now.LastAction;
 }
 
-/// The memory group's "CF" clears the registers; the rest is every view's.
+/// The memory group's last key clears the registers; the rest is every view's.
 void BusinessEngine::Memory(const PressedKey& key) {
-  if (key.Caption == "CF") ClearFinancial();
+  if (key.Caption == business::Buttons::ClearFinancial.Caption) ClearFinancial();
   EntryEngine::Memory(key);
 }
 

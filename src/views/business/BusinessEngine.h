@@ -23,8 +23,7 @@ class BusinessHost {
 
 class BusinessEngine : public EntryEngine {
  public:
-  BusinessEngine(BusinessState& state, EngineHost& host, BusinessHost& modes, Announcer& announcer)
-      : EntryEngine(state, Shared(), host, announcer), Modes(modes), Now(state) {}
+  BusinessEngine(BusinessState& state, EngineHost& host, BusinessHost& modes, Announcer& announcer);
 
   void BeginKey() override;
   void Memory(const PressedKey& key);
@@ -44,7 +43,6 @@ class BusinessEngine : public EntryEngine {
   void Evaluate(double first, double& second, std::string_view op) override;
 
  private:
-  static std::span<const OperatorRow> Shared();
   void ShowMoney(double value);
   void AddToDate(double first, double& second);
 

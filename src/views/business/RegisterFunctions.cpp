@@ -7,10 +7,15 @@
 #include "formulas/CashFlows.h"
 #include "formulas/Depreciation.h"
 #include "formulas/Numbers.h"
+#include "services/MessageIds.h"
+#include "views/business/BusinessButtons.h"
 #include "views/business/BusinessEngine.h"
 #include "views/business/BusinessOperators.h"
 
 namespace qves {
+
+namespace Key = business::Buttons;
+
 namespace {
 
 constexpr double Par = 100;
@@ -18,25 +23,30 @@ constexpr double Par = 100;
 }  // namespace
 
 struct BusinessEngine::FunctionRow {
-  std::string_view Caption;
-  int NameMessage;
+  const ControlSpec& Button;
   double (BusinessEngine::*Find)(double value);  ///< from the value shown
+  int ResultMessage = Button.NameMessage;        ///< what the result is called
 };
 
 const BusinessEngine::FunctionRow BusinessEngine::FunctionTable[] = {
-    {"INT", 1522, &BusinessEngine::FindInterest},     {"NPV", 1528, &BusinessEngine::FindNPV},
-    {"IRR", 1530, &BusinessEngine::FindIRR},          {"DB", 1532, &BusinessEngine::FindDecliningBalance},
-    {"SL", 1534, &BusinessEngine::FindStraightLine},  {"SY", 1536, &BusinessEngine::FindSumOfYears},
-    {"AMT", 1577, &BusinessEngine::FindAmortization}, {"Price", 1540, &BusinessEngine::FindPrice},
-    {"YTM", 1542, &BusinessEngine::FindYield},        {"DYS", 1544, &BusinessEngine::FindDays},
+    {Key::Interest, &BusinessEngine::FindInterest},
+    {Key::Npv, &BusinessEngine::FindNPV},
+    {Key::Irr, &BusinessEngine::FindIRR},
+    {Key::DecliningBalance, &BusinessEngine::FindDecliningBalance},
+    {Key::StraightLine, &BusinessEngine::FindStraightLine},
+    {Key::SumOfYears, &BusinessEngine::FindSumOfYears},
+    {Key::Amortization, &BusinessEngine::FindAmortization, InterestPaidMessage},
+    {Key::BondPrice, &BusinessEngine::FindPrice},
+    {Key::BondYield, &BusinessEngine::FindYield},
+    {Key::Days, &BusinessEngine::FindDays},
 };
 
 void BusinessEngine::Evaluate(double first, double& second, std::string_view op) {
-  if (op == "date") return AddToDate(first, second);
+  if (op == Key::DateAfter.Caption) return AddToDate(first, second);
   for (const FunctionRow& row : FunctionTable) {
-    if (row.Caption != op) continue;
+    if (row.Button.Caption != op) continue;
     second = (this->*row.Find)(second);
-    Now.SpokenMsgId = row.NameMessage;
+    Now.SpokenMsgId = row.ResultMessage;
     Says.Say(RegisterName());
     return ShowMoney(second);
   }

@@ -2,17 +2,19 @@
 #include "formulas/MoneyText.h"
 #include "formulas/Numbers.h"
 #include "services/MessageIds.h"
-#include "services/Text.h"
+#include "text/Text.h"
+#include "views/business/BusinessButtons.h"
 #include "views/business/BusinessEngine.h"
 
 namespace qves {
+
+namespace Key = business::Buttons;
 
 using enum ActionKind;
 
 /// A register is a number (stored divided by `Scale`), a date, or has handlers of its own.
 struct BusinessEngine::RegisterRow {
-  std::string_view Tag;
-  int NameMessage;
+  const ControlSpec& Button;
   double FinancialRegisters::*Number = nullptr;
   double Scale = 1;
   DayNumber FinancialRegisters::*Day = nullptr;
@@ -21,23 +23,23 @@ struct BusinessEngine::RegisterRow {
 };
 
 const BusinessEngine::RegisterRow BusinessEngine::RegisterTable[] = {
-    {"n", 1500, &FinancialRegisters::N},
-    {"i", 1502, &FinancialRegisters::I, 100},
-    {"PV", 1504, &FinancialRegisters::PV},
-    {"PMT", 1506, &FinancialRegisters::PMT},
-    {"FV", 1508, &FinancialRegisters::FV},
-    {"CF0", 1510, &FinancialRegisters::CF0},
-    {"CFj", 1512, nullptr, 1, nullptr, &BusinessEngine::StoreFlow, &BusinessEngine::RecallFlow},
-    {"Nj", 1514, nullptr, 1, nullptr, &BusinessEngine::StoreCount, &BusinessEngine::RecallNothing},
+    {Key::N, &FinancialRegisters::N},
+    {Key::I, &FinancialRegisters::I, 100},
+    {Key::PV, &FinancialRegisters::PV},
+    {Key::PMT, &FinancialRegisters::PMT},
+    {Key::FV, &FinancialRegisters::FV},
+    {Key::CF0, &FinancialRegisters::CF0},
+    {Key::CFj, nullptr, 1, nullptr, &BusinessEngine::StoreFlow, &BusinessEngine::RecallFlow},
+    {Key::Nj, nullptr, 1, nullptr, &BusinessEngine::StoreCount, &BusinessEngine::RecallNothing},
     // Recalled, it is the number of flows and not the index: this is wanted.
-    {"j", 1516, &FinancialRegisters::J, 1, nullptr, nullptr, &BusinessEngine::RecallFlowCount},
-    {"beg", 1518, nullptr, 1, &FinancialRegisters::BeginDate},
-    {"end", 1520, nullptr, 1, &FinancialRegisters::EndDate},
+    {Key::J, &FinancialRegisters::J, 1, nullptr, nullptr, &BusinessEngine::RecallFlowCount},
+    {Key::BeginDate, nullptr, 1, &FinancialRegisters::BeginDate},
+    {Key::EndDate, nullptr, 1, &FinancialRegisters::EndDate},
 };
 
 const BusinessEngine::RegisterRow& BusinessEngine::FindRegister(std::string_view tag) {
   const RegisterRow* row = RegisterTable;
-  while (row->Tag != tag) ++row;
+  while (row->Button.Caption != tag) ++row;
   return *row;
 }
 
@@ -46,7 +48,8 @@ void BusinessEngine::PrefixKey(const PressedKey& key) {
     std::string_view Caption;
     ActionKind Tag;
   };
-  constexpr PrefixRow rows[] = {{"CAL", Cal}, {"RCL", Rcl}, {"STO", Sto}};
+  constexpr PrefixRow rows[] = {
+      {Key::Solve.Caption, Cal}, {Key::Recall.Caption, Rcl}, {Key::Store.Caption, Sto}};
   for (const PrefixRow& row : rows)
     if (row.Caption == key.Caption) Now.LastAction = row.Tag;
   Says.Say(key.SpokenName);
@@ -56,12 +59,12 @@ void BusinessEngine::PrefixKey(const PressedKey& key) {
 void BusinessEngine::RegisterKey(const PressedKey& key) {
   if (Now.ErrorState && Prefix != Rcl) {
     ClearAll();
-    return Says.SayMessage(ClearAllMessage);
+    return Says.SayMessage(Key::ClearAll.NameMessage);
   }
   const RegisterRow& row = FindRegister(key.Caption);
-  Now.SpokenMsgId = row.NameMessage;
+  Now.SpokenMsgId = row.Button.NameMessage;
   if (Prefix == Cal)
-    SolveRegister(row.Tag);
+    SolveRegister(row.Button.Caption);
   else if (Prefix == Rcl)
     Recall(row);
   else
@@ -134,8 +137,10 @@ void BusinessEngine::ExchangeKey(const PressedKey&) {
     int SecondMessage;
   };
   constexpr PairRow pairs[] = {
-      {"AMT", &BusinessState::AmortPrincipal, 1576, &BusinessState::AmortInterest, 1577},
-      {"Price", &BusinessState::AccruedInterest, 1578, &BusinessState::BondPrice, 1540},
+      {Key::Amortization.Caption, &BusinessState::AmortPrincipal, PrincipalPaidMessage,
+       &BusinessState::AmortInterest, InterestPaidMessage},
+      {Key::BondPrice.Caption, &BusinessState::AccruedInterest, AccruedInterestMessage,
+       &BusinessState::BondPrice, Key::BondPrice.NameMessage},
   };
   if (Now.ErrorState) return Says.SayError();
   std::string leadIn;

@@ -4,9 +4,12 @@
 #include "formulas/Annuity.h"
 #include "formulas/Numbers.h"
 #include "formulas/OddPeriod.h"
+#include "views/business/BusinessButtons.h"
 #include "views/business/BusinessEngine.h"
 
 namespace qves {
+
+namespace Key = business::Buttons;
 
 namespace {
 constexpr double WholeTolerance = 1e-9;  // rounding noise of a solved number of periods
@@ -18,8 +21,9 @@ struct BusinessEngine::SolverRow {
 };
 
 const BusinessEngine::SolverRow BusinessEngine::SolverTable[] = {
-    {"FV", &BusinessEngine::SolveFV}, {"PMT", &BusinessEngine::SolvePMT}, {"PV", &BusinessEngine::SolvePV},
-    {"i", &BusinessEngine::SolveI},   {"n", &BusinessEngine::SolveN},
+    {Key::FV.Caption, &BusinessEngine::SolveFV}, {Key::PMT.Caption, &BusinessEngine::SolvePMT},
+    {Key::PV.Caption, &BusinessEngine::SolvePV}, {Key::I.Caption, &BusinessEngine::SolveI},
+    {Key::N.Caption, &BusinessEngine::SolveN},
 };
 
 /// A register that cannot be solved only has its name spoken with the value shown.

@@ -1,8 +1,7 @@
 #include "views/business/frmBusiness.h"
 
-#include <charconv>
-
 #include "services/MessageIds.h"
+#include "text/Integers.h"
 #include "views/business/BusinessControls.h"
 #include "views/business/BusinessKeyMap.h"
 
@@ -19,6 +18,8 @@ constexpr ClickRow Clicks[] = {
     {"cmdRecall", Prefix, FocusRule::MovesSilently},
     {"cmdSTO", Prefix, FocusRule::MovesSilently},
 };
+
+static_assert(AllStandIn(business::Controls, business::KeyMap));
 
 constexpr ViewTables BusinessTables = {
     .FormName = "frmBusiness",
@@ -47,10 +48,7 @@ frmBusiness::frmBusiness(Services& services, ViewFrame& frame)
 }
 
 int frmBusiness::InterestBasis() const {
-  int days = 0;
-  const std::string& text = INTBase->Chosen().Text;
-  std::from_chars(text.data(), text.data() + text.size(), days);
-  return days;
+  return ParseInteger(INTBase->Chosen().Text).value_or(0);
 }
 
 }  // namespace qves

@@ -1,33 +1,20 @@
 // Which buttons make sense in which number base.
 #pragma once
 
-#include <string_view>
+#include <functional>
 
 #include "formulas/NumberBases.h"
-#include "model/Control.h"
+#include "views/scientific/ScientificButtons.h"
 
 namespace qves::scientific {
 
-/// The controls of an array from one index to another, and the bases in which they are enabled.
-struct BaseButtonRow {
-  std::string_view Array;
-  int First;
-  int Last;
-  unsigned Bases;  ///< bit set, by list index
-};
+/// How many digits a base has, by its list index.
+inline constexpr int DigitsOf[] = {16, 10, 8, 2};
 
-constexpr unsigned In(int base) {
-  return 1U << base;
-}
-
-inline constexpr BaseButtonRow BaseButtons[] = {
-    {"cmdDigit", 2, 7, In(NumberBase::Hexadecimal) | In(NumberBase::Decimal) | In(NumberBase::Octal)},
-    {"cmdDigit", 8, 9, In(NumberBase::Hexadecimal) | In(NumberBase::Decimal)},
-    {"cmdDigit", 10, 15, In(NumberBase::Hexadecimal)},
-    {"cmdUOp", 4, 6, In(NumberBase::Decimal)},    // sin, cos, tan
-    {"cmdUOp", 13, 16, In(NumberBase::Decimal)},  // F-E, e^x, Exp, Rnd
-    {"cmdMemory", 5, 5, In(NumberBase::Decimal)},
-    {"cmdDecimal", NoIndex, NoIndex, In(NumberBase::Decimal)},
+/// Enabled in the decimal base only.
+inline constexpr std::reference_wrapper<const ControlSpec> DecimalButtons[] = {
+    Buttons::Sin,      Buttons::Cos,    Buttons::Tan, Buttons::Notation, Buttons::ExpOfX,
+    Buttons::Exponent, Buttons::Random, Buttons::Pi,  Buttons::Point,
 };
 
 }  // namespace qves::scientific

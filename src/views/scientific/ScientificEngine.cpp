@@ -11,6 +11,8 @@
 
 namespace qves {
 
+namespace Key = scientific::Buttons;
+
 using enum ActionKind;
 
 namespace {
@@ -25,9 +27,9 @@ struct ScientificEngine::EntryOperator {
 };
 
 const ScientificEngine::EntryOperator ScientificEngine::EntryOperators[] = {
-    {"F-E", &ScientificEngine::ToggleNotation, false},
-    {"Exp", &ScientificEngine::StartExponent, false},
-    {"+/-", &ScientificEngine::FlipExponentSign, true},
+    {Key::Notation.Caption, &ScientificEngine::ToggleNotation, false},
+    {Key::Exponent.Caption, &ScientificEngine::StartExponent, false},
+    {Key::Sign.Caption, &ScientificEngine::FlipExponentSign, true},
 };
 
 ScientificEngine::ScientificEngine(ScientificState& state, EngineHost& host, ScientificHost& modes,
@@ -47,7 +49,7 @@ void ScientificEngine::Evaluate(double first, double& second, std::string_view o
 }
 
 double ScientificEngine::Compute(double first, double second, std::string_view op) {
-  if (op == "Rnd") return Modes.NextRandom();
+  if (op == Key::Random.Caption) return Modes.NextRandom();
   if (IsTrigFunction(op)) return ComputeTrig(op, second);
   const OperatorRow* row = FindOperator(Operators, op);
   if (!row) return second;
@@ -122,9 +124,9 @@ void ScientificEngine::BinaryOperator(const PressedKey& key) {
 }
 
 void ScientificEngine::UnaryOperator(const PressedKey& key) {
-  const bool startsExponent = key.Caption == "Exp";
+  const bool startsExponent = key.Caption == Key::Exponent.Caption;
   if (startsExponent && !Now.ErrorState && RefusesExponent()) return SayResult("");  // it only speaks
-  if (!startsExponent && key.Caption != "+/-") EndExponent();
+  if (!startsExponent && key.Caption != Key::Sign.Caption) EndExponent();
   EntryEngine::UnaryOperator(key);
 }
 

@@ -5,13 +5,14 @@
 
 #include "model/Join.h"
 #include "views/SharedKeys.h"
+#include "views/scientific/ScientificButtons.h"
 
 namespace qves::scientific {
 
 using enum ShiftRule;
 using enum KeyAction;
 
-// codes from and to, shift rule, layout character, action, control, index, index from the code, while enabled
+// codes from and to, shift rule, layout character, action, control, code of index 0, while enabled
 inline constexpr auto KeyMap =
     Join(shared::FirstKeys, shared::DisplayKey,
          std::to_array<KeyRow>({
@@ -22,47 +23,47 @@ inline constexpr auto KeyMap =
          }),
          shared::MemoryKeys,
          std::to_array<KeyRow>({
-             {'P', 'P', Any, 0, Click, "cmdMemory", 5},
+             {'P', 'P', Any, 0, Click, Buttons::Pi},
          }),
          shared::DigitKeys,
          std::to_array<KeyRow>({
              // Enabled in the hexadecimal base only. There B to F are digits also where they are functions
              // below, and whatever is held with them: wanted so.
-             {'A', 'F', Any, 0, Click, "cmdDigit", 10 - 'A', true, true},
+             {'A', 'F', Any, 0, Click, Buttons::Digits, 'A' - 10, true},
          }),
          shared::PointKeys,
          std::to_array<KeyRow>({
-             {'Y', 'Y', Any, 0, Click, "cmdBiOp", 8},
+             {'Y', 'Y', Any, 0, Click, Buttons::Power},
              // The "&" key does nothing, although the help of the button names it: wanted so.
-             {'O', 'O', ShiftRule::Control, 0, Click, "cmdBiOp", 4},
+             {'O', 'O', ShiftRule::Control, 0, Click, Buttons::And},
              // The keys of these places whatever the layout, while the four operators and the parentheses
              // follow it: wanted so.
-             {KeyBackslash, KeyBackslash, Shift, 0, Click, "cmdBiOp", 5},
-             {'6', '6', Shift, 0, Click, "cmdBiOp", 6},
-             {'5', '5', Shift, 0, Click, "cmdBiOp", 7},
-             {KeyComma, KeyComma, Shift, 0, Click, "cmdBiOp", 9},
+             {KeyBackslash, KeyBackslash, Shift, 0, Click, Buttons::Or},
+             {'6', '6', Shift, 0, Click, Buttons::Xor},
+             {'5', '5', Shift, 0, Click, Buttons::Mod},
+             {KeyComma, KeyComma, Shift, 0, Click, Buttons::Lsh},
          }),
          shared::OperatorKeys,
          std::to_array<KeyRow>({
-             {0, 0, Any, U'(', Click, "cmdLeftParen"},
-             {0, 0, Any, U')', Click, "cmdRightParen"},
-             {'2', '2', Shift, 0, Click, "cmdUOp", 0},
-             {KeySemicolon, KeySemicolon, Any, 0, Click, "cmdUOp", 3},
-             {KeyGrave, KeyGrave, Shift, 0, Click, "cmdUOp", 7},
-             {'1', '1', Shift, 0, Click, "cmdUOp", 8},
-             {'3', '3', Shift, 0, Click, "cmdUOp", 10},
-             {'M', 'M', Any, 0, Click, "cmdUOp", 1},
-             {'R', 'R', Any, 0, Click, "cmdUOp", 2},
-             {'S', 'S', Any, 0, Click, "cmdUOp", 4},
-             {'O', 'O', Any, 0, Click, "cmdUOp", 5},
-             {'T', 'T', NotControl, 0, Click, "cmdUOp", 6},
-             {'Q', 'Q', Any, 0, Click, "cmdUOp", 9},
-             {'N', 'N', Any, 0, Click, "cmdUOp", 11},
-             {'L', 'L', Any, 0, Click, "cmdUOp", 12},
-             {'V', 'V', Any, 0, Click, "cmdUOp", 13},
-             {'E', 'E', Any, 0, Click, "cmdUOp", 14},
-             {'X', 'X', Any, 0, Click, "cmdUOp", 15},
-             {'D', 'D', Any, 0, Click, "cmdUOp", 16},
+             {0, 0, Any, U'(', Click, Buttons::LeftParen},
+             {0, 0, Any, U')', Click, Buttons::RightParen},
+             {'2', '2', Shift, 0, Click, Buttons::Sqrt},
+             {KeySemicolon, KeySemicolon, Any, 0, Click, Buttons::Int},
+             {KeyGrave, KeyGrave, Shift, 0, Click, Buttons::Not},
+             {'1', '1', Shift, 0, Click, Buttons::Factorial},
+             {'3', '3', Shift, 0, Click, Buttons::Cube},
+             {'M', 'M', Any, 0, Click, Buttons::Sign},
+             {'R', 'R', Any, 0, Click, Buttons::Reciprocal},
+             {'S', 'S', Any, 0, Click, Buttons::Sin},
+             {'O', 'O', Any, 0, Click, Buttons::Cos},
+             {'T', 'T', NotControl, 0, Click, Buttons::Tan},
+             {'Q', 'Q', Any, 0, Click, Buttons::Square},
+             {'N', 'N', Any, 0, Click, Buttons::Ln},
+             {'L', 'L', Any, 0, Click, Buttons::Log},
+             {'V', 'V', Any, 0, Click, Buttons::Notation},
+             {'E', 'E', Any, 0, Click, Buttons::ExpOfX},
+             {'X', 'X', Any, 0, Click, Buttons::Exponent},
+             {'D', 'D', Any, 0, Click, Buttons::Random},
          }),
          shared::CorrectionKeys);
 

@@ -1,39 +1,40 @@
 // The operators of the Scientific view. An operator with an inverse function clears the inverse box when it
 // has used it; all others leave the box as it is, although the box's help says otherwise: this is wanted.
-// "sin", "cos" and "tan" stand in Trigonometry; "F-E" and "Exp" change the entry itself, and "Rnd" takes the
-// next random number (ScientificEngine).
+// "sin", "cos" and "tan" stand in Trigonometry; the notation and the exponent key change the entry itself,
+// and the random key takes the next random number (ScientificEngine).
 #pragma once
 
 #include "engine/Operators.h"
 #include "formulas/Arithmetic.h"
 #include "formulas/BitOperations.h"
 #include "formulas/ScientificFunctions.h"
+#include "views/scientific/ScientificButtons.h"
 
 namespace qves::scientific {
 
 // caption, operands, function, inverse function
 inline constexpr OperatorRow Operators[] = {
-    {"+", Arity::Binary, Add},
-    {"-", Arity::Binary, Subtract},
-    {"*", Arity::Binary, Multiply},
-    {"/", Arity::Binary, Divide},
-    {"+/-", Arity::Unary, ChangeSign},
-    {"1/x", Arity::Unary, Reciprocal},
-    {"And", Arity::Binary, BitAnd},
-    {"Or", Arity::Binary, BitOr},
-    {"Xor", Arity::Binary, BitXor},
-    {"Not", Arity::Unary, BitNot},
-    {"Mod", Arity::Binary, Modulo},
-    {"n!", Arity::Unary, Factorial},
-    {"sqrt", Arity::Unary, SquareRoot, Square},
-    {"x^2", Arity::Unary, Square, SquareRoot},
-    {"x^y", Arity::Binary, Power, Root},
-    {"x^3", Arity::Unary, Cube, CubeRoot},
-    {"ln", Arity::Unary, NaturalLog, Exponential},
-    {"e^x", Arity::Unary, Exponential, NaturalLog},
-    {"log", Arity::Unary, CommonLog, PowerOfTen},
-    {"Lsh", Arity::Binary, ShiftLeft, ShiftRight},
-    {"Int", Arity::Unary, WholePart, FractionalPart},
+    {Buttons::Add.Caption, Arity::Binary, Add},
+    {Buttons::Subtract.Caption, Arity::Binary, Subtract},
+    {Buttons::Multiply.Caption, Arity::Binary, Multiply},
+    {Buttons::Divide.Caption, Arity::Binary, Divide},
+    {Buttons::Sign.Caption, Arity::Unary, ChangeSign},
+    {Buttons::Reciprocal.Caption, Arity::Unary, Reciprocal},
+    {Buttons::And.Caption, Arity::Binary, BitAnd},
+    {Buttons::Or.Caption, Arity::Binary, BitOr},
+    {Buttons::Xor.Caption, Arity::Binary, BitXor},
+    {Buttons::Not.Caption, Arity::Unary, BitNot},
+    {Buttons::Mod.Caption, Arity::Binary, Modulo},
+    {Buttons::Factorial.Caption, Arity::Unary, Factorial},
+    {Buttons::Sqrt.Caption, Arity::Unary, SquareRoot, Square},
+    {Buttons::Square.Caption, Arity::Unary, Square, SquareRoot},
+    {Buttons::Power.Caption, Arity::Binary, Power, Root},
+    {Buttons::Cube.Caption, Arity::Unary, Cube, CubeRoot},
+    {Buttons::Ln.Caption, Arity::Unary, NaturalLog, Exponential},
+    {Buttons::ExpOfX.Caption, Arity::Unary, Exponential, NaturalLog},
+    {Buttons::Log.Caption, Arity::Unary, CommonLog, PowerOfTen},
+    {Buttons::Lsh.Caption, Arity::Binary, ShiftLeft, ShiftRight},
+    {Buttons::Int.Caption, Arity::Unary, WholePart, FractionalPart},
 };
 
 }  // namespace qves::scientific

@@ -20,6 +20,8 @@ constexpr ClickRow Clicks[] = {
     {"cmdRightParen", Do<ScientificEngine, &ScientificEngine::RightParen>, FocusRule::Moves},
 };
 
+static_assert(AllStandIn(scientific::Controls, scientific::KeyMap));
+
 constexpr ViewTables ScientificTables = {
     .FormName = "frmScientific",
     .Controls = scientific::Controls,
@@ -53,9 +55,10 @@ void frmScientific::OnNewChoice(ListControl& list) {
 }
 
 void frmScientific::SetBaseButtons(int base) {
-  for (const scientific::BaseButtonRow& row : scientific::BaseButtons)
-    for (int index = row.First; index <= row.Last; ++index)
-      SetEnabled(*Find(row.Array, index), (row.Bases >> base & 1U) != 0);
+  for (int digit = 0; digit < scientific::DigitsOf[NumberBase::Hexadecimal]; ++digit)
+    SetEnabled(*Find(Buttons::Digits, digit), digit < scientific::DigitsOf[base]);
+  for (const ControlSpec& button : scientific::DecimalButtons)
+    SetEnabled(*Find(button.Name, button.Index), base == NumberBase::Decimal);
 }
 
 }  // namespace qves

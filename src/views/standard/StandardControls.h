@@ -16,7 +16,6 @@ inline constexpr PanelSpec Panels[] = {
     {DigitPanel, 2, 1},        {OperatorPanel, 2, 2},    {FunctionPanel, 2, 3},
 };
 
-inline constexpr auto Button = ControlKind::Button;
 inline constexpr auto TextBox = ControlKind::TextBox;
 
 // name, index, kind, caption, caption message, name message, help message, {panel, row, column, spans},
@@ -29,16 +28,16 @@ inline constexpr auto Controls =
          shared::CorrectionButtons(ClearPanel), shared::ClearButton(ClearPanel),
          shared::MemoryButtons(MemoryPanel), shared::UpperDigits(DigitPanel),
          std::to_array<ControlSpec>({
-             {"cmdDigit", 0, Button, "0", 0, 0, 1066, {DigitPanel, 3, 0, 1, 2}},
-             {"cmdDecimal", NoIndex, Button, "", 1081, 1073, 1074, {DigitPanel, 3, 2}},
+             shared::Digit(0, {DigitPanel, 3, 0, 1, 2}),
+             At(Buttons::Point, {DigitPanel, 3, 2}),
          }),
          shared::OperatorButtons(OperatorPanel),
          std::to_array<ControlSpec>({
-             {"cmdUOp", 0, Button, "sqrt", 0, 1000, 1001, {FunctionPanel, 0, 0}},
-             {"cmdUOp", 3, Button, "%", 0, 1079, 1080, {FunctionPanel, 0, 1}},
-             {"cmdUOp", 2, Button, "1/x", 0, 1004, 1005, {FunctionPanel, 1, 0}},
-             {"cmdUOp", 1, Button, "+/-", 0, 1002, 1003, {FunctionPanel, 1, 1}},
-             {"cmdEqual", NoIndex, Button, "=", 0, 0, 1072, {FunctionPanel, 2, 0, 2, 2}, DefaultButton},
+             At(Buttons::Sqrt, {FunctionPanel, 0, 0}),
+             At(Buttons::Percent, {FunctionPanel, 0, 1}),
+             At(Buttons::Reciprocal, {FunctionPanel, 1, 0}),
+             At(Buttons::Sign, {FunctionPanel, 1, 1}),
+             At(Buttons::Equals, {FunctionPanel, 2, 0, 2, 2}, DefaultButton),
          }));
 
 }  // namespace qves::standard

@@ -1,14 +1,15 @@
 #include "views/standard/StandardEngine.h"
 
 #include "formulas/Numbers.h"
-#include "views/standard/StandardOperators.h"
+#include "views/SharedOperators.h"
+#include "views/standard/TapeShapes.h"
 
 namespace qves {
 namespace {
 
 /// What the tape shows of a calculation before its result.
 std::string BeginTapeLine(double first, double second, std::string_view op) {
-  const OperatorRow* row = FindOperator(standard::Operators, op);
+  const OperatorRow* row = FindOperator(shared::Operators, op);
   const std::string operand = NumberToText(second);
   if (!row || row->Operands == Arity::Binary)
     return NumberToText(first) + " " + std::string(op) + " " + operand + " = ";
@@ -21,7 +22,7 @@ std::string BeginTapeLine(double first, double second, std::string_view op) {
 
 StandardEngine::StandardEngine(StandardState& state, EngineHost& host, TapeHost& tapeHost,
                                Announcer& announcer)
-    : EntryEngine(state, standard::Operators, host, announcer), TapeShown(tapeHost), Now(state) {}
+    : EntryEngine(state, shared::Operators, host, announcer), TapeShown(tapeHost), Now(state) {}
 
 void StandardEngine::Evaluate(double first, double& second, std::string_view op) {
   Now.TapeLine = BeginTapeLine(first, second, op);
@@ -33,7 +34,7 @@ void StandardEngine::Evaluate(double first, double& second, std::string_view op)
 
 /// The clear-all key empties the tape, too; what else clears keeps it.
 void StandardEngine::Memory(const PressedKey& key) {
-  if (key.Caption == "C") {
+  if (key.Caption == Buttons::ClearAll.Caption) {
     Now.Tape.Clear();
     TapeShown.ClearTape();
   }

@@ -11,7 +11,7 @@ namespace qves::standard {
 using enum ShiftRule;
 using enum KeyAction;
 
-// codes from and to, shift rule, layout character, action, control, index, index from the code
+// codes from and to, shift rule, layout character, action, control, code of index 0
 inline constexpr auto KeyMap =
     Join(shared::FirstKeys,
          std::to_array<KeyRow>({
@@ -21,10 +21,10 @@ inline constexpr auto KeyMap =
          shared::DisplayKey, shared::MemoryKeys, shared::DigitKeys, shared::PointKeys, shared::OperatorKeys,
          std::to_array<KeyRow>({
              // The top row's 2 and 5 whatever the layout, while the operators above follow it: wanted so.
-             {'2', '2', Shift, 0, Click, "cmdUOp", 0},
-             {'5', '5', Shift, 0, Click, "cmdUOp", 3},
-             {'M', 'M', Any, 0, Click, "cmdUOp", 1},
-             {'R', 'R', Any, 0, Click, "cmdUOp", 2},
+             {'2', '2', Shift, 0, Click, Buttons::Sqrt},
+             {'5', '5', Shift, 0, Click, Buttons::Percent},
+             {'M', 'M', Any, 0, Click, Buttons::Sign},
+             {'R', 'R', Any, 0, Click, Buttons::Reciprocal},
          }),
          shared::CorrectionKeys);
 

@@ -10,6 +10,8 @@ constexpr ClickRow Clicks[] = {
     {"cmdMemory", Do<StandardEngine, &StandardEngine::Memory>, FocusRule::Moves},
 };
 
+static_assert(AllStandIn(standard::Controls, standard::KeyMap));
+
 constexpr ViewTables StandardTables = {
     .FormName = "frmStandard",
     .Controls = standard::Controls,

@@ -5,11 +5,11 @@
 
 #include "formulas/Numbers.h"
 #include "model/ArithmeticFault.h"
+#include "text/Text.h"
 
 namespace qves {
 namespace {
 
-constexpr std::string_view ByteOrderMark = "\xEF\xBB\xBF";
 constexpr std::string_view LineEnds = "\r\n";
 constexpr std::string_view Gaps = " \t\r\n";
 constexpr std::string_view FieldEnds = " \t\r\n,";
@@ -17,9 +17,7 @@ constexpr std::size_t LongestQuoted = 40;
 
 class FreeFormatReader {
  public:
-  explicit FreeFormatReader(std::string_view text) : Rest(text) {
-    if (Rest.starts_with(ByteOrderMark)) Rest.remove_prefix(ByteOrderMark.size());
-  }
+  explicit FreeFormatReader(std::string_view text) : Rest(WithoutByteOrderMark(text)) {}
 
   /// The next field, "" for an empty one before a comma; nothing at the end.
   std::optional<std::string_view> NextField() {

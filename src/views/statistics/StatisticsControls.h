@@ -6,6 +6,7 @@
 #include "model/Form.h"
 #include "model/Join.h"
 #include "views/SharedControls.h"
+#include "views/statistics/StatisticsButtons.h"
 
 namespace qves::statistics {
 
@@ -16,7 +17,6 @@ inline constexpr PanelSpec Panels[] = {
     {ClearPanel, 1, 2},        {DigitPanel, 2, 1},      {DataPanel, 2, 2},
 };
 
-inline constexpr auto Button = ControlKind::Button;
 inline constexpr auto CheckBox = ControlKind::CheckBox;
 inline constexpr auto ListView = ControlKind::ListView;
 
@@ -43,16 +43,16 @@ inline constexpr auto Controls = Join(
     }),
     shared::CorrectionButtons(ClearPanel), shared::UpperDigits(DigitPanel),
     std::to_array<ControlSpec>({
-        {"cmdDigit", 0, Button, "0", 0, 0, 1066, {DigitPanel, 3, 0}},
-        {"cmdDecimal", NoIndex, Button, "", 1081, 1073, 1074, {DigitPanel, 3, 1}},
-        {"cmdSign", NoIndex, Button, "+/-", 0, 1002, 1003, {DigitPanel, 3, 2}},
+        shared::Digit(0, {DigitPanel, 3, 0}),
+        At(Buttons::Point, {DigitPanel, 3, 1}),
+        At(Buttons::Sign, {DigitPanel, 3, 2}),
 
-        {"cmdAdd", NoIndex, Button, "", 1400, 0, 1402, {DataPanel, 0, 0, 1, 2}, DefaultButton},
-        {"cmdRemove", NoIndex, Button, "", 1403, 0, 1405, {DataPanel, 1, 0}},
-        {"cmdClear", NoIndex, Button, "", 1406, 0, 1408, {DataPanel, 1, 1}},
-        {"cmdRun", NoIndex, Button, "", 1409, 0, 1410, {DataPanel, 2, 0, 1, 2}},
-        {"cmdStat", 0, Button, "df", 0, 1441, 1443, {DataPanel, 3, 0}},
-        {"cmdStat", 1, Button, "alpha", 0, 1442, 1444, {DataPanel, 3, 1}},
+        At(Buttons::AddPoint, {DataPanel, 0, 0, 1, 2}, DefaultButton),
+        At(Buttons::RemovePoint, {DataPanel, 1, 0}),
+        At(Buttons::ClearList, {DataPanel, 1, 1}),
+        At(Buttons::Run, {DataPanel, 2, 0, 1, 2}),
+        At(Buttons::DegreesOfFreedom, {DataPanel, 3, 0}),
+        At(Buttons::Alpha, {DataPanel, 3, 1}),
     }));
 
 }  // namespace qves::statistics

@@ -3,13 +3,14 @@
 #include "formulas/Arithmetic.h"
 #include "model/ArithmeticFault.h"
 #include "services/MessageIds.h"
+#include "views/statistics/StatisticsButtons.h"
 
 namespace qves {
 namespace {
 
 using enum ActionKind;
 
-constexpr OperatorRow SignOperator[] = {{"+/-", Arity::Unary, ChangeSign}};
+constexpr OperatorRow SignOperator[] = {{Buttons::Sign.Caption, Arity::Unary, ChangeSign}};
 
 }  // namespace
 
@@ -58,9 +59,9 @@ void StatisticsEngine::SetParameter(const PressedKey& key) {
     Now.ErrorState = false;
     Now.EntryText = "0";
     Show();
-    return Says.SayMessage(ClearEntryMessage);
+    return Says.SayMessage(Buttons::ClearEntry.NameMessage);
   }
-  const bool isAlpha = key.Caption == "alpha";
+  const bool isAlpha = key.Caption == statistics::Buttons::Alpha.Caption;
   (isAlpha ? Now.Alpha : Now.DegreesOfFreedom) = ValueOf(DisplayText());
   Says.SayMessage(isAlpha ? AlphaSetMessage : DegreesSetMessage, DisplayText());
   Now.LastAction = Equal;

@@ -5,13 +5,14 @@
 
 #include "model/Join.h"
 #include "views/SharedKeys.h"
+#include "views/statistics/StatisticsButtons.h"
 
 namespace qves::statistics {
 
 using enum ShiftRule;
 using enum KeyAction;
 
-// codes from and to, shift rule, layout character, action, control, index, index from the code
+// codes from and to, shift rule, layout character, action, control, code of index 0
 inline constexpr auto KeyMap = Join(shared::FirstKeys, shared::DisplayKey,
                                     std::to_array<KeyRow>({
                                         {'D', 'D', ShiftRule::Control, 0, Focus, "lvwData"},
@@ -21,17 +22,17 @@ inline constexpr auto KeyMap = Join(shared::FirstKeys, shared::DisplayKey,
                                     }),
                                     shared::DigitKeys,
                                     std::to_array<KeyRow>({
-                                        {'A', 'A', Any, 0, Click, "cmdAdd"},
-                                        {'R', 'R', Any, 0, Click, "cmdRemove"},
-                                        {'L', 'L', Any, 0, Click, "cmdClear"},
-                                        {'U', 'U', Any, 0, Click, "cmdRun"},
-                                        {'D', 'D', Any, 0, Click, "cmdStat", 0},
-                                        {'P', 'P', Any, 0, Click, "cmdStat", 1},
+                                        {'A', 'A', Any, 0, Click, Buttons::AddPoint},
+                                        {'R', 'R', Any, 0, Click, Buttons::RemovePoint},
+                                        {'L', 'L', Any, 0, Click, Buttons::ClearList},
+                                        {'U', 'U', Any, 0, Click, Buttons::Run},
+                                        {'D', 'D', Any, 0, Click, Buttons::DegreesOfFreedom},
+                                        {'P', 'P', Any, 0, Click, Buttons::Alpha},
                                     }),
                                     shared::PointKeys,
                                     std::to_array<KeyRow>({
-                                        {'M', 'M', Any, 0, Click, "cmdSign"},
-                                        {KeyEscape, KeyEscape, Any, 0, Click, "cmdCE"},
+                                        {'M', 'M', Any, 0, Click, Buttons::Sign},
+                                        {KeyEscape, KeyEscape, Any, 0, Click, Buttons::ClearEntry},
                                     }),
                                     shared::CorrectionKeys);
 

@@ -27,6 +27,8 @@ constexpr ClickRow Clicks[] = {
     {"cmdStat", Do<StatisticsEngine, &StatisticsEngine::SetParameter>, FocusRule::Stays},
 };
 
+static_assert(AllStandIn(statistics::Controls, statistics::KeyMap));
+
 constexpr ViewTables StatisticsTables = {
     .FormName = "frmStatistics",
     .Controls = statistics::Controls,
@@ -57,31 +59,28 @@ void frmStatistics::Restore(const StatisticsState& calculation) {
   for (std::size_t i = 0; i < before.size(); ++i) ItemsReplaced(*Lists[i], before[i]);
 }
 
-std::string frmStatistics::Announcement(const Control& control) {
+SpokenText frmStatistics::Announcement(const Control& control) {
   const auto* list = dynamic_cast<const ListView*>(&control);
   if (!list) return View::Announcement(control);
   const DataList which = list == Lists[0] ? DataList::Main : DataList::Second;
-  return list->SpokenName + ", " +
-         (list->ItemCount() > 0 ? ChosenWords(*list) : Services_.Messages.GetMessage(WordsOf(which).Empty));
+  const std::string name = list->SpokenName + ", ";
+  if (list->ItemCount() == 0) return {name + Services_.Messages.GetMessage(WordsOf(which).Empty)};
+  SpokenText words = ChosenWords(*list);
+  words.Text.insert(0, name);
+  words.Value.Start += name.size();
+  return words;
 }
 
 /// The item, and its place in the list where the user wants to hear that.
-std::string frmStatistics::ChosenWords(const ListControl& list) const {
-  if (list.ListIndex == NoItem) return "";
+SpokenText frmStatistics::ChosenWords(const ListControl& list) const {
+  if (list.ListIndex == NoItem) return {};
   const std::string item = Services_.Speech.SpeechFormatNumber(list.ItemText(list.ListIndex));
+  SpokenText words{item, {0, item.size()}};
   const std::string place = Services_.Sounds.VerbosityAnnounce(ListPositionEntry, false);
-  if (place.empty()) return item;
-  return item + " " +
-         FillPlaceholders(place, {std::to_string(list.ListIndex + 1), std::to_string(list.ItemCount())});
-}
-
-/// The chosen point; its place in the list may follow.
-ValueSpan frmStatistics::ValueIn(const Control& control, std::string_view announcement) const {
-  const auto* list = dynamic_cast<const ListView*>(&control);
-  if (!list || list->ListIndex == NoItem) return View::ValueIn(control, announcement);
-  const std::string item = Services_.Speech.SpeechFormatNumber(list->ItemText(list->ListIndex));
-  const std::string name = list->SpokenName + ", ";
-  return {announcement.starts_with(name) ? name.size() : 0, item.size()};
+  if (!place.empty())
+    words.Text +=
+        " " + FillPlaceholders(place, {std::to_string(list.ListIndex + 1), std::to_string(list.ItemCount())});
+  return words;
 }
 
 void frmStatistics::OnListEnd(ListControl&, int step) {

@@ -15,9 +15,8 @@ class frmStatistics : public StateView<StatisticsState>, private StatisticsHost 
  private:
   // View
   void Restore(const StatisticsState& calculation) override;
-  std::string Announcement(const Control& control) override;
-  ValueSpan ValueIn(const Control& control, std::string_view announcement) const override;
-  std::string ChosenWords(const ListControl& list) const override;
+  SpokenText Announcement(const Control& control) override;
+  SpokenText ChosenWords(const ListControl& list) const override;
   void OnListEnd(ListControl& list, int step) override;
   void OnMenu(int id) override;
 

@@ -7,15 +7,21 @@
 
 namespace qves {
 
-/// True when the bytes are well-formed UTF-8 (no surrogates, no overlong forms).
-bool IsUtf8(std::string_view bytes);
-
 /// Calls `visit` with the number (from 1) and the text of each line, without its LF or CR LF and without a
 /// byte-order mark at the start of the first.
 void ForEachLine(std::string_view text, const std::function<void(int, std::string_view)>& visit);
 
+/// The text without a byte-order mark at its start.
+std::string_view WithoutByteOrderMark(std::string_view text);
+
+/// The text without those characters at its ends.
+std::string_view Trimmed(std::string_view text, std::string_view characters = " ");
+
 /// The text with every occurrence of `from` (not empty) replaced by `to`.
 std::string ReplaceAll(std::string_view text, std::string_view from, std::string_view to);
+
+/// The text with its ASCII letters small.
+std::string Lower(std::string_view text);
 
 /// The text with a "?" for every byte that is no well-formed UTF-8 and for every control character but those
 /// kept.
