@@ -130,8 +130,8 @@ void EntryEngine::Calculate(double first, double& second, std::string_view op) {
   if (op.empty()) return;
   try {
     Evaluate(first, second, op);
-  } catch (const ArithmeticFault&) {
-    Fail();
+  } catch (const ArithmeticFault& fault) {
+    Fail(fault.Reason());
   }
 }
 
@@ -155,7 +155,7 @@ std::optional<double> EntryEngine::ReadNumber(std::string_view text) const {
 
 double EntryEngine::ValueOf(std::string_view text) const {
   const auto value = ReadNumber(text);
-  if (!value) throw ArithmeticFault("the text is no number");
+  if (!value) throw ArithmeticFault(FaultReason::NotANumber, "the text is no number");
   return *value;
 }
 
@@ -163,15 +163,16 @@ bool EntryEngine::OperatorCompletesPending() const {
   return Now.LastAction != Biop;
 }
 
-void EntryEngine::Fail() {
+void EntryEngine::Fail(FaultReason reason) {
   ClearAll();
   Now.ErrorState = true;
+  Now.Reason = reason;
   Now.EntryText = "E";
   Show();
 }
 
-void EntryEngine::FailAloud() {
-  Fail();
+void EntryEngine::FailAloud(FaultReason reason) {
+  Fail(reason);
   Says.SayError();
 }
 

@@ -60,9 +60,9 @@ class EntryEngine {
   /// evaluation ends in the error state.
   void Calculate(double first, double& second, std::string_view op);
   /// The one error state: all cleared and "E" shown. It is a state of its own, not the text "E".
-  void Fail();
+  void Fail(FaultReason reason);
   /// A fault outside an evaluation: the error state, and it is said.
-  void FailAloud();
+  void FailAloud(FaultReason reason);
 
   /// Says what the display shows, after what has been said.
   void SayValue() { SayResult(""); }

@@ -6,6 +6,7 @@
 
 #include "engine/ActionKind.h"
 #include "engine/MemoryRegister.h"
+#include "model/ArithmeticFault.h"
 #include "model/StateField.h"
 #include "voicing/VoicedText.h"
 
@@ -23,6 +24,7 @@ struct EntryState {
   std::string CurrentOp;  ///< the operator pressed last
   ActionKind LastAction = ActionKind::None;
   bool ErrorState = false;
+  FaultReason Reason = FaultReason::NoSolution;  ///< of the error state
   /// By a digit, a point, a clear entry, a recall or an inner result after the pending operator.
   bool SecondOperandBegun = false;
   MemoryRegister MemoryCell;

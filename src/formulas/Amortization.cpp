@@ -40,9 +40,9 @@ Real OwedTogether(Real rate, Real periods, Real payments) {
 }  // namespace
 
 AmortizedPart Amortize(double rate, double periods, double loan, int payments) {
-  if (payments < 0) throw ArithmeticFault("a negative number of payments");
+  if (payments < 0) throw ArithmeticFault(FaultReason::OutOfRange, "a negative number of payments");
   if (payments == 0) return {};
-  if (payments > periods) throw ArithmeticFault("more payments than the loan has");
+  if (payments > periods) throw ArithmeticFault(FaultReason::OutOfRange, "more payments than the loan has");
   return {Checked(loan * RepaidShare(rate, periods, payments)),
           Checked(Real{loan} * rate * OwedTogether(rate, periods, payments))};
 }

@@ -49,7 +49,7 @@ double rtcFV(double rate, double periods, double payment, double presentValue, i
 }
 
 double rtcPMT(double rate, double periods, double presentValue, double futureValue, int timing) {
-  if (periods == 0) throw ArithmeticFault("no periods");
+  if (periods == 0) throw ArithmeticFault(FaultReason::NoSolution, "no periods");
   const Real fraction = rate, length = periods;
   const Real payment =
       -(presentValue / PaymentsDiscounted(fraction, length) + futureValue / PaymentsGrown(fraction, length));
@@ -60,7 +60,7 @@ double rtcNPer(double rate, double payment, double presentValue, double futureVa
   const Real fraction = rate;
   const Real sums = Real{presentValue} + futureValue;
   if (rate == 0) return Checked(-sums / payment);
-  if (rate <= -1) throw ArithmeticFault("a rate of -100 % or less");
+  if (rate <= -1) throw ArithmeticFault(FaultReason::NoSolution, "a rate of -100 % or less");
   const Real due = Due(rate, payment, timing);
   const Real start = due + presentValue * fraction;
   const Real growth = -fraction * sums / start;
@@ -71,8 +71,9 @@ double rtcNPer(double rate, double payment, double presentValue, double futureVa
 }
 
 Real rtcRate(double periods, double payment, double presentValue, double futureValue, int timing) {
-  if (!(periods > 0)) throw ArithmeticFault("no periods");
-  if (payment == 0 && presentValue == 0 && futureValue == 0) throw ArithmeticFault("no sums");
+  if (!(periods > 0)) throw ArithmeticFault(FaultReason::NoSolution, "no periods");
+  if (payment == 0 && presentValue == 0 && futureValue == 0)
+    throw ArithmeticFault(FaultReason::NoSolution, "no sums");
   return NearestRate(
       [&](double rate) { return Balance(rate, periods, payment, presentValue, futureValue, timing); },
       [&](Real rate) { return Balance(rate, Real{periods}, payment, presentValue, futureValue, timing); });

@@ -20,7 +20,7 @@ double Multiply(double first, double second) {
 }
 
 double Divide(double first, double second) {
-  if (second == 0) throw ArithmeticFault("division by zero");
+  if (second == 0) throw ArithmeticFault(FaultReason::DivisionByZero, "division by zero");
   return Checked(first / second);
 }
 
@@ -37,7 +37,7 @@ double Reciprocal(double, double second) {
 }
 
 double SquareRoot(double, double second) {
-  if (second < 0) throw ArithmeticFault("square root of a negative number");
+  if (second < 0) throw ArithmeticFault(FaultReason::NegativeRoot, "square root of a negative number");
   return std::sqrt(second);
 }
 

@@ -24,7 +24,7 @@ double BitNot(double, double x) {
 double Modulo(double first, double second) {
   const auto dividend = ToInt32(first);
   const auto divisor = ToInt32(second);
-  if (divisor == 0) throw ArithmeticFault("remainder of a division by zero");
+  if (divisor == 0) throw ArithmeticFault(FaultReason::DivisionByZero, "remainder of a division by zero");
   return divisor == -1 ? 0 : dividend % divisor;  // the smallest integer by -1 would overflow
 }
 

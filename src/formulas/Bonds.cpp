@@ -50,12 +50,13 @@ double AccruedInterest(const Bond& bond) {
 }
 
 double BondPrice(const Bond& bond, double yield) {
-  if (bond.Coupons.Count <= 0) throw ArithmeticFault("no coupon is left");
+  if (bond.Coupons.Count <= 0) throw ArithmeticFault(FaultReason::NoSolution, "no coupon is left");
   return Checked(FullPrice(bond, yield) - Accrued(bond));
 }
 
 double BondYield(const Bond& bond, double price) {
-  if (BondPrice(bond, 0) < price) throw ArithmeticFault("a price that no yield reaches");
+  if (BondPrice(bond, 0) < price)
+    throw ArithmeticFault(FaultReason::NoSolution, "a price that no yield reaches");
   double high = 1;
   while (BondPrice(bond, high) > price) high = Checked(2 * high);
   return Halve([&](double yield) { return BondPrice(bond, yield) - price; }, high);

@@ -69,7 +69,7 @@ std::vector<double> Scaled(std::span<const double> flows) {
 
 double rtcNPV(double rate, double first, std::span<const double> flows) {
   const Real growth = Real{1} + rate;
-  if (growth == 0) throw ArithmeticFault("a rate of -100 %");
+  if (growth == 0) throw ArithmeticFault(FaultReason::NoSolution, "a rate of -100 %");
   Real sum = 0;
   for (std::size_t i = flows.size(); i-- > 0;) sum = (sum + flows[i]) / growth;
   return Checked(sum + first);
@@ -79,7 +79,7 @@ Real rtcIRR(std::span<const double> flows) {
   const auto received = [](double flow) { return flow > 0; };
   const auto paid = [](double flow) { return flow < 0; };
   if (std::none_of(flows.begin(), flows.end(), received) || std::none_of(flows.begin(), flows.end(), paid))
-    throw ArithmeticFault("flows of one sign");
+    throw ArithmeticFault(FaultReason::NoSolution, "flows of one sign");
   const std::vector<double> scaled = Scaled(flows);
   return NearestRate([&](double rate) { return Worth(rate, scaled); },
                      [&](Real rate) { return ExactWorth(rate, scaled); });

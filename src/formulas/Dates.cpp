@@ -26,7 +26,8 @@ calendar::sys_days ToCalendar(DayNumber day) {
 
 DayNumber Number(calendar::year_month_day date) {
   const int year = static_cast<int>(date.year());
-  if (!date.ok() || year < FirstYear || year > LastYear) throw ArithmeticFault("no such date");
+  if (!date.ok() || year < FirstYear || year > LastYear)
+    throw ArithmeticFault(FaultReason::NoSuchDate, "no such date");
   return static_cast<DayNumber>((calendar::sys_days(date) - DayZero).count());
 }
 
@@ -111,7 +112,7 @@ DayNumber ParseDateNumber(std::string_view text, const DateNames& names) {
       return ToDayNumber({static_cast<int>(*year), static_cast<int>(*month), static_cast<int>(*day)});
   }
   if (const auto day = ParseLongDate(text, names)) return *day;
-  throw ArithmeticFault("the text is no date");
+  throw ArithmeticFault(FaultReason::NoSuchDate, "the text is no date");
 }
 
 std::string FormatLongDate(DayNumber day, const DateNames& names) {

@@ -22,7 +22,8 @@ constexpr std::size_t LongestBinary = 32;
 std::optional<std::uint32_t> ReadDigits(std::string_view text, int radix) {
   std::uint32_t value = 0;
   const std::errc error = ReadInteger(text, value, radix);
-  if (error == std::errc::result_out_of_range) throw ArithmeticFault("the number has more than 32 bits");
+  if (error == std::errc::result_out_of_range)
+    throw ArithmeticFault(FaultReason::OutOfBase, "the number has more than 32 bits");
   return error == std::errc() ? std::optional(value) : std::nullopt;
 }
 
@@ -32,7 +33,7 @@ double Signed(std::uint32_t value, bool isShort) {
 
 std::optional<double> ReadHexadecimal(std::string_view text) {
   if (text.size() > LongestHex && text.find_first_not_of(HexDigits) == std::string_view::npos)
-    throw ArithmeticFault("the number has more than eight digits");
+    throw ArithmeticFault(FaultReason::OutOfBase, "the number has more than eight digits");
   const auto value = ReadDigits(text, 16);
   if (!value) return std::nullopt;
   return Signed(*value, text.size() <= LongestShortHex);
@@ -87,7 +88,7 @@ std::optional<double> ReadInBase(int base, std::string_view text) {
 
 double BaseTextToValue(int base, std::string_view text) {
   const auto value = ReadInBase(base, text);
-  if (!value) throw ArithmeticFault("the text is no number in its base");
+  if (!value) throw ArithmeticFault(FaultReason::NotANumber, "the text is no number in its base");
   return *value;
 }
 

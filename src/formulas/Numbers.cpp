@@ -67,10 +67,10 @@ bool IsHuge(const NumberParts& parts) {
 }
 
 template <class Integer>
-Integer ToInteger(double value) {
+Integer ToInteger(double value, FaultReason reason) {
   const double rounded = std::nearbyint(value);
   if (!(rounded >= std::numeric_limits<Integer>::min() && rounded <= std::numeric_limits<Integer>::max()))
-    throw ArithmeticFault("the number is outside its integer range");
+    throw ArithmeticFault(reason, "the number is outside its integer range");
   return static_cast<Integer>(rounded);
 }
 
@@ -78,7 +78,8 @@ Integer ToInteger(double value) {
 
 double Checked(Real value) {
   const auto nearest = static_cast<double>(value);
-  if (!std::isfinite(nearest)) throw ArithmeticFault("the result is not finite");
+  if (std::isnan(nearest)) throw ArithmeticFault(FaultReason::NotDefined, "the result is no number");
+  if (!std::isfinite(nearest)) throw ArithmeticFault(FaultReason::TooLarge, "the result is not finite");
   return nearest == 0 ? 0 : nearest;
 }
 
@@ -104,18 +105,18 @@ std::optional<double> ParseNumber(std::string_view text) {
   const char* end = begin + number.size();
   const auto [stop, error] = std::from_chars(begin, end, value);
   if (error == std::errc::result_out_of_range) {
-    if (IsHuge(*parts)) throw ArithmeticFault("the number is too large");
+    if (IsHuge(*parts)) throw ArithmeticFault(FaultReason::TooLarge, "the number is too large");
     value = 0;
   }
   return negative && value != 0 ? -value : value;
 }
 
 std::int32_t ToInt32(double value) {
-  return ToInteger<std::int32_t>(value);
+  return ToInteger<std::int32_t>(value, FaultReason::OutOfBase);
 }
 
 std::int16_t ToInt16(double value) {
-  return ToInteger<std::int16_t>(value);
+  return ToInteger<std::int16_t>(value, FaultReason::OutOfRange);
 }
 
 bool IsBeyondADouble(std::string_view entry) {
@@ -134,7 +135,7 @@ bool IsBeyondADouble(std::string_view entry) {
 
 double TextToNumber(std::string_view text) {
   const auto value = ParseNumber(text);
-  if (!value) throw ArithmeticFault("the text is no number");
+  if (!value) throw ArithmeticFault(FaultReason::NotANumber, "the text is no number");
   return *value;
 }
 

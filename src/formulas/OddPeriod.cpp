@@ -29,7 +29,7 @@ double OddPeriodPV(double rate, const OddPeriodProblem& p) {
 
 Real SolveRateOdd(const OddPeriodProblem& p) {
   if (p.Payment == 0) {
-    if (p.PresentValue == 0) throw ArithmeticFault("no sum that grows");
+    if (p.PresentValue == 0) throw ArithmeticFault(FaultReason::NoSolution, "no sum that grows");
     const Real gain = -(Real{p.FutureValue} + p.PresentValue) / p.PresentValue;
     return GrowthLessOne(gain, 1 / (p.WholePeriods + Real{p.Fraction}));
   }

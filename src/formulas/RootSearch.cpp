@@ -129,7 +129,7 @@ double Search(const Function& value) {
     Walk& next = up.AtEnd() || (!down.AtEnd() && down.Reach() <= up.Reach()) ? down : up;
     if (const auto root = next.Step()) return *root;
   }
-  throw ArithmeticFault("no rate of return");
+  throw ArithmeticFault(FaultReason::NoSolution, "no rate of return");
 }
 
 }  // namespace

@@ -7,6 +7,13 @@
 #include "model/ArithmeticFault.h"
 
 namespace qves {
+namespace {
+
+void CheckLogarithm(double x) {
+  if (!(x > 0)) throw ArithmeticFault(FaultReason::NoLogarithm, "logarithm of zero or less");
+}
+
+}  // namespace
 
 double Square(double, double x) {
   return Multiply(x, x);
@@ -17,11 +24,14 @@ double Cube(double, double x) {
 }
 
 double CubeRoot(double, double x) {
-  if (x < 0) throw ArithmeticFault("cube root of a negative number");
+  if (x < 0) throw ArithmeticFault(FaultReason::NegativeRoot, "cube root of a negative number");
   return std::cbrt(x);
 }
 
 double Power(double base, double exponent) {
+  if (base == 0 && exponent < 0) throw ArithmeticFault(FaultReason::DivisionByZero, "negative power of zero");
+  if (base < 0 && exponent != std::trunc(exponent))
+    throw ArithmeticFault(FaultReason::NegativeRoot, "broken power of a negative number");
   return Checked(std::pow(base, exponent));
 }
 
@@ -30,10 +40,12 @@ double Root(double radicand, double degree) {
 }
 
 double NaturalLog(double, double x) {
+  CheckLogarithm(x);
   return Checked(std::log(x));
 }
 
 double CommonLog(double, double x) {
+  CheckLogarithm(x);
   return Checked(std::log10(x));
 }
 
@@ -46,7 +58,7 @@ double PowerOfTen(double, double x) {
 }
 
 double Factorial(double, double x) {
-  if (x < 0) throw ArithmeticFault("factorial of a negative number");
+  if (x < 0) throw ArithmeticFault(FaultReason::NegativeFactorial, "factorial of a negative number");
   const int count = ToInt16(std::trunc(x));
   // Not in doubles: 170 roundings would show in the last digit.
   Real product = 1;

@@ -69,7 +69,7 @@ bool IsTrigFunction(std::string_view op) {
 
 double TrigFunction(std::string_view op, double x, const TrigModes& modes) {
   const TrigRow* row = Find(op);
-  if (!row) throw ArithmeticFault("no such function");
+  if (!row) throw ArithmeticFault(FaultReason::NotANumber, "no such function");
   const double result = Compute(*row, x, modes);
   const double whole = std::trunc(result);
   return Checked(std::fabs(result - whole) < SnapDistance ? whole : result);

@@ -24,8 +24,8 @@ template <class Handler>
 void Form::Guarded(Handler handler) {
   try {
     handler();
-  } catch (const ArithmeticFault&) {
-    OnFault();
+  } catch (const ArithmeticFault& fault) {
+    OnFault(fault);
   }
 }
 

@@ -14,6 +14,7 @@
 
 namespace qves {
 
+class ArithmeticFault;
 class Form;
 
 /// Told what changed on a form, so that a shell can repaint it.
@@ -131,7 +132,7 @@ class Form {
   virtual KeyUse OnControlKey(Control&, const KeyEvent&) { return KeyUse::Unused; }
   virtual void OnMenu(int /*id*/) {}
   /// An arithmetic fault of a handler.
-  virtual void OnFault() {}
+  virtual void OnFault(const ArithmeticFault&) {}
   /// The control's handler has acted, or has ended in a fault.
   virtual void OnActed(Control&) {}
 

@@ -6,7 +6,7 @@
 #include <cstdio>
 #include <optional>
 
-#include "services/Text.h"
+#include "text/Text.h"
 
 namespace qves {
 namespace {

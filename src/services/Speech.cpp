@@ -74,7 +74,7 @@ void SpeechService::ShutDownSpeech() {
   StopSpeech();
   EndTurn();  // so that it is silent before the wait
   const std::int64_t end = std::int64_t{Outside.Clock.TickCount()} + ShutDownWait;
-  if (end > std::numeric_limits<std::int32_t>::max()) throw ArithmeticFault("the tick count overflows");
+  if (end > std::numeric_limits<std::int32_t>::max()) throw ArithmeticFault(FaultReason::OutOfRange, "the tick count overflows");
   const auto deadline = static_cast<std::int32_t>(end);
   if (PrimarySpeaker) WaitWhileBusy(*PrimarySpeaker, deadline);
   PrimarySpeaker = nullptr;

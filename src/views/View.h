@@ -82,7 +82,7 @@ class View : public Form, protected EngineHost {
   void OnChoose(ListControl& list) override;
   void OnGotFocus(Control& control) override;
   KeyUse OnControlKey(Control& control, const KeyEvent& event) override;
-  void OnFault() override { Engine->FailAloud(); }
+  void OnFault(const ArithmeticFault& fault) override { Engine->FailAloud(fault.Reason()); }
   void OnActed(Control& control) override { NoteStep(control.SpokenName); }
 
   void AddControls();

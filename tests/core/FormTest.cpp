@@ -27,10 +27,10 @@ struct NotingForm : Form {
   }
   void OnClick(Control& control) override {
     Notes += "click " + control.Caption + ". ";
-    if (control.Caption == "fault") throw ArithmeticFault("wanted");
+    if (control.Caption == "fault") throw ArithmeticFault(FaultReason::NoSolution, "wanted");
   }
   void OnGotFocus(Control& control) override { Notes += "focus " + control.Caption + ". "; }
-  void OnFault() override { Notes += "caught. "; }
+  void OnFault(const ArithmeticFault&) override { Notes += "caught. "; }
 };
 
 TEST(Form, ClickIsWhereDisabledControlsAndFaultsEnd) {

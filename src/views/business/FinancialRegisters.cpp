@@ -18,16 +18,16 @@ void AppendFlow(FinancialRegisters& registers, double flow) {
 std::optional<std::size_t> FindFlow(const FinancialRegisters& registers) {
   if (!(registers.J > 0 && registers.J <= registers.FlowCount())) return std::nullopt;
   const auto slot = ToInt16(registers.J - 1);
-  if (slot < 0) throw ArithmeticFault("no flow has that index");
+  if (slot < 0) throw ArithmeticFault(FaultReason::NoSuchFlow, "no flow has that index");
   return static_cast<std::size_t>(slot);
 }
 
 void RepeatLastFlow(FinancialRegisters& registers, double count) {
   const std::int16_t before = registers.FlowCount();
-  if (before == 0) throw ArithmeticFault("no flow to repeat");
+  if (before == 0) throw ArithmeticFault(FaultReason::NoSuchFlow, "no flow to repeat");
   const std::int16_t after = ToInt16(before + count - 1);
   const std::int16_t group = ToInt16(count);
-  if (after < 0) throw ArithmeticFault("fewer flows than none");
+  if (after < 0) throw ArithmeticFault(FaultReason::NoSuchFlow, "fewer flows than none");
   const double last = registers.CashFlows[static_cast<std::size_t>(before - 1)];
   registers.CashFlows.Shorten(static_cast<std::size_t>(std::min(before, after)));
   std::vector<double> added(static_cast<std::size_t>(std::max(after - before, 0)), last);

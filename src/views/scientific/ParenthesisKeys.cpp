@@ -19,7 +19,8 @@ void ScientificEngine::LeftParen(const PressedKey& key) {
   Says.Say(key.SpokenName);
   if (Now.ErrorState || Now.LastAction == RParen || Now.LastAction == Uop || Now.LastAction == Equal)
     ClearAll();
-  if (Now.ParenDepth == MostOpenGroups) throw ArithmeticFault("too many open parentheses");
+  if (Now.ParenDepth == MostOpenGroups)
+    throw ArithmeticFault(FaultReason::TooManyParentheses, "too many open parentheses");
   EndExponent();
   Now.DecimalEntered = false;
   const OuterOperand outer = Now.ParenJustOpened ? BeginInnerGroup() : BeginGroup();

@@ -65,7 +65,8 @@ double ScientificEngine::ComputeTrig(std::string_view op, double x) {
   Modes.ClearInverse();
   Modes.ClearHyperbolic();
   // Close to a pole, as at the tangent of 90 degrees.
-  if (!(std::fabs(result) <= LargestTrigResult)) throw ArithmeticFault("the result is too large");
+  if (!(std::fabs(result) <= LargestTrigResult))
+    throw ArithmeticFault(FaultReason::TooLarge, "the result is too large");
   return result;
 }
 

@@ -28,7 +28,7 @@ void StatisticsEngine::Add(const PressedKey&) {
   // The text alone counts, so "0." is added; and the sentence is no message. Both are wanted.
   if (Data.IgnoresZero() && Now.EntryText == "0") return Says.Say("data points of Zero will be ignored");
   const DataList list = Data.TargetList();
-  if (Data.Items(list).size() >= MostPoints) throw ArithmeticFault("the list is full");
+  if (Data.Items(list).size() >= MostPoints) throw ArithmeticFault(FaultReason::ListFull, "the list is full");
   Data.AddItem(list, Now.EntryText);
   Says.SayMessage(WordsOf(list).Added, Now.EntryText);
 }

@@ -51,7 +51,7 @@ void RateReliability(StatisticsResult& result, std::span<const double> rightAnsw
 
 double CriticalValue(const StatisticsInput& input, Spreadsheet& spreadsheet) {
   const auto t = spreadsheet.TInv(input.Alpha, input.DegreesOfFreedom);
-  if (!t) throw ArithmeticFault("the inverse t has no value");
+  if (!t) throw ArithmeticFault(FaultReason::NoSolution, "the inverse t has no value");
   return *t;
 }
 
