@@ -77,7 +77,7 @@ class CalculatorApp : private ViewFrame, private DialogFrame {
   void OpenDialog(std::unique_ptr<Form> dialog);
   void UnloadView();
 
-  Services& Services_;
+  Services& Common;
   AppObserver& Observer;
   std::span<const ViewRow> Rows;
   const ViewRow* Current = nullptr;  ///< of the view shown last

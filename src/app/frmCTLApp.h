@@ -44,7 +44,7 @@ class frmCTLApp : private KeyListener,
   void DescribeMenuItem();
   bool FocusCancelControl();
 
-  Services& Services_;
+  Services& Common;
   Callbacks Calls;
   Form* KeyTarget = nullptr;
   Form* BookMarkTarget = nullptr;

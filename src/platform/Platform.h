@@ -20,14 +20,14 @@ struct Platform {
   WindowSystem& Windows;
   FileStore& Files;
   DirectoryManager& Directories;
-  qves::Registry& RegistryStore;
-  qves::Locale& Locale;
-  qves::Clock& Clock;
+  Registry& RegistryStore;
+  Locale& Language;
+  Clock& Time;
   EventPump& Events;
   RandomSource& Random;
   SoundPlayer& Sounds;
   FixedSizeFileDialog& FileDialog;
-  qves::Spreadsheet& Spreadsheet;
+  Spreadsheet& Sheet;
 };
 
 }  // namespace qves

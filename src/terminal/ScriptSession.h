@@ -65,8 +65,8 @@ class ScriptSession : private AppObserver, private FormObserver, private SpeechO
   BaseDirectories Directories;
   PosixFileStore Files;
   IniRegistry RegistryStore;
-  GivenLocale TheLocale;
-  SystemClock TheClock;
+  GivenLocale Language;
+  SystemClock Time;
   EventQueue Events;
   SeededRandom Random;
   TerminalWindows Windows;
@@ -77,9 +77,9 @@ class ScriptSession : private AppObserver, private FormObserver, private SpeechO
   SilentTts SilentSpeech;
   SilentSounds Sounds;
   AnsweredFileDialog FileDialog;
-  InverseT TheInverseT;
+  InverseT Sheet;
   Platform Outside;
-  ServiceSet Services_;
+  ServiceSet Common;
   CalculatorApp App;
 
   JsonLine Line;

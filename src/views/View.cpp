@@ -23,7 +23,7 @@ bool Is(const KeyEvent& event, const KeyEvent& key) {
 
 View::View(const ViewTables& tables, Services& services, ViewFrame& frame)
     : Form(std::string(tables.FormName), services.Messages.GetMessage(TitleMessage)),
-      Services_(services),
+      Common(services),
       Says(services.Speech, services.Messages),
       Frame(frame),
       Tables(tables) {
@@ -33,7 +33,7 @@ View::View(const ViewTables& tables, Services& services, ViewFrame& frame)
 }
 
 void View::AddControls() {
-  for (const ControlSpec& spec : Tables.Controls) Add(MakeControl(spec, Services_.Messages));
+  for (const ControlSpec& spec : Tables.Controls) Add(MakeControl(spec, Common.Messages));
   Display = static_cast<TextBox*>(Find("txtDisplay"));
   MemoryBox = static_cast<TextBox*>(Find("txtMemory"));
 }
@@ -50,41 +50,41 @@ void View::AddMenus() {
 }
 
 void View::Form_Load() {
-  Services_.Messages.LoadMessageFile("CalcMsg.txt");
-  if (!Services_.Settings.DontSpeak) CreateSpeech();
+  Common.Messages.LoadMessageFile("CalcMsg.txt");
+  if (!Common.Settings.DontSpeak) CreateSpeech();
   Frame.LoadHostForm(*this);
-  if (Frame.TakeWelcome()) Services_.Speech.SpeakText(Message(WelcomeMessage));
+  if (Frame.TakeWelcome()) Common.Speech.SpeakText(Message(WelcomeMessage));
   Engine->ClearAll();
   // Silently: the view's name is being spoken.
   PlaceFocus(*Display);
-  Services_.Settings.CalcView = static_cast<std::int16_t>(Frame.Identity().CalcView);
-  Services_.Speech.SpeakTextQueued(Message(Frame.Identity().NameMessage));
+  Common.Settings.CalcView = static_cast<std::int16_t>(Frame.Identity().CalcView);
+  Common.Speech.SpeakTextQueued(Message(Frame.Identity().NameMessage));
   Frame.ViewLoaded();
 }
 
 void View::CreateSpeech() {
-  const AppSettings& s = Services_.Settings;
-  if (Services_.Speech.CreateSpeech(s.SystemVoice, s.SystemManuf, s.SystemProduct, s.SystemLanguage))
-    Services_.Speech.AttachSpeakingControls(*this, Services_.Verbosity);
+  const AppSettings& s = Common.Settings;
+  if (Common.Speech.CreateSpeech(s.SystemVoice, s.SystemManuf, s.SystemProduct, s.SystemLanguage))
+    Common.Speech.AttachSpeakingControls(*this, Common.Verbosity);
 }
 
 void View::Form_Unload() {
-  Services_.SettingsStore.SaveSettings();
+  Common.SettingsStore.SaveSettings();
   Frame.LeaveKeys();
   ShutDownSpeech();
   Frame.UnloadHostForm();
-  if (!Frame.IsSwitching()) ActivateWindowByTitle(Services_.Outside.Windows, HostWindow);
+  if (!Frame.IsSwitching()) ActivateWindowByTitle(Common.Outside.Windows, HostWindow);
 }
 
 void View::ShutDownSpeech() {
   try {
-    Services_.Speech.ShutDownSpeech();
+    Common.Speech.ShutDownSpeech();
   } catch (const ArithmeticFault& fault) {
-    Services_.Log.WriteErrorLog(OverflowErrorCode,
-                                std::string(fault.what()) + "; speech is released without a wait");
-    Services_.Speech.ReleaseSpeech();
+    Common.Log.WriteErrorLog(OverflowErrorCode,
+                             std::string(fault.what()) + "; speech is released without a wait");
+    Common.Speech.ReleaseSpeech();
   }
-  Services_.Speech.DetachSpeakingControls(*this);
+  Common.Speech.DetachSpeakingControls(*this);
 }
 
 void View::NotifyKeyDown(bool& handled, const KeyEvent& event) {
@@ -96,7 +96,7 @@ void View::NotifyKeyDown(bool& handled, const KeyEvent& event) {
   handled = true;
   if (row->Action == KeyAction::Click) return PressByKey(*target(*row));
   if (row->Action == KeyAction::RepeatSpeech)  // changes nothing, not even what Enter presses
-    return Services_.Speech.RepeatSpeech();
+    return Common.Speech.RepeatSpeech();
   GoByKey(*target(*row));
 }
 
@@ -110,21 +110,20 @@ void View::GoByKey(Control& control) {
 /// After a key has acted through a button the focus goes to its resting place, where the view has one,
 /// without a word: nothing is to cut off what the key said.
 void View::PressByKey(Control& control) {
-  if (!control.Enabled)
-    return Services_.Speech.SpeakText(control.SpokenName + ", " + Message(DisabledMessage));
+  if (!control.Enabled) return Common.Speech.SpeakText(control.SpokenName + ", " + Message(DisabledMessage));
   EnterPressesDefault();
   Click(control);
   if (Control* rest = Find(Tables.RestingControl); rest && rest != FocusedControl()) PlaceFocus(*rest);
 }
 
 void View::Form_KeyUp(int keyCode) {
-  AnnounceLockKey(Services_, keyCode);
+  AnnounceLockKey(Common, keyCode);
 }
 
 void View::OnClick(Control& control) {
   if (dynamic_cast<TextBox*>(&control)) return SayOf(control, false);
   if (const auto* box = dynamic_cast<CheckBox*>(&control))
-    return Services_.Speech.SpeakText(box->SpokenName + " " + StateOf(*box));
+    return Common.Speech.SpeakText(box->SpokenName + " " + StateOf(*box));
   const ClickRow* row = FindClickRow(Tables.Clicks, control.Name());
   if (!row) return;
   if (row->Focus == FocusRule::Moves) SetFocus(control);
@@ -149,7 +148,7 @@ void View::Introduce(Control& control, bool queued) {
   SayOf(control, queued);
   const bool saysHelp =
       dynamic_cast<CheckBox*>(&control) || dynamic_cast<ListBox*>(&control) || control.Has(HelpOnFocus);
-  if (saysHelp && !control.Speaking.Quiescent) Services_.Speech.SpeakHelp(control.HelpText);
+  if (saysHelp && !control.Speaking.Quiescent) Common.Speech.SpeakHelp(control.HelpText);
 }
 
 void View::SayOf(const Control& control, bool queued) {
@@ -157,11 +156,10 @@ void View::SayOf(const Control& control, bool queued) {
   if (control.Speaking.Quiescent) return;
   const ValueSpan value = ValueIn(control, text);
   if (queued)
-    Services_.Speech.SpeakTextQueued(text, value);
+    Common.Speech.SpeakTextQueued(text, value);
   else
-    Services_.Speech.SpeakText(text, value);
-  if (const auto* box = dynamic_cast<const CheckBox*>(&control))
-    Services_.Speech.SpeakTextQueued(StateOf(*box));
+    Common.Speech.SpeakText(text, value);
+  if (const auto* box = dynamic_cast<const CheckBox*>(&control)) Common.Speech.SpeakTextQueued(StateOf(*box));
 }
 
 const std::string& View::StateOf(const CheckBox& box) const {
@@ -183,12 +181,12 @@ std::string View::Announcement(const Control& control) {
   if (&control == MemoryBox && !MemoryBox->Text.empty()) return control.SpokenName + " " + MemoryBox->Text;
   if (const auto* list = dynamic_cast<const ListControl*>(&control)) return ChosenWords(*list);
   if (control.Has(MultiLine))
-    return Services_.Speech.SpeechFormatNumber(static_cast<const TextBox&>(control).Text);
+    return Common.Speech.SpeechFormatNumber(static_cast<const TextBox&>(control).Text);
   if (&control != Display) return control.SpokenName;
   SelectAll(*Display);  // so that a copy takes all of it
   if (Engine->InError()) return Message(ErrorMessage);
   return FillPlaceholders(Message(CurrentValueMessage),
-                          {Services_.Speech.SpeechFormatNumber(Engine->DisplayText())});
+                          {Common.Speech.SpeechFormatNumber(Engine->DisplayText())});
 }
 
 std::string View::ChosenWords(const ListControl& list) const {
@@ -198,7 +196,7 @@ std::string View::ChosenWords(const ListControl& list) const {
 
 KeyUse View::OnControlKey(Control& control, const KeyEvent& event) {
   if (event.Code == KeyF1) {
-    Services_.Speech.SpeakText(control.HelpText, Prose);
+    Common.Speech.SpeakText(control.HelpText, Prose);
     return KeyUse::Used;
   }
   if (event.Code == KeyF7) {
@@ -211,12 +209,12 @@ KeyUse View::OnControlKey(Control& control, const KeyEvent& event) {
 
 KeyUse View::TextBoxKey(TextBox& box, const KeyEvent& event) {
   if (Is(event, CopyKey)) {
-    Services_.Speech.SpeakText(Message(CopyMessage));
+    Common.Speech.SpeakText(Message(CopyMessage));
     return KeyUse::PassedOn;  // the copy itself is the toolkit's
   }
   if (!box.Has(MultiLine) || !Is(event, SelectAllKey)) return KeyUse::Unused;
   SelectAll(box);
-  Services_.Speech.SpeakText(Message(AllSelectedMessage));
+  Common.Speech.SpeakText(Message(AllSelectedMessage));
   return KeyUse::Used;
 }
 

@@ -57,7 +57,7 @@ class View : public Form, protected EngineHost {
   virtual std::string ChosenWords(const ListControl& list) const;
   void OnMenu(int id) override;
 
-  Services& Services_;
+  Services& Common;
   Announcer Says;
   ViewFrame& Frame;
 
@@ -79,7 +79,7 @@ class View : public Form, protected EngineHost {
   void SayOf(const Control& control, bool queued);
   const std::string& StateOf(const CheckBox& box) const;
   KeyUse TextBoxKey(TextBox& box, const KeyEvent& event);
-  const std::string& Message(int id) const { return Services_.Messages.GetMessage(id); }
+  const std::string& Message(int id) const { return Common.Messages.GetMessage(id); }
 
   const ViewTables& Tables;
   std::unique_ptr<EntryEngine> Engine;

@@ -58,14 +58,14 @@ std::string frmStatistics::Announcement(const Control& control) {
   if (!list) return View::Announcement(control);
   const DataList which = list == Lists[0] ? DataList::Main : DataList::Second;
   return list->SpokenName + ", " +
-         (list->ItemCount() > 0 ? ChosenWords(*list) : Services_.Messages.GetMessage(WordsOf(which).Empty));
+         (list->ItemCount() > 0 ? ChosenWords(*list) : Common.Messages.GetMessage(WordsOf(which).Empty));
 }
 
 /// The item, and its place in the list where the user wants to hear that.
 std::string frmStatistics::ChosenWords(const ListControl& list) const {
   if (list.ListIndex == NoItem) return "";
-  const std::string item = Services_.Speech.SpeechFormatNumber(list.ItemText(list.ListIndex));
-  const std::string place = Services_.Sounds.VerbosityAnnounce(ListPositionEntry, false);
+  const std::string item = Common.Speech.SpeechFormatNumber(list.ItemText(list.ListIndex));
+  const std::string place = Common.Sounds.VerbosityAnnounce(ListPositionEntry, false);
   if (place.empty()) return item;
   return item + " " +
          FillPlaceholders(place, {std::to_string(list.ListIndex + 1), std::to_string(list.ItemCount())});
@@ -75,15 +75,15 @@ std::string frmStatistics::ChosenWords(const ListControl& list) const {
 ValueSpan frmStatistics::ValueIn(const Control& control, std::string_view announcement) const {
   const auto* list = dynamic_cast<const ListView*>(&control);
   if (!list || list->ListIndex == NoItem) return View::ValueIn(control, announcement);
-  const std::string item = Services_.Speech.SpeechFormatNumber(list->ItemText(list->ListIndex));
+  const std::string item = Common.Speech.SpeechFormatNumber(list->ItemText(list->ListIndex));
   const std::string name = list->SpokenName + ", ";
   return {announcement.starts_with(name) ? name.size() : 0, item.size()};
 }
 
 void frmStatistics::OnListEnd(ListControl&, int step) {
   const std::string words =
-      Services_.Sounds.VerbosityAnnounce(step < 0 ? TopOfListEntry : BottomOfListEntry, false);
-  if (!words.empty()) Services_.Speech.SpeakText(words);
+      Common.Sounds.VerbosityAnnounce(step < 0 ? TopOfListEntry : BottomOfListEntry, false);
+  if (!words.empty()) Common.Speech.SpeakText(words);
 }
 
 void frmStatistics::OnMenu(int id) {
@@ -96,15 +96,15 @@ void frmStatistics::OnMenu(int id) {
 /// A fault ends the calculation without a word, and the dialog reads the report of the run before. Both are
 /// wanted.
 void frmStatistics::Report(double degreesOfFreedom, double alpha) {
-  const std::string path = Services_.FolderLocations.ReportFile();
+  const std::string path = Common.FolderLocations.ReportFile();
   try {
     const StatisticsResult result = RunStatistics(
         {Items(DataList::Main), Items(DataList::Second), IgnoresZero(), degreesOfFreedom, alpha},
-        Services_.Outside.Spreadsheet);
+        Common.Outside.Sheet);
     std::string error;
-    if (!Services_.Outside.Files.Write(path, WriteReport(result, Services_.Messages), error))
-      Services_.Log.WriteErrorLog(ReportErrorCode, "The report " + path + " cannot be written: " + error +
-                                                       "; the one of before is read");
+    if (!Common.Outside.Files.Write(path, WriteReport(result, Common.Messages), error))
+      Common.Log.WriteErrorLog(ReportErrorCode, "The report " + path + " cannot be written: " + error +
+                                                    "; the one of before is read");
   } catch (const ArithmeticFault&) {
   }
   Frame.OpenResult();
@@ -112,10 +112,10 @@ void frmStatistics::Report(double degreesOfFreedom, double alpha) {
 
 /// The folder is made, so that the dialog begins in the same one before and after the first report.
 void frmStatistics::Import() {
-  const MessageStore& messages = Services_.Messages;
-  const std::string& folder = Services_.FolderLocations.DocumentsFolder;
-  Services_.Outside.Files.MakeFolder(folder);
-  const std::string path = Services_.Outside.FileDialog.Show(
+  const MessageStore& messages = Common.Messages;
+  const std::string& folder = Common.FolderLocations.DocumentsFolder;
+  Common.Outside.Files.MakeFolder(folder);
+  const std::string path = Common.Outside.FileDialog.Show(
       {messages.GetMessage(ImportTitleMessage), messages.GetMessage(ImportFilterMessage), "txt", folder});
   if (!path.empty()) ImportFile(path);
 }
@@ -123,10 +123,10 @@ void frmStatistics::Import() {
 /// The list is emptied when the file is open, before anything is read: what a broken file loses is wanted so.
 void frmStatistics::ImportFile(const std::string& path) {
   const auto log = [&](const std::string& what) {
-    Services_.Log.WriteErrorLog(ImportErrorCode, path + ": " + what);
+    Common.Log.WriteErrorLog(ImportErrorCode, path + ": " + what);
   };
   std::string error;
-  const auto text = Services_.Outside.Files.Read(path, error);
+  const auto text = Common.Outside.Files.Read(path, error);
   if (!text) return log(error + "; nothing is imported");
   ListView& list = ListOf(TargetList());
   RemoveItems(list, 0, list.ItemCount());
