@@ -129,7 +129,7 @@ void View::OnClick(Control& control) {
   if (row->Focus == FocusRule::Moves) SetFocus(control);
   if (row->Focus == FocusRule::MovesSilently) PlaceFocus(control);
   Engine->BeginKey();
-  row->Operation(*Engine, {control.Caption, control.SpokenName, control.HelpText});
+  (Engine.get()->*row->Operation)({control.Caption, control.SpokenName, control.HelpText});
 }
 
 void View::OnChoose(ListControl& list) {

@@ -18,13 +18,13 @@ constexpr MenuSpec Menus[] = {
     {HelpMenu, {AboutStatisticsItem, StatisticsHotKeysItem, InverseItem}},
 };
 
-constexpr ClickRow Clicks[] = {
-    {"cmdSign", Do<EntryEngine, &EntryEngine::UnaryOperator>, FocusRule::Stays},
-    {"cmdAdd", Do<StatisticsEngine, &StatisticsEngine::Add>, FocusRule::Stays},
-    {"cmdRemove", Do<StatisticsEngine, &StatisticsEngine::Remove>, FocusRule::Moves},
-    {"cmdClear", Do<StatisticsEngine, &StatisticsEngine::Clear>, FocusRule::Moves},
-    {"cmdRun", Do<StatisticsEngine, &StatisticsEngine::Run>, FocusRule::Moves},
-    {"cmdStat", Do<StatisticsEngine, &StatisticsEngine::SetParameter>, FocusRule::Stays},
+const ClickRow Clicks[] = {
+    {"cmdSign", &EntryEngine::UnaryOperator, FocusRule::Stays},
+    {"cmdAdd", Own(&StatisticsEngine::Add), FocusRule::Stays},
+    {"cmdRemove", Own(&StatisticsEngine::Remove), FocusRule::Moves},
+    {"cmdClear", Own(&StatisticsEngine::Clear), FocusRule::Moves},
+    {"cmdRun", Own(&StatisticsEngine::Run), FocusRule::Moves},
+    {"cmdStat", Own(&StatisticsEngine::SetParameter), FocusRule::Stays},
 };
 
 static_assert(AllStandIn(statistics::Controls, statistics::KeyMap));
@@ -43,9 +43,9 @@ constexpr ViewTables StatisticsTables = {
 
 frmStatistics::frmStatistics(Services& services, ViewFrame& frame)
     : View(StatisticsTables, services, frame),
-      Lists{static_cast<ListView*>(Find("lvwData")), static_cast<ListView*>(Find("lvwData2"))},
-      IgnoreZero(static_cast<CheckBox*>(Find("cbIgnoreZero"))),
-      UseList2(static_cast<CheckBox*>(Find("cbUseList2"))) {
+      Lists{FindAs<ListView>("lvwData"), FindAs<ListView>("lvwData2")},
+      IgnoreZero(FindAs<CheckBox>("cbIgnoreZero")),
+      UseList2(FindAs<CheckBox>("cbUseList2")) {
   for (const DataList list : {DataList::Main, DataList::Second})
     ListOf(list).Items = &State.Lists[static_cast<std::size_t>(list)];
   EngineHost& host = *this;
