@@ -106,8 +106,7 @@ bool CalculatorApp::KeyDown(const KeyEvent& event) {
 }
 
 KeyUse CalculatorApp::PressKey(const KeyEvent& event) {
-  KeyListener* hook = Common.Outside.Keys.GetListener();
-  if (hook && hook->KeyDown(event)) return KeyUse::Used;
+  if (HostForm && HostForm->KeyDown(event)) return KeyUse::Used;
   Form* form = ActiveForm();
   return form && !(HostForm && HostForm->IsMenuActive()) ? form->KeyDown(event) : KeyUse::PassedOn;
 }
@@ -126,7 +125,7 @@ void CalculatorApp::TellOfNoFunction(const KeyEvent& event) {
 }
 
 void CalculatorApp::KeyUp(int keyCode) {
-  if (KeyListener* hook = Common.Outside.Keys.GetListener()) hook->KeyUp(keyCode);
+  if (HostForm) HostForm->KeyUp(keyCode);
   if (Form* form = ActiveForm()) form->Form_KeyUp(keyCode);
 }
 

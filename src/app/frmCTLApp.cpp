@@ -12,14 +12,12 @@ constexpr std::string_view Dots = "...";
 
 frmCTLApp::frmCTLApp(Services& services, Callbacks callbacks)
     : Common(services), Calls(std::move(callbacks)) {
-  Common.Outside.Keys.SetListener(this);
   Common.Outside.Hints.SetListener(this);
   Common.Outside.WindowMessages.SetListener(this);
   Common.Outside.Speech.SetListener(this);
 }
 
 frmCTLApp::~frmCTLApp() {
-  Common.Outside.Keys.SetListener(nullptr);
   Common.Outside.Hints.SetListener(nullptr);
   Common.Outside.WindowMessages.SetListener(nullptr);
   Common.Outside.Speech.SetListener(nullptr);

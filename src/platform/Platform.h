@@ -14,7 +14,6 @@ namespace qves {
 
 struct Platform {
   TTS& Speech;
-  KeyCapture& Keys;
   HintNotify& Hints;
   AppWMSpy& WindowMessages;
   WindowSystem& Windows;

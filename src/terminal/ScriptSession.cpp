@@ -72,7 +72,6 @@ ScriptSession::ScriptSession(const Options& options)
       RealSpeech(options.Speech ? LoadSpeech(*options.Speech, Events) : nullptr),
       Sounds(Files),
       Outside{RealSpeech ? *RealSpeech : SilentSpeech,
-              Hook,
               Hints,
               WindowMessages,
               Windows,

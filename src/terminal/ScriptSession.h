@@ -70,7 +70,6 @@ class ScriptSession : private AppObserver, private FormObserver, private SpeechO
   EventQueue Events;
   SeededRandom Random;
   TerminalWindows Windows;
-  KeyCapture Hook;
   HintNotify Hints;
   AppWMSpy WindowMessages;
   std::unique_ptr<TTS> RealSpeech;  ///< null: the silent one speaks
