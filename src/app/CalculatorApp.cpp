@@ -136,7 +136,7 @@ void CalculatorApp::LoadHostForm(Form& keyTarget) {
   HostForm->SetKeyTarget(&keyTarget);
 }
 
-void CalculatorApp::OpenHelp(int menuItem) {
+bool CalculatorApp::OpenHelp(int menuItem) {
   struct HelpRow {
     int MenuItem;
     HelpDialog Dialog;
@@ -148,7 +148,9 @@ void CalculatorApp::OpenHelp(int menuItem) {
                               {StatisticsHotKeysItem, HelpDialog::HotKeys, &ViewRow::HotKeys},
                               {InverseItem, HelpDialog::Inverse, &ViewRow::Inverse}};
   const auto* row = std::ranges::find(rows, menuItem, &HelpRow::MenuItem);
+  if (row == std::end(rows)) return false;
   OpenDialog(MakeHelpDialog(row->Dialog, Current->*(row->Document), Common, *this));
+  return true;
 }
 
 void CalculatorApp::OpenResult() {

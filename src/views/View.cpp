@@ -5,19 +5,12 @@
 #include "model/ArithmeticFault.h"
 #include "services/MessageIds.h"
 #include "services/WindowActivation.h"
-#include "views/LockKeys.h"
 #include "views/MakeControl.h"
 
 namespace qves {
 namespace {
 
 constexpr std::string_view HostWindow = " Quorvane 1000";
-constexpr KeyEvent CopyKey{'C', ControlBit, 0};
-constexpr KeyEvent SelectAllKey{'A', ControlBit, 0};
-
-bool Is(const KeyEvent& event, const KeyEvent& key) {
-  return event.Code == key.Code && event.Shift == key.Shift;
-}
 
 }  // namespace
 
@@ -34,8 +27,8 @@ View::View(const ViewTables& tables, Services& services, ViewFrame& frame)
 
 void View::AddControls() {
   for (const ControlSpec& spec : Tables.Controls) Add(MakeControl(spec, Common.Messages));
-  Display = static_cast<TextBox*>(Find("txtDisplay"));
-  MemoryBox = static_cast<TextBox*>(Find("txtMemory"));
+  Display = FindAs<TextBox>("txtDisplay");
+  MemoryBox = FindAs<TextBox>("txtMemory");
 }
 
 void View::AddMenus() {
@@ -85,39 +78,6 @@ void View::ShutDownSpeech() {
     Common.Speech.ReleaseSpeech();
   }
   Common.Speech.DetachSpeakingControls(*this);
-}
-
-void View::NotifyKeyDown(bool& handled, const KeyEvent& event) {
-  if (!Frame.IsActive(*this)) return;
-  const auto target = [&](const KeyRow& row) { return Find(row.Target.Name, IndexFor(row, event.Code)); };
-  const KeyRow* row = FindKeyRow(
-      Tables.KeyMap, event, [&](const KeyRow& one) { return !one.WhileEnabled || target(one)->Enabled; });
-  if (!row || row->Action == KeyAction::LeaveIt) return;
-  handled = true;
-  if (row->Action == KeyAction::Click) return PressByKey(*target(*row));
-  if (row->Action == KeyAction::RepeatSpeech)  // changes nothing, not even what Enter presses
-    return Common.Speech.RepeatSpeech();
-  GoByKey(*target(*row));
-}
-
-/// The control is heard at once, also when it has the focus already: who presses the key wants to hear it.
-void View::GoByKey(Control& control) {
-  EnterPressesDefault();
-  if (&control != FocusedControl()) PlaceFocus(control);
-  Introduce(control, false);
-}
-
-/// After a key has acted through a button the focus goes to its resting place, where the view has one,
-/// without a word: nothing is to cut off what the key said.
-void View::PressByKey(Control& control) {
-  if (!control.Enabled) return Common.Speech.SpeakText(control.SpokenName + ", " + Message(DisabledMessage));
-  EnterPressesDefault();
-  Click(control);
-  if (Control* rest = Find(Tables.RestingControl); rest && rest != FocusedControl()) PlaceFocus(*rest);
-}
-
-void View::Form_KeyUp(int keyCode) {
-  AnnounceLockKey(Common, keyCode);
 }
 
 void View::OnClick(Control& control) {
@@ -194,43 +154,9 @@ std::string View::ChosenWords(const ListControl& list) const {
   return fixed ? fixed->Chosen().SpokenText : "";
 }
 
-KeyUse View::OnControlKey(Control& control, const KeyEvent& event) {
-  if (event.Code == KeyF1) {
-    Common.Speech.SpeakText(control.HelpText, Prose);
-    return KeyUse::Used;
-  }
-  if (event.Code == KeyF7) {
-    SayOf(control, false);
-    return KeyUse::Used;
-  }
-  auto* box = dynamic_cast<TextBox*>(&control);
-  return box ? TextBoxKey(*box, event) : KeyUse::Unused;
-}
-
-KeyUse View::TextBoxKey(TextBox& box, const KeyEvent& event) {
-  if (Is(event, CopyKey)) {
-    Common.Speech.SpeakText(Message(CopyMessage));
-    return KeyUse::PassedOn;  // the copy itself is the toolkit's
-  }
-  if (!box.Has(MultiLine) || !Is(event, SelectAllKey)) return KeyUse::Unused;
-  SelectAll(box);
-  Common.Speech.SpeakText(Message(AllSelectedMessage));
-  return KeyUse::Used;
-}
-
 void View::OnMenu(int id) {
-  switch (id) {
-    case ExitItem:
-      return Frame.Exit();
-    case AboutItem:
-    case HotKeysItem:
-    case InverseItem:
-    case AboutStatisticsItem:
-    case StatisticsHotKeysItem:
-      return Frame.OpenHelp(id);
-    default:
-      return Frame.ChooseView(id);
-  }
+  if (id == ExitItem) return Frame.Exit();
+  if (!Frame.OpenHelp(id)) Frame.ChooseView(id);
 }
 
 }  // namespace qves
