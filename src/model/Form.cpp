@@ -19,26 +19,20 @@ Control& Form::Add(std::unique_ptr<Control> control) {
   return *ControlList.back();
 }
 
-/// The one place where a fault outside an evaluation ends.
-template <class Handler>
-void Form::Guarded(Handler handler) {
-  try {
-    handler();
-  } catch (const ArithmeticFault&) {
-    OnFault();
-  }
-}
-
-void Form::Click(Control& control) {
+void Form::Click(Control& control) try {
   if (!control.Enabled) return;
   if (auto* box = dynamic_cast<CheckBox*>(&control)) SetChecked(*box, !box->Checked);
-  Guarded([&] { OnClick(control); });
+  OnClick(control);
+} catch (const ArithmeticFault&) {
+  OnFault();
 }
 
-void Form::Choose(ListControl& list, int item) {
+void Form::Choose(ListControl& list, int item) try {
   if (!list.Enabled || item == list.ListIndex || item < 0 || item >= list.ItemCount()) return;
   PlaceChoice(list, item);
-  Guarded([&] { OnChoose(list); });
+  OnChoose(list);
+} catch (const ArithmeticFault&) {
+  OnFault();
 }
 
 void Form::MouseClick(Control& control) {

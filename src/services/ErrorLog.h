@@ -20,7 +20,7 @@ inline constexpr int DocumentErrorCode = 7;  ///< a document that is shown
 
 class ErrorLog {
  public:
-  ErrorLog(FileStore& files, qves::Clock& clock) : Files(files), TheClock(clock) {}
+  ErrorLog(FileStore& files, Clock& clock) : Files(files), Time(clock) {}
 
   /// The folder the log lives in. Lines written before it is known are kept and written now.
   void SetFolder(const std::string& temporaryFolder);
@@ -33,7 +33,7 @@ class ErrorLog {
   void Append(const std::string& line);
 
   FileStore& Files;
-  qves::Clock& TheClock;
+  Clock& Time;
   std::string Folder;
   std::vector<std::string> Waiting;
 };

@@ -55,7 +55,7 @@ class View : public Form, protected EngineHost {
   virtual SpokenText ChosenWords(const ListControl& list) const;
   void OnMenu(int id) override;
 
-  Services& Services_;
+  Services& Common;
   Announcer Says;
   ViewFrame& Frame;
 
@@ -78,7 +78,7 @@ class View : public Form, protected EngineHost {
   SpokenText ValueOfDisplay() const;
   const std::string& StateOf(const CheckBox& box) const;
   KeyUse TextBoxKey(TextBox& box, const KeyEvent& event);
-  const std::string& Message(int id) const { return Services_.Messages.GetMessage(id); }
+  const std::string& Message(int id) const { return Common.Messages.GetMessage(id); }
 
   const ViewTables& Tables;
   std::unique_ptr<EntryEngine> Engine;
