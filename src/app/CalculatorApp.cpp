@@ -34,12 +34,12 @@ bool IsNoMistake(const KeyEvent& event) {
 }  // namespace
 
 CalculatorApp::CalculatorApp(Services& services, AppObserver& observer, std::span<const ViewRow> views)
-    : Services_(services), Observer(observer), Rows(views) {}
+    : Common(services), Observer(observer), Rows(views) {}
 
 CalculatorApp::~CalculatorApp() = default;
 
 bool CalculatorApp::Main(const StartOptions& options) {
-  WindowSystem& windows = Services_.Outside.Windows;
+  WindowSystem& windows = Common.Outside.Windows;
   if (windows.AnotherInstanceRuns()) {
     // Under another title, so that the search for the first copy cannot find this one.
     windows.SetApplicationTitle("...duplicate instance");
@@ -47,9 +47,9 @@ bool CalculatorApp::Main(const StartOptions& options) {
     return false;
   }
   windows.SetApplicationTitle(ApplicationTitle);
-  Services_.Messages.LoadMessageFile("CalcMsg.txt");
-  Services_.SettingsStore.ReadSettings();
-  const int calcView = options.View.value_or(Services_.Settings.CalcView);
+  Common.Messages.LoadMessageFile("CalcMsg.txt");
+  Common.SettingsStore.ReadSettings();
+  const int calcView = options.View.value_or(Common.Settings.CalcView);
   // No fallback for a number that is no view: the program then runs without a window, as wanted.
   const auto row = std::ranges::find(Rows, calcView, [](const ViewRow& r) { return r.Identity.CalcView; });
   if (row != Rows.end()) ShowView(*row);
@@ -58,7 +58,7 @@ bool CalculatorApp::Main(const StartOptions& options) {
 
 void CalculatorApp::ShowView(const ViewRow& row) {
   Current = &row;
-  View = row.Make(Services_, *this);
+  View = row.Make(Common, *this);
   Observer.FormShown(*View);
   View->Form_Load();
 }
@@ -72,7 +72,7 @@ std::vector<int> CalculatorApp::ViewItems() const {
 void CalculatorApp::ChooseView(int menuItem) {
   const auto row = std::ranges::find(Rows, menuItem, [](const ViewRow& r) { return r.Identity.NameMessage; });
   if (row == Rows.end()) return;
-  if (&*row == Current) return Services_.Speech.SpeakText(Services_.Messages.GetMessage(menuItem));
+  if (&*row == Current) return Common.Speech.SpeakText(Common.Messages.GetMessage(menuItem));
   ViewSwitching = true;
   UnloadView();
   ShowView(*row);
@@ -106,39 +106,37 @@ bool CalculatorApp::KeyDown(const KeyEvent& event) {
 }
 
 KeyUse CalculatorApp::PressKey(const KeyEvent& event) {
-  KeyListener* hook = Services_.Outside.Keys.GetListener();
-  if (hook && hook->KeyDown(event)) return KeyUse::Used;
+  if (HostForm && HostForm->KeyDown(event)) return KeyUse::Used;
   Form* form = ActiveForm();
   return form && !(HostForm && HostForm->IsMenuActive()) ? form->KeyDown(event) : KeyUse::PassedOn;
 }
 
 bool CalculatorApp::CommaTypesPoint() const {
-  const int choice = Services_.Settings.DecimalComma;
+  const int choice = Common.Settings.DecimalComma;
   return choice == DecimalCommaOn ||
-         (choice == DecimalCommaAuto && Services_.Outside.Locale.WritesDecimalComma());
+         (choice == DecimalCommaAuto && Common.Outside.Language.WritesDecimalComma());
 }
 
 /// Without a word, so that nothing is cut off. F10 goes to the menus, where there are any.
 void CalculatorApp::TellOfNoFunction(const KeyEvent& event) {
   const bool goesToMenus = event.Code == KeyF10 && event.Shift == NoShift && !ActiveForm()->Menus().empty();
   if (goesToMenus || event.Held || IsNoMistake(event)) return;
-  if (Services_.Settings.NoFunctionSound == SwitchOn)
-    Services_.Sounds.VerbosityAnnounce(NoFunctionEntry, false);
+  if (Common.Settings.NoFunctionSound == SwitchOn) Common.Sounds.VerbosityAnnounce(NoFunctionEntry, false);
 }
 
 void CalculatorApp::KeyUp(int keyCode) {
-  if (KeyListener* hook = Services_.Outside.Keys.GetListener()) hook->KeyUp(keyCode);
+  if (HostForm) HostForm->KeyUp(keyCode);
   if (Form* form = ActiveForm()) form->Form_KeyUp(keyCode);
 }
 
 void CalculatorApp::LoadHostForm(Form& keyTarget) {
   if (!HostForm)
     HostForm = std::make_unique<frmCTLApp>(
-        Services_, frmCTLApp::Callbacks{[this] { return ActiveForm(); }, [this] { Leave(); }});
+        Common, frmCTLApp::Callbacks{[this] { return ActiveForm(); }, [this] { Leave(); }});
   HostForm->SetKeyTarget(&keyTarget);
 }
 
-void CalculatorApp::OpenHelp(int menuItem) {
+bool CalculatorApp::OpenHelp(int menuItem) {
   struct HelpRow {
     int MenuItem;
     HelpDialog Dialog;
@@ -150,11 +148,13 @@ void CalculatorApp::OpenHelp(int menuItem) {
                               {StatisticsHotKeysItem, HelpDialog::HotKeys, &ViewRow::HotKeys},
                               {InverseItem, HelpDialog::Inverse, &ViewRow::Inverse}};
   const auto* row = std::ranges::find(rows, menuItem, &HelpRow::MenuItem);
-  OpenDialog(MakeHelpDialog(row->Dialog, Current->*(row->Document), Services_, *this));
+  if (row == std::end(rows)) return false;
+  OpenDialog(MakeHelpDialog(row->Dialog, Current->*(row->Document), Common, *this));
+  return true;
 }
 
 void CalculatorApp::OpenResult() {
-  OpenDialog(MakeResultDialog(Services_, *this));
+  OpenDialog(MakeResultDialog(Common, *this));
 }
 
 void CalculatorApp::OpenDialog(std::unique_ptr<Form> dialog) {

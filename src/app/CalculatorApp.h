@@ -63,7 +63,7 @@ class CalculatorApp : private ViewFrame, private DialogFrame {
   void UnloadHostForm() override { HostForm.reset(); }
   bool IsSwitching() const override { return ViewSwitching; }
   bool IsActive(const Form& view) const override { return &view == ActiveForm(); }
-  void OpenHelp(int menuItem) override;
+  bool OpenHelp(int menuItem) override;
   void OpenResult() override;
   void ViewLoaded() override { ViewSwitching = false; }
   bool TakeWelcome() override { return std::exchange(WelcomeDue, false); }
@@ -79,7 +79,7 @@ class CalculatorApp : private ViewFrame, private DialogFrame {
   void OpenDialog(std::unique_ptr<Form> dialog);
   void UnloadView();
 
-  Services& Services_;
+  Services& Common;
   AppObserver& Observer;
   std::span<const ViewRow> Rows;
   const ViewRow* Current = nullptr;  ///< of the view shown last

@@ -11,18 +11,16 @@ constexpr std::string_view Dots = "...";
 }  // namespace
 
 frmCTLApp::frmCTLApp(Services& services, Callbacks callbacks)
-    : Services_(services), Calls(std::move(callbacks)) {
-  Services_.Outside.Keys.SetListener(this);
-  Services_.Outside.Hints.SetListener(this);
-  Services_.Outside.WindowMessages.SetListener(this);
-  Services_.Outside.Speech.SetListener(this);
+    : Common(services), Calls(std::move(callbacks)) {
+  Common.Outside.Hints.SetListener(this);
+  Common.Outside.WindowMessages.SetListener(this);
+  Common.Outside.Speech.SetListener(this);
 }
 
 frmCTLApp::~frmCTLApp() {
-  Services_.Outside.Keys.SetListener(nullptr);
-  Services_.Outside.Hints.SetListener(nullptr);
-  Services_.Outside.WindowMessages.SetListener(nullptr);
-  Services_.Outside.Speech.SetListener(nullptr);
+  Common.Outside.Hints.SetListener(nullptr);
+  Common.Outside.WindowMessages.SetListener(nullptr);
+  Common.Outside.Speech.SetListener(nullptr);
 }
 
 bool frmCTLApp::KeyDown(const KeyEvent& event) {
@@ -39,7 +37,7 @@ bool frmCTLApp::KeyDown(const KeyEvent& event) {
 }
 
 void frmCTLApp::KeyUp(int keyCode) {
-  if (keyCode == KeyControl && CtrlAlone) Services_.Speech.StopSpeech();
+  if (keyCode == KeyControl && CtrlAlone) Common.Speech.StopSpeech();
   CtrlAlone = false;
 }
 
@@ -50,8 +48,8 @@ bool frmCTLApp::FocusCancelControl() {
 
 void frmCTLApp::MenuItemHighlighted(std::string_view text, std::string_view mnemonic, bool hasSubMenu) {
   MenuActive = true;
-  if (Services_.Settings.DontSpeak) return;
-  const MessageStore& messages = Services_.Messages;
+  if (Common.Settings.DontSpeak) return;
+  const MessageStore& messages = Common.Messages;
   MenuMnemonic = mnemonic;
   MenuHintText = ReplaceAll(text, "Ctrl+", messages.GetMessage(ControlPlusMessage) + " ");
   MenuHintText = ReplaceAll(MenuHintText, "Shift+", messages.GetMessage(ShiftPlusMessage) + " ");
@@ -64,17 +62,17 @@ void frmCTLApp::MenuItemHighlighted(std::string_view text, std::string_view mnem
     MenuHintText += ". " + messages.GetMessage(OpensDialogMessage);
   }
   MenuHasSubMenu = hasSubMenu;
-  Services_.Speech.SpeakText(hasSubMenu ? MenuHintText + ". " + messages.GetMessage(HasSubMenuMessage)
-                                        : MenuHintText);
+  Common.Speech.SpeakText(hasSubMenu ? MenuHintText + ". " + messages.GetMessage(HasSubMenuMessage)
+                                     : MenuHintText);
 }
 
 void frmCTLApp::DescribeMenuItem() {
   std::string text = MenuHintText + ". ";
   if (!MenuMnemonic.empty())
-    text += FillPlaceholders(Services_.Messages.GetMessage(MnemonicMessage),
-                             {Services_.Speech.SpeakableChar(MenuMnemonic)});
-  if (MenuHasSubMenu) text += " " + Services_.Messages.GetMessage(MoreItemsMessage);
-  Services_.Speech.SpeakText(text);
+    text += FillPlaceholders(Common.Messages.GetMessage(MnemonicMessage),
+                             {Common.Speech.SpeakableChar(MenuMnemonic)});
+  if (MenuHasSubMenu) text += " " + Common.Messages.GetMessage(MoreItemsMessage);
+  Common.Speech.SpeakText(text);
 }
 
 void frmCTLApp::QueryUnload(int reason) {
@@ -84,7 +82,7 @@ void frmCTLApp::QueryUnload(int reason) {
 }
 
 void frmCTLApp::BookMarkReached(std::int32_t number, TtsSpeaker& speaker) {
-  Services_.Speech.BookMarkReached(number);
+  Common.Speech.BookMarkReached(number);
   if (BookMarkTarget) BookMarkTarget->NotifyBookMark(number, speaker);
 }
 

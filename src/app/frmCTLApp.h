@@ -12,10 +12,7 @@
 
 namespace qves {
 
-class frmCTLApp : private KeyListener,
-                  private HintListener,
-                  private QueryUnloadListener,
-                  private TtsListener {
+class frmCTLApp : private HintListener, private QueryUnloadListener, private TtsListener {
  public:
   struct Callbacks {
     std::function<Form*()> ActiveForm;
@@ -32,8 +29,9 @@ class frmCTLApp : private KeyListener,
   void SetSpeechStoppedTarget(Form* form) { SpeechStoppedTarget = form; }
   bool IsMenuActive() const { return MenuActive; }
 
-  bool KeyDown(const KeyEvent& event) override;
-  void KeyUp(int keyCode) override;
+  /// The keyboard hook: sees every key before the view does. True: the key is swallowed.
+  bool KeyDown(const KeyEvent& event);
+  void KeyUp(int keyCode);
 
  private:
   void MenuItemHighlighted(std::string_view text, std::string_view mnemonic, bool hasSubMenu) override;
@@ -44,7 +42,7 @@ class frmCTLApp : private KeyListener,
   void DescribeMenuItem();
   bool FocusCancelControl();
 
-  Services& Services_;
+  Services& Common;
   Callbacks Calls;
   Form* KeyTarget = nullptr;
   Form* BookMarkTarget = nullptr;

@@ -71,7 +71,6 @@ int RunCalculator(const Options& options, QtEventPump& events, LateTts& speech,
   DesktopLocale locale;
   SystemClock clock;
   SeededRandom random;
-  KeyCapture keys;
   HintNotify hints;
   AppWMSpy windowMessages;
   DesktopWindows windows(options.Home.empty() ? RuntimeFolder() : directories.Home(),
@@ -82,8 +81,8 @@ int RunCalculator(const Options& options, QtEventPump& events, LateTts& speech,
                      QString::fromStdString(directories.ConfigFolder()));
   QtFileDialog fileDialog;
   InverseT inverseT;
-  Platform platform{speech, keys,  hints,  windowMessages, windows, files,      directories, registry,
-                    locale, clock, events, random,         sounds,  fileDialog, inverseT};
+  Platform platform{speech, hints, windowMessages, windows, files,  directories, registry,
+                    locale, clock, events,         random,  sounds, fileDialog,  inverseT};
   ServiceSet services(platform);
 
   DesktopShell shell({services.All.Settings, hints, windowMessages, windows, events, fileDialog});

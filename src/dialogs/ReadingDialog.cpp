@@ -35,7 +35,7 @@ ReadingDialog::ReadingDialog(const ReadingDialogSpec& spec, RichText document, S
       IsReport(spec.IsReport),
       ReaderSpec(MakeReaderSpec(spec)),
       OkSpec(MakeOkSpec()),
-      Services_(services),
+      Common(services),
       Frame(frame) {
   const MessageStore& messages = services.Messages;
   const std::string& ok = messages.GetMessage(OkMessage);
@@ -48,11 +48,11 @@ ReadingDialog::ReadingDialog(const ReadingDialogSpec& spec, RichText document, S
 }
 
 void ReadingDialog::Form_Load() {
-  if (!Services_.Settings.DontSpeak) Services_.Speech.AttachSpeakingControls(*this, Services_.Verbosity);
+  if (!Common.Settings.DontSpeak) Common.Speech.AttachSpeakingControls(*this, Common.Verbosity);
   PlaceFocus(*Document);
-  const bool introduces = IsReport && Services_.Settings.Detail == FullSpeech;
+  const bool introduces = IsReport && Common.Settings.Detail == FullSpeech;
   if (introduces)
-    Services_.Speech.SpeakText(Document->HelpText);
+    Common.Speech.SpeakText(Document->HelpText);
   else if (Sentences.empty())
     OnGotFocus(*Document);  // without it nothing at all would be heard
   ReadOn(introduces);
@@ -60,13 +60,13 @@ void ReadingDialog::Form_Load() {
 
 void ReadingDialog::Form_Unload() {
   Frame.SetReadingTarget(nullptr);
-  Services_.Speech.StopSpeech();
-  Services_.Speech.DetachSpeakingControls(*this);
+  Common.Speech.StopSpeech();
+  Common.Speech.DetachSpeakingControls(*this);
 }
 
 /// From the sentence where the reading stopped; a document that has been read to its end begins anew.
 void ReadingDialog::ReadOn(bool queued) {
-  if (Sentences.empty() || Document->Speaking.Quiescent || !Services_.Speech.HasSpeaker()) return;
+  if (Sentences.empty() || Document->Speaking.Quiescent || !Common.Speech.HasSpeaker()) return;
   if (Sentence >= Sentences.size()) Sentence = 0;
   Frame.SetReadingTarget(this);
   Reading = true;
@@ -77,7 +77,7 @@ void ReadingDialog::ReadOn(bool queued) {
   HeardAll = false;
   marks.push_back({Document->Text.size() - start, static_cast<std::int32_t>(Sentences.size())});
   ShowSentence();
-  Services_.Speech.ReadAloud(std::string_view(Document->Text).substr(start), marks, queued, Numbers());
+  Common.Speech.ReadAloud(std::string_view(Document->Text).substr(start), marks, queued, Numbers());
 }
 
 void ReadingDialog::ShowSentence() {
@@ -88,7 +88,7 @@ void ReadingDialog::ShowSentence() {
 
 bool ReadingDialog::StopReading() {
   if (!std::exchange(Reading, false)) return false;
-  Services_.Speech.StopSpeech();
+  Common.Speech.StopSpeech();
   return true;
 }
 
@@ -119,14 +119,14 @@ void ReadingDialog::OnClick(Control& control) {
 void ReadingDialog::OnGotFocus(Control& control) {
   if (control.Speaking.Quiescent) return;
   Reading = false;  // its words silence the reading
-  Services_.Speech.SpeakText(control.SpokenName);
+  Common.Speech.SpeakText(control.SpokenName);
 }
 
 KeyUse ReadingDialog::OnControlKey(Control& control, const KeyEvent& event) {
   const bool isReader = &control == Document;
   const bool stopped = isReader && StopReading();  // as any key does
   if (event.Code == KeyF1 || event.Code == KeyF7) {
-    Services_.Speech.SpeakText(event.Code == KeyF1 ? control.HelpText : control.SpokenName, Prose);
+    Common.Speech.SpeakText(event.Code == KeyF1 ? control.HelpText : control.SpokenName, Prose);
     return KeyUse::Used;
   }
   if (isReader && ReaderKey(event)) return KeyUse::Used;
@@ -191,17 +191,17 @@ void ReadingDialog::SayLine() {
   const std::string text = Document->Text.substr(line.Start, line.Length);
   // An empty line has to be heard too.
   const bool isBlank = text.find_first_not_of(" \t") == std::string::npos;
-  Services_.Speech.SpeakText(isBlank ? Services_.Speech.SpeakableChar("\r") : text, {0, 0, Numbers()});
+  Common.Speech.SpeakText(isBlank ? Common.Speech.SpeakableChar("\r") : text, {0, 0, Numbers()});
 }
 
 void ReadingDialog::SayCharacter() {
   const std::string& text = Document->Text;
   const std::size_t at = Document->Caret;
   if (at >= text.size() || text[at] == '\n')
-    return Services_.Speech.SpeakText(Services_.Speech.SpeakableChar("\r"));
+    return Common.Speech.SpeakText(Common.Speech.SpeakableChar("\r"));
   const std::size_t next = NextCharacter(text, at);
-  Services_.Speech.SpeakText(
-      Services_.Speech.SpeakableChar(text.substr(at, next == at ? std::string::npos : next - at)));
+  Common.Speech.SpeakText(
+      Common.Speech.SpeakableChar(text.substr(at, next == at ? std::string::npos : next - at)));
 }
 
 }  // namespace qves

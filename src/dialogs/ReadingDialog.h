@@ -51,7 +51,7 @@ class ReadingDialog : public Form {
   const bool IsReport;
   const ControlSpec ReaderSpec;
   const ControlSpec OkSpec;
-  Services& Services_;
+  Services& Common;
   DialogFrame& Frame;
   Reader* Document = nullptr;
   std::vector<TextSpan> Sentences;

@@ -3,8 +3,6 @@
 #include "services/MessageIds.h"
 
 namespace qves {
-namespace {}
-
 void Announcer::Say(std::string_view text, ValueSpan value) {
   Speech.SpeakText(text, value);
   HasSpoken = true;

@@ -38,7 +38,7 @@ inline constexpr ControlSpec MemoryAdd = ButtonSpec("cmdMemory", 3, "M+", 1060, 
 inline constexpr ControlSpec ClearAll = ButtonSpec("cmdMemory", 4, "C", 1062, 1063);
 inline constexpr ControlSpec Pi = ButtonSpec("cmdMemory", 5, "Pi", 1064, 1065);
 
-// With a message as the caption, which stands before the two.
+// name, index, kind, caption, caption message, name message, help message
 inline constexpr ControlSpec Point = {"cmdDecimal", NoIndex, ControlKind::Button, "", DecimalSeparatorMessage,
                                       PointMessage, 1074};
 inline constexpr ControlSpec Backspace = {"cmdBackspace", NoIndex, ControlKind::Button, "", 1075, 1082, 1076};

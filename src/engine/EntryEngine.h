@@ -44,15 +44,16 @@ class EntryEngine {
   /// A key of the view is about to act.
   virtual void BeginKey() { Says.BeginKey(); }
 
-  void Digit(const PressedKey& key);
-  void DecimalPoint(const PressedKey& key);
-  void Backspace(const PressedKey& key);
-  void ClearEntry(const PressedKey& key);
-  void BinaryOperator(const PressedKey& key);
-  void UnaryOperator(const PressedKey& key);
-  void Equals(const PressedKey& key);
+  // What the keys of every view do. A view whose key does more overrides it.
+  virtual void Digit(const PressedKey& key);
+  virtual void DecimalPoint(const PressedKey& key);
+  virtual void Backspace(const PressedKey& key);
+  virtual void ClearEntry(const PressedKey& key);
+  virtual void BinaryOperator(const PressedKey& key);
+  virtual void UnaryOperator(const PressedKey& key);
+  virtual void Equals(const PressedKey& key);
   /// MC, MR, MS, M+, C or Pi, by the caption.
-  void Memory(const PressedKey& key);
+  virtual void Memory(const PressedKey& key);
 
   /// Everything but the memory, back to "0".
   void ClearAll();

@@ -62,6 +62,11 @@ class Form {
   Control* FocusedControl() const { return Focused; }
   /// The control of that name, and index when it is a member of an array; null when there is none.
   Control* Find(std::string_view name, int index = NoIndex) const;
+  /// The same for one that stands alone and is of that kind when it is there.
+  template <class Kind>
+  Kind* FindAs(std::string_view name) const {
+    return static_cast<Kind*>(Find(name));
+  }
 
   virtual void Form_Load() {}
   virtual void Form_Unload() {}

@@ -1,10 +1,8 @@
-// The controls that bring outside events to the hidden host form: the keyboard hook, the menu hints, the
-// window messages. A shell raises them through the listener; without one they are dropped.
+// The controls that bring outside events to the hidden host form: the menu hints and the window messages. A
+// shell raises them through the listener; without one they are dropped.
 #pragma once
 
 #include <string_view>
-
-#include "model/KeyEvent.h"
 
 namespace qves {
 
@@ -16,14 +14,6 @@ class Notifier {
 
  private:
   Listener* Current = nullptr;
-};
-
-class KeyListener {
- public:
-  virtual ~KeyListener() = default;
-  /// True: the key is swallowed.
-  virtual bool KeyDown(const KeyEvent& event) = 0;
-  virtual void KeyUp(int keyCode) = 0;
 };
 
 class HintListener {
@@ -44,8 +34,6 @@ class QueryUnloadListener {
   virtual void QueryUnload(int reason) = 0;
 };
 
-/// The keyboard hook: sees every key before the view does.
-class KeyCapture : public Notifier<KeyListener> {};
 /// The menu-hint control.
 class HintNotify : public Notifier<HintListener> {};
 /// The window-message control: tells of the end of the desktop session.

@@ -14,20 +14,19 @@ namespace qves {
 
 struct Platform {
   TTS& Speech;
-  KeyCapture& Keys;
   HintNotify& Hints;
   AppWMSpy& WindowMessages;
   WindowSystem& Windows;
   FileStore& Files;
   DirectoryManager& Directories;
-  qves::Registry& RegistryStore;
-  qves::Locale& Locale;
-  qves::Clock& Clock;
+  Registry& RegistryStore;
+  Locale& Language;
+  Clock& Time;
   EventPump& Events;
   RandomSource& Random;
   SoundPlayer& Sounds;
   FixedSizeFileDialog& FileDialog;
-  qves::Spreadsheet& Spreadsheet;
+  Spreadsheet& Sheet;
 };
 
 }  // namespace qves

@@ -13,7 +13,7 @@ void ErrorLog::SetFolder(const std::string& temporaryFolder) {
 }
 
 void ErrorLog::WriteErrorLog(int code, std::string_view text) {
-  const std::string line = TheClock.LocalDateTime() + "\t" + std::to_string(code) + "\t" +
+  const std::string line = Time.LocalDateTime() + "\t" + std::to_string(code) + "\t" +
                            MakeReadable(ReplaceAll(text, "\n", " ")) + "\n";
   if (Folder.empty())
     Waiting.push_back(line);

@@ -21,7 +21,7 @@ inline constexpr int HistoryErrorCode = 8;   ///< the history of calculations
 
 class ErrorLog {
  public:
-  ErrorLog(FileStore& files, qves::Clock& clock) : Files(files), TheClock(clock) {}
+  ErrorLog(FileStore& files, Clock& clock) : Files(files), Time(clock) {}
 
   /// The folder the log lives in. Lines written before it is known are kept and written now.
   void SetFolder(const std::string& temporaryFolder);
@@ -34,7 +34,7 @@ class ErrorLog {
   void Append(const std::string& line);
 
   FileStore& Files;
-  qves::Clock& TheClock;
+  Clock& Time;
   std::string Folder;
   std::vector<std::string> Waiting;
 };

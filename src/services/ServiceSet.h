@@ -8,7 +8,7 @@ namespace qves {
 class ServiceSet {
  public:
   explicit ServiceSet(Platform& platform)
-      : Log(platform.Files, platform.Clock),
+      : Log(platform.Files, platform.Time),
         Messages(platform.Files, platform.Directories, Log),
         Verbosity(Messages),
         SettingsStore(Settings, FolderLocations, Messages, Verbosity, Log, platform),

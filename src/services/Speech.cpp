@@ -73,8 +73,9 @@ void SpeechService::ApplyVoiceSettings() {
 void SpeechService::ShutDownSpeech() {
   StopSpeech();
   EndTurn();  // so that it is silent before the wait
-  const std::int64_t end = std::int64_t{Outside.Clock.TickCount()} + ShutDownWait;
-  if (end > std::numeric_limits<std::int32_t>::max()) throw ArithmeticFault(FaultReason::OutOfRange, "the tick count overflows");
+  const std::int64_t end = std::int64_t{Outside.Time.TickCount()} + ShutDownWait;
+  if (end > std::numeric_limits<std::int32_t>::max())
+    throw ArithmeticFault(FaultReason::OutOfRange, "the tick count overflows");
   const auto deadline = static_cast<std::int32_t>(end);
   if (PrimarySpeaker) WaitWhileBusy(*PrimarySpeaker, deadline);
   PrimarySpeaker = nullptr;
@@ -89,7 +90,7 @@ void SpeechService::WaitWhileBusy(const Talker& talker, std::int32_t deadline) {
   constexpr int slice = 5;
   while (talker.Busy()) {
     Outside.Events.ProcessEvents(slice);
-    if (Outside.Clock.TickCount() > deadline) return;
+    if (Outside.Time.TickCount() > deadline) return;
   }
 }
 

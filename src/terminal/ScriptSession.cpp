@@ -58,34 +58,33 @@ ScriptSession::ScriptSession(const Options& options)
     : Directories(options.Home),
       Files(Directories.ConfinedTo(), Directories.ProgramFolder()),
       RegistryStore(Files, Directories.ConfigFolder() + "/QVES/registry.ini"),
-      TheLocale(options.DecimalComma),
-      TheClock(options.Today),
+      Language(options.DecimalComma),
+      Time(options.Today),
       Random(options.Seed),
       RealSpeech(options.Speech ? LoadSpeech(*options.Speech, Events) : nullptr),
       Sounds(Files),
       Outside{RealSpeech ? *RealSpeech : SilentSpeech,
-              Hook,
               Hints,
               WindowMessages,
               Windows,
               Files,
               Directories,
               RegistryStore,
-              TheLocale,
-              TheClock,
+              Language,
+              Time,
               Events,
               Random,
               Sounds,
               FileDialog,
-              TheInverseT},
-      Services_(Outside),
-      App(Services_.All, *this),
+              Sheet},
+      Common(Outside),
+      App(Common.All, *this),
       TellsVoiced(options.Voiced) {
   Files.RefuseRelativePaths();  // the messages are those of the program's own folder
-  Services_.All.Sounds.OnPlayed([this](std::string_view eventName) { Played.emplace_back(eventName); });
-  Services_.All.Speech.SetObserver(this);
+  Common.All.Sounds.OnPlayed([this](std::string_view eventName) { Played.emplace_back(eventName); });
+  Common.All.Speech.SetObserver(this);
   App.Main({options.View});
-  Services_.All.Speech.EndTurn();
+  Common.All.Speech.EndTurn();
   // The lines report what they do themselves; the start is over.
   Spoken.clear();
   Files.TakeWritten();
@@ -100,7 +99,7 @@ const std::string& ScriptSession::Run(int lineNumber, std::string_view line) {
   const std::string error = IsUtf8(line) ? Perform(Trim(line)) : "the line is not UTF-8";
   Errors = Errors || !error.empty();
   Events.ProcessEvents(0);
-  Services_.All.Speech.EndTurn();
+  Common.All.Speech.EndTurn();
   Report(lineNumber, line, error);
   return Line.Text();
 }
@@ -133,9 +132,9 @@ void ScriptSession::Press(const KeyEvent& event) {
   if (event.Code == KeyCapsLock || event.Code == KeyNumLock || event.Code == KeyScrollLock)
     Windows.Toggle(event.Code);
   App.KeyDown(event);
-  Services_.All.Speech.EndTurn();
+  Common.All.Speech.EndTurn();
   App.KeyUp(event.Code);
-  Services_.All.Speech.EndTurn();
+  Common.All.Speech.EndTurn();
 }
 
 std::string ScriptSession::WithControl(std::string_view argument, void (Form::*action)(Control&)) {
@@ -212,7 +211,7 @@ void ScriptSession::TurnEnded(std::span<const SpeechAct> acts, std::size_t first
   for (const SpeechAct& act : acts) {
     const bool isHeard = act.How != SpeechHow::Stop && &act >= &acts[firstHeard];
     Spoken.push_back({NameOf(act.How), act.Text, std::nullopt});
-    if (isHeard && TellsVoiced) Spoken.back().Voiced = Services_.All.Speech.VoicedTextOf(act);
+    if (isHeard && TellsVoiced) Spoken.back().Voiced = Common.All.Speech.VoicedTextOf(act);
   }
 }
 

@@ -65,21 +65,20 @@ class ScriptSession : private AppObserver, private FormObserver, private SpeechO
   BaseDirectories Directories;
   PosixFileStore Files;
   IniRegistry RegistryStore;
-  GivenLocale TheLocale;
-  SystemClock TheClock;
+  GivenLocale Language;
+  SystemClock Time;
   EventQueue Events;
   SeededRandom Random;
   TerminalWindows Windows;
-  KeyCapture Hook;
   HintNotify Hints;
   AppWMSpy WindowMessages;
   std::unique_ptr<TTS> RealSpeech;  ///< null: the silent one speaks
   SilentTts SilentSpeech;
   SilentSounds Sounds;
   AnsweredFileDialog FileDialog;
-  InverseT TheInverseT;
+  InverseT Sheet;
   Platform Outside;
-  ServiceSet Services_;
+  ServiceSet Common;
   CalculatorApp App;
 
   JsonLine Line;

@@ -4,14 +4,14 @@ namespace qves {
 namespace {
 
 constexpr ClickRow SharedRows[] = {
-    {"cmdDigit", Do<EntryEngine, &EntryEngine::Digit>, FocusRule::Moves},
-    {"cmdDecimal", Do<EntryEngine, &EntryEngine::DecimalPoint>, FocusRule::Moves},
-    {"cmdBiOp", Do<EntryEngine, &EntryEngine::BinaryOperator>, FocusRule::Moves},
-    {"cmdMemory", Do<EntryEngine, &EntryEngine::Memory>, FocusRule::Moves},
-    {"cmdCE", Do<EntryEngine, &EntryEngine::ClearEntry>, FocusRule::Moves},
-    {"cmdUOp", Do<EntryEngine, &EntryEngine::UnaryOperator>, FocusRule::Stays},
-    {"cmdEqual", Do<EntryEngine, &EntryEngine::Equals>, FocusRule::Stays},
-    {"cmdBackspace", Do<EntryEngine, &EntryEngine::Backspace>, FocusRule::Stays},
+    {"cmdDigit", &EntryEngine::Digit, FocusRule::Moves},
+    {"cmdDecimal", &EntryEngine::DecimalPoint, FocusRule::Moves},
+    {"cmdBiOp", &EntryEngine::BinaryOperator, FocusRule::Moves},
+    {"cmdMemory", &EntryEngine::Memory, FocusRule::Moves},
+    {"cmdCE", &EntryEngine::ClearEntry, FocusRule::Moves},
+    {"cmdUOp", &EntryEngine::UnaryOperator, FocusRule::Stays},
+    {"cmdEqual", &EntryEngine::Equals, FocusRule::Stays},
+    {"cmdBackspace", &EntryEngine::Backspace, FocusRule::Stays},
 };
 
 const ClickRow* Find(std::span<const ClickRow> rows, std::string_view array) {

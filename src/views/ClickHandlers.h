@@ -15,16 +15,18 @@ enum class FocusRule {
   MovesSilently,  ///< the key itself says what the control would
 };
 
+using KeyOperation = void (EntryEngine::*)(const PressedKey&);
+
 struct ClickRow {
   std::string_view Array;
-  void (*Operation)(EntryEngine&, const PressedKey&);
+  KeyOperation Operation;
   FocusRule Focus;
 };
 
-/// A click operation out of an operation of the view's own engine.
-template <class Engine, void (Engine::*Operation)(const PressedKey&)>
-void Do(EntryEngine& engine, const PressedKey& key) {
-  (static_cast<Engine&>(engine).*Operation)(key);
+/// An operation that only the view's own engine has. The cast is not for a constant expression.
+template <class Engine>
+KeyOperation Own(void (Engine::*operation)(const PressedKey&)) noexcept {
+  return static_cast<KeyOperation>(operation);
 }
 
 /// The row of that control or array, of those that the view has alone or of those that all views share; null

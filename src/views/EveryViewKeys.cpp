@@ -36,7 +36,7 @@ void View::Redo() {
 }
 
 void View::TellStep(const std::string* step, int toldMessage, int noneMessage) {
-  if (!step) return Services_.Speech.SpeakText(Message(noneMessage));
+  if (!step) return Common.Speech.SpeakText(Message(noneMessage));
   Says.Say(FillPlaceholders(Message(toldMessage), {*step}));
   Engine->SayValue();
 }

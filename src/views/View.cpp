@@ -5,25 +5,18 @@
 #include "model/ArithmeticFault.h"
 #include "services/MessageIds.h"
 #include "services/WindowActivation.h"
-#include "views/LockKeys.h"
 #include "views/MakeControl.h"
 
 namespace qves {
 namespace {
 
 constexpr std::string_view HostWindow = " Quorvane 1000";
-constexpr KeyEvent CopyKey{'C', ControlBit, 0};
-constexpr KeyEvent SelectAllKey{'A', ControlBit, 0};
-
-bool Is(const KeyEvent& event, const KeyEvent& key) {
-  return event.Code == key.Code && event.Shift == key.Shift;
-}
 
 }  // namespace
 
 View::View(const ViewTables& tables, Services& services, ViewFrame& frame)
     : Form(std::string(tables.FormName), services.Messages.GetMessage(TitleMessage)),
-      Services_(services),
+      Common(services),
       Says(services.Speech, services.Messages),
       Frame(frame),
       Tables(tables) {
@@ -34,13 +27,13 @@ View::View(const ViewTables& tables, Services& services, ViewFrame& frame)
 
 void View::AddControls() {
   for (const ControlSpec& spec : Tables.Controls) {
-    Control& control = Add(MakeControl(spec, Services_.Messages));
+    Control& control = Add(MakeControl(spec, Common.Messages));
     if (auto* box = dynamic_cast<CheckBox*>(&control)) Boxes.push_back(box);
     if (auto* list = dynamic_cast<ListBox*>(&control)) OptionLists.push_back(list);
     if (auto* list = dynamic_cast<ListView*>(&control)) DataLists.push_back(list);
   }
-  Display = static_cast<TextBox*>(Find("txtDisplay"));
-  MemoryBox = static_cast<TextBox*>(Find("txtMemory"));
+  Display = FindAs<TextBox>("txtDisplay");
+  MemoryBox = FindAs<TextBox>("txtMemory");
 }
 
 void View::AddMenus() {
@@ -55,15 +48,15 @@ void View::AddMenus() {
 }
 
 void View::Form_Load() {
-  Services_.Messages.LoadMessageFile("CalcMsg.txt");
-  if (!Services_.Settings.DontSpeak) CreateSpeech();
+  Common.Messages.LoadMessageFile("CalcMsg.txt");
+  if (!Common.Settings.DontSpeak) CreateSpeech();
   Frame.LoadHostForm(*this);
-  if (Frame.TakeWelcome()) Services_.Speech.SpeakText(Message(WelcomeMessage));
+  if (Frame.TakeWelcome()) Common.Speech.SpeakText(Message(WelcomeMessage));
   Engine->ClearAll();
   // Silently: the view's name is being spoken.
   PlaceFocus(*Display);
-  Services_.Settings.CalcView = static_cast<std::int16_t>(Frame.Identity().CalcView);
-  Services_.Speech.SpeakTextQueued(Message(Frame.Identity().NameMessage));
+  Common.Settings.CalcView = static_cast<std::int16_t>(Frame.Identity().CalcView);
+  Common.Speech.SpeakTextQueued(Message(Frame.Identity().NameMessage));
   Frame.ViewLoaded();
 }
 
@@ -84,78 +77,40 @@ void View::PutChoices(const Choices& choices) {
 }
 
 void View::CreateSpeech() {
-  const AppSettings& s = Services_.Settings;
-  if (Services_.Speech.CreateSpeech(s.SystemVoice, s.SystemManuf, s.SystemProduct, s.SystemLanguage))
-    Services_.Speech.AttachSpeakingControls(*this, Services_.Verbosity);
+  const AppSettings& s = Common.Settings;
+  if (Common.Speech.CreateSpeech(s.SystemVoice, s.SystemManuf, s.SystemProduct, s.SystemLanguage))
+    Common.Speech.AttachSpeakingControls(*this, Common.Verbosity);
 }
 
 void View::Form_Unload() {
-  Services_.SettingsStore.SaveSettings();
+  Common.SettingsStore.SaveSettings();
   Frame.LeaveKeys();
   ShutDownSpeech();
   Frame.UnloadHostForm();
-  if (!Frame.IsSwitching()) ActivateWindowByTitle(Services_.Outside.Windows, HostWindow);
+  if (!Frame.IsSwitching()) ActivateWindowByTitle(Common.Outside.Windows, HostWindow);
 }
 
 void View::ShutDownSpeech() {
   try {
-    Services_.Speech.ShutDownSpeech();
+    Common.Speech.ShutDownSpeech();
   } catch (const ArithmeticFault& fault) {
-    Services_.Log.WriteErrorLog(OverflowErrorCode,
-                                std::string(fault.what()) + "; speech is released without a wait");
-    Services_.Speech.ReleaseSpeech();
+    Common.Log.WriteErrorLog(OverflowErrorCode,
+                             std::string(fault.what()) + "; speech is released without a wait");
+    Common.Speech.ReleaseSpeech();
   }
-  Services_.Speech.DetachSpeakingControls(*this);
-}
-
-void View::NotifyKeyDown(bool& handled, const KeyEvent& event) {
-  if (PressEveryViewKey(event)) {
-    handled = true;
-    return;
-  }
-  if (!Frame.IsActive(*this)) return;
-  const auto target = [&](const KeyRow& row) { return Find(row.Target.Name, IndexFor(row, event.Code)); };
-  const KeyRow* row = FindKeyRow(
-      Tables.KeyMap, event, [&](const KeyRow& one) { return !one.WhileEnabled || target(one)->Enabled; });
-  if (!row || row->Action == KeyAction::LeaveIt) return;
-  handled = true;
-  if (row->Action == KeyAction::Click) return PressByKey(*target(*row));
-  if (row->Action == KeyAction::RepeatSpeech)  // changes nothing, not even what Enter presses
-    return Services_.Speech.RepeatSpeech();
-  GoByKey(*target(*row));
-}
-
-/// The control is heard at once, also when it has the focus already: who presses the key wants to hear it.
-void View::GoByKey(Control& control) {
-  EnterPressesDefault();
-  if (&control != FocusedControl()) PlaceFocus(control);
-  Introduce(control, false);
-}
-
-/// After a key has acted through a button the focus goes to its resting place, where the view has one,
-/// without a word: nothing is to cut off what the key said.
-void View::PressByKey(Control& control) {
-  if (!control.Enabled)
-    return Services_.Speech.SpeakText(control.SpokenName + ", " + Message(DisabledMessage));
-  EnterPressesDefault();
-  Click(control);
-  if (Control* rest = Find(Tables.RestingControl); rest && rest != FocusedControl()) PlaceFocus(*rest);
-}
-
-void View::Form_KeyUp(int keyCode) {
-  AnnounceLockKey(Services_, keyCode);
+  Common.Speech.DetachSpeakingControls(*this);
 }
 
 void View::OnClick(Control& control) {
   if (dynamic_cast<TextBox*>(&control)) return SayOf(control, false);
   if (const auto* box = dynamic_cast<CheckBox*>(&control))
-    return Services_.Speech.SpeakText(box->SpokenName + " " + StateOf(*box));
+    return Common.Speech.SpeakText(box->SpokenName + " " + StateOf(*box));
   const ClickRow* row = FindClickRow(Tables.Clicks, control.Name());
   if (!row) return;
   if (row->Focus == FocusRule::Moves) SetFocus(control);
   if (row->Focus == FocusRule::MovesSilently) PlaceFocus(control);
   Engine->BeginKey();
-  row->Operation(*Engine, {control.Caption, control.SpokenName, control.HelpText});
+  (Engine.get()->*row->Operation)({control.Caption, control.SpokenName, control.HelpText});
 }
 
 void View::OnChoose(ListControl& list) {
@@ -174,18 +129,17 @@ void View::Introduce(Control& control, bool queued) {
   SayOf(control, queued);
   const bool saysHelp =
       dynamic_cast<CheckBox*>(&control) || dynamic_cast<ListBox*>(&control) || control.Has(HelpOnFocus);
-  if (saysHelp && !control.Speaking.Quiescent) Services_.Speech.SpeakHelp(control.HelpText);
+  if (saysHelp && !control.Speaking.Quiescent) Common.Speech.SpeakHelp(control.HelpText);
 }
 
 void View::SayOf(const Control& control, bool queued) {
   const auto [text, value] = Announcement(control);
   if (control.Speaking.Quiescent) return;
   if (queued)
-    Services_.Speech.SpeakTextQueued(text, value);
+    Common.Speech.SpeakTextQueued(text, value);
   else
-    Services_.Speech.SpeakText(text, value);
-  if (const auto* box = dynamic_cast<const CheckBox*>(&control))
-    Services_.Speech.SpeakTextQueued(StateOf(*box));
+    Common.Speech.SpeakText(text, value);
+  if (const auto* box = dynamic_cast<const CheckBox*>(&control)) Common.Speech.SpeakTextQueued(StateOf(*box));
 }
 
 const std::string& View::StateOf(const CheckBox& box) const {
@@ -198,7 +152,7 @@ SpokenText View::Announcement(const Control& control) {
   if (&control == MemoryBox && !MemoryBox->Text.empty()) return {control.SpokenName + " " + MemoryBox->Text};
   if (const auto* list = dynamic_cast<const ListControl*>(&control)) return ChosenWords(*list);
   if (control.Has(MultiLine))
-    return {Services_.Speech.SpeechFormatNumber(static_cast<const TextBox&>(control).Text)};
+    return {Common.Speech.SpeechFormatNumber(static_cast<const TextBox&>(control).Text)};
   if (&control != Display) return {control.SpokenName};
   SelectAll(*Display);  // so that a copy takes all of it
   if (Engine->InError()) return {Message(ErrorMessage)};
@@ -207,7 +161,7 @@ SpokenText View::Announcement(const Control& control) {
 
 SpokenText View::ValueOfDisplay() const {
   const std::string& sentence = Message(CurrentValueMessage);
-  const std::string value = Services_.Speech.SpeechFormatNumber(Engine->DisplayText());
+  const std::string value = Common.Speech.SpeechFormatNumber(Engine->DisplayText());
   const std::size_t start = sentence.find(Placeholder);
   if (start == std::string::npos) return {sentence};
   return {FillPlaceholders(sentence, {value}), {start, value.size(), Engine->DisplayKind()}};
@@ -218,43 +172,9 @@ SpokenText View::ChosenWords(const ListControl& list) const {
   return {fixed ? fixed->Chosen().SpokenText : ""};
 }
 
-KeyUse View::OnControlKey(Control& control, const KeyEvent& event) {
-  if (event.Code == KeyF1) {
-    Services_.Speech.SpeakText(control.HelpText, Prose);
-    return KeyUse::Used;
-  }
-  if (event.Code == KeyF7) {
-    SayOf(control, false);
-    return KeyUse::Used;
-  }
-  auto* box = dynamic_cast<TextBox*>(&control);
-  return box ? TextBoxKey(*box, event) : KeyUse::Unused;
-}
-
-KeyUse View::TextBoxKey(TextBox& box, const KeyEvent& event) {
-  if (Is(event, CopyKey)) {
-    Services_.Speech.SpeakText(Message(CopyMessage));
-    return KeyUse::PassedOn;  // the copy itself is the toolkit's
-  }
-  if (!box.Has(MultiLine) || !Is(event, SelectAllKey)) return KeyUse::Unused;
-  SelectAll(box);
-  Services_.Speech.SpeakText(Message(AllSelectedMessage));
-  return KeyUse::Used;
-}
-
 void View::OnMenu(int id) {
-  switch (id) {
-    case ExitItem:
-      return Frame.Exit();
-    case AboutItem:
-    case HotKeysItem:
-    case InverseItem:
-    case AboutStatisticsItem:
-    case StatisticsHotKeysItem:
-      return Frame.OpenHelp(id);
-    default:
-      return Frame.ChooseView(id);
-  }
+  if (id == ExitItem) return Frame.Exit();
+  if (!Frame.OpenHelp(id)) Frame.ChooseView(id);
 }
 
 }  // namespace qves

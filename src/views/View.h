@@ -62,7 +62,7 @@ class View : public Form, protected EngineHost {
   /// Shows all of a calculation that has been put back.
   virtual void ShowCalculation() { Engine->ShowAll(); }
   const std::string& ViewName() const { return Message(Frame.Identity().NameMessage); }
-  const std::string& Message(int id) const { return Services_.Messages.GetMessage(id); }
+  const std::string& Message(int id) const { return Common.Messages.GetMessage(id); }
 
   /// The user has chosen another item; it has been spoken.
   virtual void OnNewChoice(ListControl&) {}
@@ -72,7 +72,7 @@ class View : public Form, protected EngineHost {
   virtual SpokenText ChosenWords(const ListControl& list) const;
   void OnMenu(int id) override;
 
-  Services& Services_;
+  Services& Common;
   Announcer Says;
   ViewFrame& Frame;
 

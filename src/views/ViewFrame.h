@@ -35,8 +35,8 @@ class ViewFrame {
   virtual bool IsSwitching() const = 0;
   /// Whether the view has the keyboard: no dialog is open above it.
   virtual bool IsActive(const Form& view) const = 0;
-  /// Opens the dialog of that Help-menu item.
-  virtual void OpenHelp(int menuItem) = 0;
+  /// Opens the dialog of that Help-menu item; false when it is no such item.
+  virtual bool OpenHelp(int menuItem) = 0;
   /// Opens the dialog that reads the report of the statistics.
   virtual void OpenResult() = 0;
   /// The view has finished its load.

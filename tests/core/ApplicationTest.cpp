@@ -28,7 +28,6 @@ TEST_F(ApplicationTest, LeavingSavesStopsAndGivesTheHostItsFocusBack) {
   EXPECT_EQ(Events, (Texts{"shown frmStandard", "closed frmStandard", "ended"}));
   EXPECT_EQ(Outside.Files.Content[Outside.OwnFile], "\"Calc Settings\"\n\"CalcView\",2\n");
   EXPECT_EQ(App->ActiveForm(), nullptr);
-  EXPECT_EQ(Outside.Keys.GetListener(), nullptr);
   EXPECT_FALSE(App->KeyDown({'7', NoShift, U'7'}));
 }
 

@@ -207,7 +207,6 @@ struct FakeSpreadsheet : Spreadsheet {
 
 struct FakePlatform {
   FakeTts Speech;
-  KeyCapture Keys;
   HintNotify Hints;
   AppWMSpy WindowMessages;
   FakeWindows Windows;
@@ -221,8 +220,8 @@ struct FakePlatform {
   FakeSounds Sounds{Files};
   FakeFileDialog FileDialog;
   FakeSpreadsheet TheSpreadsheet;
-  Platform All{Speech,    Keys,     Hints,  WindowMessages, Windows, Files,      Directories,   RegistryStore,
-               TheLocale, TheClock, Events, Random,         Sounds,  FileDialog, TheSpreadsheet};
+  Platform All{Speech,    Hints,    WindowMessages, Windows, Files,  Directories, RegistryStore,
+               TheLocale, TheClock, Events,         Random,  Sounds, FileDialog,  TheSpreadsheet};
 
   FakePlatform() {
     Files.Content["/program/Messages.txt"] =

@@ -26,7 +26,7 @@ class BusinessEngine : public EntryEngine {
   BusinessEngine(BusinessState& state, EngineHost& host, BusinessHost& modes, Announcer& announcer);
 
   void BeginKey() override;
-  void Memory(const PressedKey& key);
+  void Memory(const PressedKey& key) override;
 
   // RegisterKeys.cpp
   /// CAL, RCL or STO: what the next register key does. It says its name and help each time.

@@ -8,12 +8,11 @@
 namespace qves {
 namespace {
 
-constexpr auto Prefix = Do<BusinessEngine, &BusinessEngine::PrefixKey>;
+const KeyOperation Prefix = Own(&BusinessEngine::PrefixKey);
 
-constexpr ClickRow Clicks[] = {
-    {"cmdMemory", Do<BusinessEngine, &BusinessEngine::Memory>, FocusRule::Moves},
-    {"cmdFinancial", Do<BusinessEngine, &BusinessEngine::RegisterKey>, FocusRule::Stays},
-    {"cmdXchange", Do<BusinessEngine, &BusinessEngine::ExchangeKey>, FocusRule::Stays},
+const ClickRow Clicks[] = {
+    {"cmdFinancial", Own(&BusinessEngine::RegisterKey), FocusRule::Stays},
+    {"cmdXchange", Own(&BusinessEngine::ExchangeKey), FocusRule::Stays},
     {"cmdCal", Prefix, FocusRule::MovesSilently},
     {"cmdRecall", Prefix, FocusRule::MovesSilently},
     {"cmdSTO", Prefix, FocusRule::MovesSilently},
@@ -33,9 +32,9 @@ constexpr ViewTables BusinessTables = {
 
 frmBusiness::frmBusiness(Services& services, ViewFrame& frame)
     : StateView(BusinessTables, services, frame),
-      INTBase(static_cast<ListBox*>(Find("lltINTBase"))),
-      PMTMode(static_cast<ListBox*>(Find("lltPMTMode"))),
-      OddPeriodMode(static_cast<ListBox*>(Find("lltOddPeriod"))) {
+      INTBase(FindAs<ListBox>("lltINTBase")),
+      PMTMode(FindAs<ListBox>("lltPMTMode")),
+      OddPeriodMode(FindAs<ListBox>("lltOddPeriod")) {
   int id = FirstWeekdayMessage;
   for (std::string& name : Names.Weekdays) name = services.Messages.GetMessage(id++);
   id = FirstMonthMessage;

@@ -15,7 +15,7 @@ class frmBusiness : public StateView<BusinessState>, private BusinessHost {
   int PaymentMode() const override { return PMTMode->ListIndex; }
   int OddPeriod() const override { return OddPeriodMode->ListIndex; }
   int InterestBasis() const override;
-  Date Today() const override { return Services_.Outside.Clock.Today(); }
+  Date Today() const override { return Common.Outside.Time.Today(); }
   const DateNames& NamesOfDates() const override { return Names; }
 
   ListBox* INTBase;

@@ -25,16 +25,17 @@ class ScientificEngine : public EntryEngine {
  public:
   ScientificEngine(ScientificState& state, EngineHost& host, ScientificHost& modes, Announcer& announcer);
 
-  // ExponentKeys.cpp
-  void Digit(const PressedKey& key);
-  void DecimalPoint(const PressedKey& key);
-  void Backspace(const PressedKey& key);
+  // In an exponent entry these three belong to the exponent (ExponentKeys.cpp).
+  void Digit(const PressedKey& key) override;
+  void DecimalPoint(const PressedKey& key) override;
+  void Backspace(const PressedKey& key) override;
 
-  void ClearEntry(const PressedKey& key);
-  void BinaryOperator(const PressedKey& key);
-  void UnaryOperator(const PressedKey& key);
-  void Equals(const PressedKey& key);
-  void Memory(const PressedKey& key);
+  // These end it.
+  void ClearEntry(const PressedKey& key) override;
+  void BinaryOperator(const PressedKey& key) override;
+  void UnaryOperator(const PressedKey& key) override;
+  void Equals(const PressedKey& key) override;
+  void Memory(const PressedKey& key) override;
 
   // ParenthesisKeys.cpp
   void LeftParen(const PressedKey& key);

@@ -7,17 +7,9 @@
 namespace qves {
 namespace {
 
-constexpr ClickRow Clicks[] = {
-    {"cmdDigit", Do<ScientificEngine, &ScientificEngine::Digit>, FocusRule::Moves},
-    {"cmdDecimal", Do<ScientificEngine, &ScientificEngine::DecimalPoint>, FocusRule::Moves},
-    {"cmdBiOp", Do<ScientificEngine, &ScientificEngine::BinaryOperator>, FocusRule::Moves},
-    {"cmdMemory", Do<ScientificEngine, &ScientificEngine::Memory>, FocusRule::Moves},
-    {"cmdCE", Do<ScientificEngine, &ScientificEngine::ClearEntry>, FocusRule::Moves},
-    {"cmdUOp", Do<ScientificEngine, &ScientificEngine::UnaryOperator>, FocusRule::Stays},
-    {"cmdEqual", Do<ScientificEngine, &ScientificEngine::Equals>, FocusRule::Stays},
-    {"cmdBackspace", Do<ScientificEngine, &ScientificEngine::Backspace>, FocusRule::Stays},
-    {"cmdLeftParen", Do<ScientificEngine, &ScientificEngine::LeftParen>, FocusRule::Moves},
-    {"cmdRightParen", Do<ScientificEngine, &ScientificEngine::RightParen>, FocusRule::Moves},
+const ClickRow Clicks[] = {
+    {"cmdLeftParen", Own(&ScientificEngine::LeftParen), FocusRule::Moves},
+    {"cmdRightParen", Own(&ScientificEngine::RightParen), FocusRule::Moves},
 };
 
 static_assert(AllStandIn(scientific::Controls, scientific::KeyMap));
@@ -35,10 +27,10 @@ constexpr ViewTables ScientificTables = {
 
 frmScientific::frmScientific(Services& services, ViewFrame& frame)
     : StateView(ScientificTables, services, frame),
-      Inv(static_cast<CheckBox*>(Find("cbInv"))),
-      Hyp(static_cast<CheckBox*>(Find("cbHyp"))),
-      NumBases(static_cast<ListBox*>(Find("lltNumBase"))),
-      TrigModes(static_cast<ListBox*>(Find("lltTrigMode"))) {
+      Inv(FindAs<CheckBox>("cbInv")),
+      Hyp(FindAs<CheckBox>("cbHyp")),
+      NumBases(FindAs<ListBox>("lltNumBase")),
+      TrigModes(FindAs<ListBox>("lltTrigMode")) {
   EngineHost& host = *this;
   ScientificHost& modes = *this;
   auto engine = std::make_unique<ScientificEngine>(Now, host, modes, Says);

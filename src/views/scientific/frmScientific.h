@@ -22,7 +22,7 @@ class frmScientific : public StateView<ScientificState>, private ScientificHost 
   void ClearInverse() override { SetChecked(*Inv, false); }
   void ClearHyperbolic() override { SetChecked(*Hyp, false); }
   int TrigMode() const override { return TrigModes->ListIndex; }
-  double NextRandom() override { return Services_.Outside.Random.Next(); }
+  double NextRandom() override { return Common.Outside.Random.Next(); }
 
   void OnNewChoice(ListControl& list) override;
   void SetBaseButtons(int base);

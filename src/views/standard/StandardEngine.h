@@ -19,7 +19,7 @@ class StandardEngine : public EntryEngine {
  public:
   StandardEngine(StandardState& state, EngineHost& host, TapeHost& tapeHost, Announcer& announcer);
 
-  void Memory(const PressedKey& key);
+  void Memory(const PressedKey& key) override;
 
  protected:
   void Evaluate(double first, double& second, std::string_view op) override;

@@ -6,10 +6,6 @@
 namespace qves {
 namespace {
 
-constexpr ClickRow Clicks[] = {
-    {"cmdMemory", Do<StandardEngine, &StandardEngine::Memory>, FocusRule::Moves},
-};
-
 static_assert(AllStandIn(standard::Controls, standard::KeyMap));
 
 constexpr ViewTables StandardTables = {
@@ -17,13 +13,12 @@ constexpr ViewTables StandardTables = {
     .Controls = standard::Controls,
     .Panels = standard::Panels,
     .KeyMap = standard::KeyMap,
-    .Clicks = Clicks,
 };
 
 }  // namespace
 
 frmStandard::frmStandard(Services& services, ViewFrame& frame)
-    : StateView(StandardTables, services, frame), Tape(static_cast<TextBox*>(Find("txtResult"))) {
+    : StateView(StandardTables, services, frame), Tape(FindAs<TextBox>("txtResult")) {
   EngineHost& host = *this;
   TapeHost& tape = *this;
   UseEngine(std::make_unique<StandardEngine>(Now, host, tape, Says));

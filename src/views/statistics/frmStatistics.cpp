@@ -18,13 +18,13 @@ constexpr MenuSpec Menus[] = {
     {HelpMenu, {AboutStatisticsItem, StatisticsHotKeysItem, InverseItem}},
 };
 
-constexpr ClickRow Clicks[] = {
-    {"cmdSign", Do<EntryEngine, &EntryEngine::UnaryOperator>, FocusRule::Stays},
-    {"cmdAdd", Do<StatisticsEngine, &StatisticsEngine::Add>, FocusRule::Stays},
-    {"cmdRemove", Do<StatisticsEngine, &StatisticsEngine::Remove>, FocusRule::Moves},
-    {"cmdClear", Do<StatisticsEngine, &StatisticsEngine::Clear>, FocusRule::Moves},
-    {"cmdRun", Do<StatisticsEngine, &StatisticsEngine::Run>, FocusRule::Moves},
-    {"cmdStat", Do<StatisticsEngine, &StatisticsEngine::SetParameter>, FocusRule::Stays},
+const ClickRow Clicks[] = {
+    {"cmdSign", &EntryEngine::UnaryOperator, FocusRule::Stays},
+    {"cmdAdd", Own(&StatisticsEngine::Add), FocusRule::Stays},
+    {"cmdRemove", Own(&StatisticsEngine::Remove), FocusRule::Moves},
+    {"cmdClear", Own(&StatisticsEngine::Clear), FocusRule::Moves},
+    {"cmdRun", Own(&StatisticsEngine::Run), FocusRule::Moves},
+    {"cmdStat", Own(&StatisticsEngine::SetParameter), FocusRule::Stays},
 };
 
 static_assert(AllStandIn(statistics::Controls, statistics::KeyMap));
@@ -43,9 +43,9 @@ constexpr ViewTables StatisticsTables = {
 
 frmStatistics::frmStatistics(Services& services, ViewFrame& frame)
     : StateView(StatisticsTables, services, frame),
-      Lists{static_cast<ListView*>(Find("lvwData")), static_cast<ListView*>(Find("lvwData2"))},
-      IgnoreZero(static_cast<CheckBox*>(Find("cbIgnoreZero"))),
-      UseList2(static_cast<CheckBox*>(Find("cbUseList2"))) {
+      Lists{FindAs<ListView>("lvwData"), FindAs<ListView>("lvwData2")},
+      IgnoreZero(FindAs<CheckBox>("cbIgnoreZero")),
+      UseList2(FindAs<CheckBox>("cbUseList2")) {
   for (const DataList list : {DataList::Main, DataList::Second})
     ListOf(list).Items = &Now.Lists[static_cast<std::size_t>(list)];
   EngineHost& host = *this;
@@ -64,7 +64,7 @@ SpokenText frmStatistics::Announcement(const Control& control) {
   if (!list) return View::Announcement(control);
   const DataList which = list == Lists[0] ? DataList::Main : DataList::Second;
   const std::string name = list->SpokenName + ", ";
-  if (list->ItemCount() == 0) return {name + Services_.Messages.GetMessage(WordsOf(which).Empty)};
+  if (list->ItemCount() == 0) return {name + Common.Messages.GetMessage(WordsOf(which).Empty)};
   SpokenText words = ChosenWords(*list);
   words.Text.insert(0, name);
   words.Value.Start += name.size();
@@ -74,9 +74,9 @@ SpokenText frmStatistics::Announcement(const Control& control) {
 /// The item, and its place in the list where the user wants to hear that.
 SpokenText frmStatistics::ChosenWords(const ListControl& list) const {
   if (list.ListIndex == NoItem) return {};
-  const std::string item = Services_.Speech.SpeechFormatNumber(list.ItemText(list.ListIndex));
+  const std::string item = Common.Speech.SpeechFormatNumber(list.ItemText(list.ListIndex));
   SpokenText words{item, {0, item.size()}};
-  const std::string place = Services_.Sounds.VerbosityAnnounce(ListPositionEntry, false);
+  const std::string place = Common.Sounds.VerbosityAnnounce(ListPositionEntry, false);
   if (!place.empty())
     words.Text +=
         " " + FillPlaceholders(place, {std::to_string(list.ListIndex + 1), std::to_string(list.ItemCount())});
@@ -85,8 +85,8 @@ SpokenText frmStatistics::ChosenWords(const ListControl& list) const {
 
 void frmStatistics::OnListEnd(ListControl&, int step) {
   const std::string words =
-      Services_.Sounds.VerbosityAnnounce(step < 0 ? TopOfListEntry : BottomOfListEntry, false);
-  if (!words.empty()) Services_.Speech.SpeakText(words);
+      Common.Sounds.VerbosityAnnounce(step < 0 ? TopOfListEntry : BottomOfListEntry, false);
+  if (!words.empty()) Common.Speech.SpeakText(words);
 }
 
 void frmStatistics::OnMenu(int id) {
@@ -99,16 +99,15 @@ void frmStatistics::OnMenu(int id) {
 /// A fault ends the calculation without a word, and the dialog reads the report of the run before. Both are
 /// wanted.
 void frmStatistics::Report(double degreesOfFreedom, double alpha) {
-  const std::string path = Services_.FolderLocations.ReportFile();
+  const std::string path = Common.FolderLocations.ReportFile();
   try {
-    const StatisticsResult result =
-        RunStatistics({Items(DataList::Main).Copy(), Items(DataList::Second).Copy(), IgnoresZero(),
-                       degreesOfFreedom, alpha},
-                      Services_.Outside.Spreadsheet);
+    const StatisticsResult result = RunStatistics(
+        {Items(DataList::Main), Items(DataList::Second), IgnoresZero(), degreesOfFreedom, alpha},
+        Common.Outside.Sheet);
     std::string error;
-    if (!Services_.Outside.Files.Write(path, WriteReport(result, Services_.Messages), error))
-      Services_.Log.WriteErrorLog(ReportErrorCode, "The report " + path + " cannot be written: " + error +
-                                                       "; the one of before is read");
+    if (!Common.Outside.Files.Write(path, WriteReport(result, Common.Messages), error))
+      Common.Log.WriteErrorLog(ReportErrorCode, "The report " + path + " cannot be written: " + error +
+                                                    "; the one of before is read");
   } catch (const ArithmeticFault&) {
   }
   Frame.OpenResult();
@@ -116,10 +115,10 @@ void frmStatistics::Report(double degreesOfFreedom, double alpha) {
 
 /// The folder is made, so that the dialog begins in the same one before and after the first report.
 void frmStatistics::Import() {
-  const MessageStore& messages = Services_.Messages;
-  const std::string& folder = Services_.FolderLocations.DocumentsFolder;
-  Services_.Outside.Files.MakeFolder(folder);
-  const std::string path = Services_.Outside.FileDialog.Show(
+  const MessageStore& messages = Common.Messages;
+  const std::string& folder = Common.FolderLocations.DocumentsFolder;
+  Common.Outside.Files.MakeFolder(folder);
+  const std::string path = Common.Outside.FileDialog.Show(
       {messages.GetMessage(ImportTitleMessage), messages.GetMessage(ImportFilterMessage), "txt", folder});
   if (path.empty()) return;
   ImportFile(path);
@@ -129,10 +128,10 @@ void frmStatistics::Import() {
 /// The list is emptied when the file is open, before anything is read: what a broken file loses is wanted so.
 void frmStatistics::ImportFile(const std::string& path) {
   const auto log = [&](const std::string& what) {
-    Services_.Log.WriteErrorLog(ImportErrorCode, path + ": " + what);
+    Common.Log.WriteErrorLog(ImportErrorCode, path + ": " + what);
   };
   std::string error;
-  const auto text = Services_.Outside.Files.Read(path, error);
+  const auto text = Common.Outside.Files.Read(path, error);
   if (!text) return log(error + "; nothing is imported");
   ListView& list = ListOf(TargetList());
   RemoveItems(list, 0, list.ItemCount());
