@@ -74,8 +74,7 @@ int RunCalculator(const Options& options, QtEventPump& events, LateTts& speech,
   KeyCapture keys;
   HintNotify hints;
   AppWMSpy windowMessages;
-  DesktopWindows windows(options.Home.empty() ? RuntimeFolder() : directories.Home(),
-                         QGuiApplication::platformName() == "xcb");
+  DesktopWindows windows(options.Home);
   ModuleSounds sounds(events);
   // Where the toolkit's file dialog keeps its own state.
   QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope,
