@@ -135,8 +135,8 @@ void View::OnClick(Control& control) {
 
 void View::OnChoose(ListControl& list) {
   Says.BeginKey();
-  const std::string words = ChosenWords(list);
-  Says.Say(words, ValueIn(list, words));
+  const Wording words = ChosenWords(list);
+  Says.Say(words.Text, words.Value);
   OnNewChoice(list);
 }
 
@@ -153,9 +153,8 @@ void View::Introduce(Control& control, bool queued) {
 }
 
 void View::SayOf(const Control& control, bool queued) {
-  const std::string text = Announcement(control);
+  const auto [text, value] = Announcement(control);
   if (control.Speaking.Quiescent) return;
-  const ValueSpan value = ValueIn(control, text);
   if (queued)
     Services_.Speech.SpeakTextQueued(text, value);
   else
@@ -168,32 +167,30 @@ const std::string& View::StateOf(const CheckBox& box) const {
   return Message(box.Checked ? CheckedMessage : ClearMessage);
 }
 
-/// The display's value in its announcement.
-ValueSpan View::ValueIn(const Control& control, std::string_view announcement) const {
-  if (&control != Display) return {};
-  const std::string& sentence = Message(CurrentValueMessage);
-  const std::size_t start = sentence.find(Placeholder);
-  if (Engine->InError() || start == std::string::npos) return {};
-  return {start, announcement.size() + Placeholder.size() - sentence.size(), Engine->DisplayKind()};
-}
-
 /// The display says its value, a box of several lines all of them, the memory indicator its name and its
 /// mark, a list its chosen item, any other control its name.
-std::string View::Announcement(const Control& control) {
-  if (&control == MemoryBox && !MemoryBox->Text.empty()) return control.SpokenName + " " + MemoryBox->Text;
+Wording View::Announcement(const Control& control) {
+  if (&control == MemoryBox && !MemoryBox->Text.empty()) return {control.SpokenName + " " + MemoryBox->Text};
   if (const auto* list = dynamic_cast<const ListControl*>(&control)) return ChosenWords(*list);
   if (control.Has(MultiLine))
-    return Services_.Speech.SpeechFormatNumber(static_cast<const TextBox&>(control).Text);
-  if (&control != Display) return control.SpokenName;
+    return {Services_.Speech.SpeechFormatNumber(static_cast<const TextBox&>(control).Text)};
+  if (&control != Display) return {control.SpokenName};
   SelectAll(*Display);  // so that a copy takes all of it
-  if (Engine->InError()) return Message(ErrorMessage);
-  return FillPlaceholders(Message(CurrentValueMessage),
-                          {Services_.Speech.SpeechFormatNumber(Engine->DisplayText())});
+  if (Engine->InError()) return {Message(ErrorMessage)};
+  return ValueOfDisplay();
 }
 
-std::string View::ChosenWords(const ListControl& list) const {
+Wording View::ValueOfDisplay() const {
+  const std::string& sentence = Message(CurrentValueMessage);
+  const std::string value = Services_.Speech.SpeechFormatNumber(Engine->DisplayText());
+  const std::size_t start = sentence.find(Placeholder);
+  if (start == std::string::npos) return {sentence};
+  return {FillPlaceholders(sentence, {value}), {start, value.size(), Engine->DisplayKind()}};
+}
+
+Wording View::ChosenWords(const ListControl& list) const {
   const auto* fixed = dynamic_cast<const ListBox*>(&list);
-  return fixed ? fixed->Chosen().SpokenText : "";
+  return {fixed ? fixed->Chosen().SpokenText : ""};
 }
 
 KeyUse View::OnControlKey(Control& control, const KeyEvent& event) {

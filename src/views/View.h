@@ -50,11 +50,9 @@ class View : public Form, protected EngineHost {
   /// The user has chosen another item; it has been spoken.
   virtual void OnNewChoice(ListControl&) {}
   /// What a control says of itself.
-  virtual std::string Announcement(const Control& control);
-  /// Where a value stands in what a control, or its chosen item, says.
-  virtual ValueSpan ValueIn(const Control& control, std::string_view announcement) const;
+  virtual Wording Announcement(const Control& control);
   /// What is spoken of a list's chosen item.
-  virtual std::string ChosenWords(const ListControl& list) const;
+  virtual Wording ChosenWords(const ListControl& list) const;
   void OnMenu(int id) override;
 
   Services& Services_;
@@ -77,6 +75,7 @@ class View : public Form, protected EngineHost {
   void GoByKey(Control& control);
   void Introduce(Control& control, bool queued);
   void SayOf(const Control& control, bool queued);
+  Wording ValueOfDisplay() const;
   const std::string& StateOf(const CheckBox& box) const;
   KeyUse TextBoxKey(TextBox& box, const KeyEvent& event);
   const std::string& Message(int id) const { return Services_.Messages.GetMessage(id); }

@@ -27,6 +27,12 @@ struct ValueSpan {
   ValueKind Kind = ValueKind::Number;
 };
 
+/// A text to be spoken, and where a value stands in it.
+struct Wording {
+  std::string Text;
+  ValueSpan Value = {};
+};
+
 inline constexpr ValueSpan Prose = {0, 0, ValueKind::Prose};
 
 /// The text for the voice. The marks, in the order of their places, move with what they stand before.

@@ -51,31 +51,28 @@ frmStatistics::frmStatistics(Services& services, ViewFrame& frame)
   UseEngine(std::make_unique<StatisticsEngine>(State, host, data, Says));
 }
 
-std::string frmStatistics::Announcement(const Control& control) {
+Wording frmStatistics::Announcement(const Control& control) {
   const auto* list = dynamic_cast<const ListView*>(&control);
   if (!list) return View::Announcement(control);
   const DataList which = list == Lists[0] ? DataList::Main : DataList::Second;
-  return list->SpokenName + ", " +
-         (list->ItemCount() > 0 ? ChosenWords(*list) : Services_.Messages.GetMessage(WordsOf(which).Empty));
+  const std::string name = list->SpokenName + ", ";
+  if (list->ItemCount() == 0) return {name + Services_.Messages.GetMessage(WordsOf(which).Empty)};
+  Wording words = ChosenWords(*list);
+  words.Text.insert(0, name);
+  words.Value.Start += name.size();
+  return words;
 }
 
 /// The item, and its place in the list where the user wants to hear that.
-std::string frmStatistics::ChosenWords(const ListControl& list) const {
-  if (list.ListIndex == NoItem) return "";
+Wording frmStatistics::ChosenWords(const ListControl& list) const {
+  if (list.ListIndex == NoItem) return {};
   const std::string item = Services_.Speech.SpeechFormatNumber(list.ItemText(list.ListIndex));
+  Wording words{item, {0, item.size()}};
   const std::string place = Services_.Sounds.VerbosityAnnounce(ListPositionEntry, false);
-  if (place.empty()) return item;
-  return item + " " +
-         FillPlaceholders(place, {std::to_string(list.ListIndex + 1), std::to_string(list.ItemCount())});
-}
-
-/// The chosen point; its place in the list may follow.
-ValueSpan frmStatistics::ValueIn(const Control& control, std::string_view announcement) const {
-  const auto* list = dynamic_cast<const ListView*>(&control);
-  if (!list || list->ListIndex == NoItem) return View::ValueIn(control, announcement);
-  const std::string item = Services_.Speech.SpeechFormatNumber(list->ItemText(list->ListIndex));
-  const std::string name = list->SpokenName + ", ";
-  return {announcement.starts_with(name) ? name.size() : 0, item.size()};
+  if (!place.empty())
+    words.Text +=
+        " " + FillPlaceholders(place, {std::to_string(list.ListIndex + 1), std::to_string(list.ItemCount())});
+  return words;
 }
 
 void frmStatistics::OnListEnd(ListControl&, int step) {

@@ -16,9 +16,8 @@ class frmStatistics : public View, private StatisticsHost {
   StateFields EngineState() const override { return Describe(State); }
 
   // View
-  std::string Announcement(const Control& control) override;
-  ValueSpan ValueIn(const Control& control, std::string_view announcement) const override;
-  std::string ChosenWords(const ListControl& list) const override;
+  Wording Announcement(const Control& control) override;
+  Wording ChosenWords(const ListControl& list) const override;
   void OnListEnd(ListControl& list, int step) override;
   void OnMenu(int id) override;
 
