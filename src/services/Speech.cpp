@@ -8,9 +8,7 @@
 #include "model/ArithmeticFault.h"
 #include "services/MessageIds.h"
 #include "services/VoiceMessages.h"
-#include "text/Characters.h"
 #include "text/Integers.h"
-#include "text/Text.h"
 
 namespace qves {
 namespace {
@@ -100,16 +98,9 @@ void SpeechService::ReleaseSpeech() {
   SpeechEngine.reset();
 }
 
-void SpeechService::SpeakText(std::string_view text, ValueSpan value) {
+void SpeechService::Say(SpeechHow how, std::string_view text, ValueSpan value) {
   if (!PrimarySpeaker) return;
-  Turn.push_back({SpeechHow::Now, std::string(text), value, {}});
-  LastText = text;
-  LastValue = value;
-}
-
-void SpeechService::SpeakTextQueued(std::string_view text, ValueSpan value) {
-  if (!PrimarySpeaker) return;
-  Turn.push_back({SpeechHow::Queued, std::string(text), value, {}});
+  Turn.push_back({how, std::string(text), value, {}});
   LastText = text;
   LastValue = value;
 }
@@ -188,35 +179,6 @@ std::string SpeechService::VoicedTextOf(const SpeechAct& act) const {
   const VoicingRules rules = Rules();
   if (act.Text.size() == 1 && rules.Reading != NumberReading::Voice) return SpeakableChar(act.Text);
   return MakeVoiced(act.Text, rules, act.Value).Text;
-}
-
-std::string SpeechService::TranslateForSpeech(std::string_view text) const {
-  if (!SpeechEngine) return std::string(text);
-  std::string out;
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    if (i > 0 && IsDigit(text[i - 1]) && IsDigit(text[i])) out += ' ';
-    out += text[i];
-  }
-  return out;
-}
-
-std::string SpeechService::SpeechFormatNumber(std::string_view text) const {
-  std::string out = Settings.ReadAsDigits ? TranslateForSpeech(text) : std::string(text);
-  const std::string& separator = Messages.GetMessage(DecimalSeparatorMessage);
-  // No blanks around the word for the point: it is spoken close to its digits, as wanted.
-  if (!separator.empty()) out = ReplaceAll(out, separator, Messages.GetMessage(PointMessage));
-  out = ReplaceAll(out, "-", Messages.GetMessage(MinusMessage));
-  return ReplaceAll(out, "*", Messages.GetMessage(TimesMessage));
-}
-
-std::string SpeechService::SpeakableChar(std::string_view character) const {
-  if (character.empty()) return "";
-  if (character[0] == 11 || character[0] == 13) return Messages.GetMessage(LineBreakMessage) + " ";
-  if (!SpeechEngine || character.size() > 1) return std::string(character);
-  // No engine library tells a character's name, so all engines share the names of the message file.
-  const std::string& name =
-      Messages.GetMessage(CharacterNameMessages + static_cast<unsigned char>(character[0]));
-  return name.empty() ? std::string(character) : name;
 }
 
 void SpeechService::AttachSpeakingControls(Form& form, const VerbosityTable& verbosity) const {

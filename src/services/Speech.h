@@ -35,10 +35,11 @@ class SpeechService {
   /// Releases the speech objects without a wait.
   void ReleaseSpeech();
 
-  /// Silences what is being spoken and says the text at once. `value` is where a value stands in it, and what it is.
-  void SpeakText(std::string_view text, ValueSpan value = {});
+  /// Silences what is being spoken and says the text at once. `value` is where a value stands in it, and what
+  /// it is.
+  void SpeakText(std::string_view text, ValueSpan value = {}) { Say(SpeechHow::Now, text, value); }
   /// Says the text after what is being spoken.
-  void SpeakTextQueued(std::string_view text, ValueSpan value = {});
+  void SpeakTextQueued(std::string_view text, ValueSpan value = {}) { Say(SpeechHow::Queued, text, value); }
   /// Says a help after the name before it, unless speech is to be brief.
   void SpeakHelp(std::string_view text);
   /// Reads a long text, with marks that are told when they are reached: after what is being spoken, or
@@ -74,6 +75,7 @@ class SpeechService {
   void DetachSpeakingControls(Form& form) const;
 
  private:
+  void Say(SpeechHow how, std::string_view text, ValueSpan value);
   void ApplyVoiceSettings();
   void HandOver(SpeechAct act);
   VoicingRules Rules() const;
