@@ -122,8 +122,7 @@ bool CalculatorApp::CommaTypesPoint() const {
 void CalculatorApp::TellOfNoFunction(const KeyEvent& event) {
   const bool goesToMenus = event.Code == KeyF10 && event.Shift == NoShift && !ActiveForm()->Menus().empty();
   if (goesToMenus || event.Held || IsNoMistake(event)) return;
-  if (Services_.Settings.NoFunctionSound == SwitchOn)
-    Services_.Sounds.VerbosityAnnounce(NoFunctionEntry, false);
+  if (Services_.Settings.NoFunctionSound) Services_.Sounds.VerbosityAnnounce(NoFunctionEntry, false);
 }
 
 void CalculatorApp::KeyUp(int keyCode) {
