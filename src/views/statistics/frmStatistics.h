@@ -16,8 +16,8 @@ class frmStatistics : public View, private StatisticsHost {
   StateFields EngineState() const override { return Describe(State); }
 
   // View
-  SpokenText Announcement(const Control& control) override;
-  SpokenText ChosenWords(const ListControl& list) const override;
+  Wording Announcement(const Control& control) override;
+  Wording ChosenWords(const ListControl& list) const override;
   void OnListEnd(ListControl& list, int step) override;
   void OnMenu(int id) override;
 
