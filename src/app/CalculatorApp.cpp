@@ -121,7 +121,7 @@ bool CalculatorApp::CommaTypesPoint() const {
 void CalculatorApp::TellOfNoFunction(const KeyEvent& event) {
   const bool goesToMenus = event.Code == KeyF10 && event.Shift == NoShift && !ActiveForm()->Menus().empty();
   if (goesToMenus || event.Held || IsNoMistake(event)) return;
-  if (Common.Settings.NoFunctionSound == SwitchOn) Common.Sounds.VerbosityAnnounce(NoFunctionEntry, false);
+  if (Common.Settings.NoFunctionSound) Common.Sounds.VerbosityAnnounce(NoFunctionEntry, false);
 }
 
 void CalculatorApp::KeyUp(int keyCode) {

@@ -1,16 +1,20 @@
 #include "desktop/Appearance.h"
 
+#include <qdrawutil.h>
+
 #include <QApplication>
 #include <QEvent>
 #include <QPainter>
 #include <array>
+#include <optional>
 
 namespace qves {
 namespace {
 
-constexpr std::array<QRgb, 16> SixteenColors = {
-    0xff000000, 0xff000080, 0xff008000, 0xff008080, 0xff800000, 0xff800080, 0xff808000, 0xffc0c0c0,
-    0xff808080, 0xff0000ff, 0xff00ff00, 0xff00ffff, 0xffff0000, 0xffff00ff, 0xffffff00, 0xffffffff,
+constexpr std::array SixteenColors = {
+    Qt::black,      Qt::darkBlue,  Qt::darkGreen, Qt::darkCyan, Qt::darkRed, Qt::darkMagenta,
+    Qt::darkYellow, Qt::lightGray, Qt::darkGray,  Qt::blue,     Qt::green,   Qt::cyan,
+    Qt::red,        Qt::magenta,   Qt::yellow,    Qt::white,
 };
 
 constexpr qreal DisplayScale = 2.0;  // of the desktop's font
@@ -36,6 +40,12 @@ QFont HostFont(const AppSettings& settings) {
   font.setBold(settings.BoldFont);
   font.setItalic(settings.ItalicFont);
   return font;
+}
+
+/// The colour of that number (0 to 15) of the sixteen-colour palette; none for any other number.
+std::optional<QColor> PaletteColor(int number) {
+  if (number < 0 || number >= static_cast<int>(SixteenColors.size())) return std::nullopt;
+  return SixteenColors[static_cast<std::size_t>(number)];
 }
 
 QPalette HostPalette(QPalette palette, const AppSettings& settings) {
@@ -69,11 +79,6 @@ QPalette WithReadableDisabled(QPalette palette) {
 
 }  // namespace
 
-std::optional<QColor> PaletteColor(int number) {
-  if (number < 0 || number >= static_cast<int>(SixteenColors.size())) return std::nullopt;
-  return QColor::fromRgb(SixteenColors[static_cast<std::size_t>(number)]);
-}
-
 void ApplyAppearance(QWidget& box, TextRole role, const AppSettings& settings) {
   const bool fromHost = settings.HostFileFound && role != TextRole::Indicator;
   box.setFont(fromHost ? HostFont(settings) : DesktopFont(role));
@@ -91,10 +96,13 @@ void PaintOutline(QWidget& control) {
   const QColor color = WithReadableDisabled(QApplication::palette())
                            .color(control.isEnabled() ? QPalette::Active : QPalette::Disabled, role);
   QPainter painter(&control);
-  for (int inset = 0; inset < width; ++inset) {
-    painter.setPen(color);
-    painter.drawRect(control.rect().adjusted(inset, inset, -inset - 1, -inset - 1));
-  }
+  qDrawPlainRect(&painter, control.rect(), color, width);
+}
+
+void MakeRoomForFrame(QFrame& control) {
+  control.setContextMenuPolicy(Qt::NoContextMenu);
+  control.setFrameStyle(QFrame::Box | QFrame::Plain);
+  control.setLineWidth(OutlineWidth);
 }
 
 bool PaintFrame(QWidget& control, const QEvent& event) {

@@ -1,9 +1,8 @@
 // How the display and the tape look: the desktop's font and colours, or those of the host product's settings.
 #pragma once
 
-#include <QColor>
+#include <QFrame>
 #include <QWidget>
-#include <optional>
 
 #include "services/AppSettings.h"
 
@@ -11,9 +10,6 @@ namespace qves {
 
 /// Where a text box takes its looks from.
 enum class TextRole { Display, Tape, Indicator };
-
-/// The colour of that number (0 to 15) of the sixteen-colour palette; none for any other number.
-std::optional<QColor> PaletteColor(int number);
 
 /// Gives the text box its font and colours.
 void ApplyAppearance(QWidget& box, TextRole role, const AppSettings& settings);
@@ -23,6 +19,10 @@ void MakeDisabledReadable(QWidget& control);
 
 /// Draws the border of a control: visible in every contrast, thick while the control has the focus.
 void PaintOutline(QWidget& control);
+
+/// Gives a control that scrolls a frame for PaintFrame, and no context menu: it would open without a word and
+/// take the keys.
+void MakeRoomForFrame(QFrame& control);
 
 /// Does the frame of a control that scrolls, which is no part of what scrolls: paints it in the outline's
 /// look, anew when the focus comes or goes. True when that was all of the event.

@@ -39,11 +39,6 @@ QSize CheckBoxView::sizeHint() const {
   return {text + fontMetrics().height() + 3 * Margin, ButtonHeight(*this)};
 }
 
-void CheckBoxView::focusInEvent(QFocusEvent* event) {
-  QCheckBox::focusInEvent(event);
-  Host.ControlFocused(Model);
-}
-
 void CheckBoxView::keyPressEvent(QKeyEvent* event) {
   // Space acts through the form; here it would act a second time.
   event->ignore();

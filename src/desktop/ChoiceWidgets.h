@@ -10,7 +10,6 @@ namespace qves {
 class CheckBoxView : public QCheckBox, public ControlView {
  public:
   CheckBoxView(CheckBox& box, ControlHost& host, QWidget* parent);
-  QWidget& Widget() override { return *this; }
   void Refresh() override;
   QSize sizeHint() const override;
   QSize minimumSizeHint() const override { return sizeHint(); }
@@ -19,7 +18,6 @@ class CheckBoxView : public QCheckBox, public ControlView {
   /// A click changes nothing by itself: the form does.
   void nextCheckState() override {}
   bool hitButton(const QPoint& at) const override { return rect().contains(at); }
-  void focusInEvent(QFocusEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 

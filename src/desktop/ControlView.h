@@ -15,8 +15,6 @@ class ControlHost {
   virtual ~ControlHost() = default;
   /// Clicked with the mouse, or pressed by a screen reader.
   virtual void ControlPressed(Control&) = 0;
-  /// The widget has the keyboard focus now, for whatever reason.
-  virtual void ControlFocused(Control&) = 0;
   /// An item of a list, clicked with the mouse or selected by a screen reader.
   virtual void ItemChosen(ListControl&, int item) = 0;
 };
@@ -24,7 +22,8 @@ class ControlHost {
 class ControlView {
  public:
   virtual ~ControlView() = default;
-  virtual QWidget& Widget() = 0;
+  /// Every view is the widget itself.
+  QWidget& Widget() { return dynamic_cast<QWidget&>(*this); }
   /// Shows the control's state anew.
   virtual void Refresh() = 0;
   /// Shows the part of the text from that byte on; what was before is shown already.

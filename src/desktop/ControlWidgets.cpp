@@ -19,14 +19,10 @@ constexpr int SmallestTapeLines = 3;
 constexpr int TapeColumns = 24;
 constexpr int TapeLines = 8;
 
-QString FromUtf8(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
 /// The number of characters, as the toolkit counts them, in a text of line ends "\r\n"; a line end counts as
 /// one.
 int CountCharacters(std::string_view text) {
-  const QString shown = FromUtf8(text);
+  const QString shown = QString::fromUtf8(text);
   return static_cast<int>(shown.size() - shown.count(QLatin1String("\r\n")));
 }
 
@@ -62,11 +58,6 @@ QSize ButtonView::minimumSizeHint() const {
 QSize ButtonView::sizeHint() const {
   const QSize hint = QPushButton::sizeHint();
   return {hint.width(), std::max(hint.height(), ButtonHeight(*this))};
-}
-
-void ButtonView::focusInEvent(QFocusEvent* event) {
-  QPushButton::focusInEvent(event);
-  Host.ControlFocused(Model);
 }
 
 void ButtonView::keyPressEvent(QKeyEvent* event) {
@@ -116,11 +107,6 @@ QSize LineView::sizeHint() const {
   return IsIndicator ? minimumSizeHint() : QLineEdit::sizeHint();
 }
 
-void LineView::focusInEvent(QFocusEvent* event) {
-  QLineEdit::focusInEvent(event);
-  Host.ControlFocused(Model);
-}
-
 void LineView::mouseReleaseEvent(QMouseEvent* event) {
   QLineEdit::mouseReleaseEvent(event);
   if (IsPrimaryClick(*event, *this)) Host.ControlPressed(Model);
@@ -136,9 +122,7 @@ LinesView::LinesView(TextBox& box, ControlHost& host, const AppSettings& setting
   setReadOnly(true);
   setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
   setUndoRedoEnabled(false);
-  setContextMenuPolicy(Qt::NoContextMenu);
-  setFrameStyle(QFrame::Box | QFrame::Plain);
-  setLineWidth(OutlineWidth);
+  MakeRoomForFrame(*this);
   NameForScreenReader(*this, box);
 }
 
@@ -152,7 +136,7 @@ void LinesView::Refresh() {
 void LinesView::Append(std::size_t from) {
   QTextCursor end(document());
   end.movePosition(QTextCursor::End);
-  end.insertText(FromUtf8(std::string_view(Model.Text).substr(from)));
+  end.insertText(QString::fromUtf8(std::string_view(Model.Text).substr(from)));
   verticalScrollBar()->setValue(verticalScrollBar()->maximum());
 }
 
@@ -185,11 +169,6 @@ QSize LinesView::sizeHint() const {
 
 bool LinesView::event(QEvent* event) {
   return PaintFrame(*this, *event) || QPlainTextEdit::event(event);
-}
-
-void LinesView::focusInEvent(QFocusEvent* event) {
-  QPlainTextEdit::focusInEvent(event);
-  Host.ControlFocused(Model);
 }
 
 void LinesView::mouseReleaseEvent(QMouseEvent* event) {

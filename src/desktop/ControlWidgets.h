@@ -13,14 +13,12 @@ namespace qves {
 class ButtonView : public QPushButton, public ControlView {
  public:
   ButtonView(Button& button, ControlHost& host, QWidget* parent);
-  QWidget& Widget() override { return *this; }
   void Refresh() override { setEnabled(Model.Enabled); }
   void Restyle() override { MakeDisabledReadable(*this); }
   QSize minimumSizeHint() const override;
   QSize sizeHint() const override;
 
  protected:
-  void focusInEvent(QFocusEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 
@@ -33,14 +31,12 @@ class ButtonView : public QPushButton, public ControlView {
 class LineView : public QLineEdit, public ControlView {
  public:
   LineView(TextBox& box, ControlHost& host, const AppSettings& settings, QWidget* parent);
-  QWidget& Widget() override { return *this; }
   void Refresh() override;
   void Restyle() override;
   QSize minimumSizeHint() const override;
   QSize sizeHint() const override;
 
  protected:
-  void focusInEvent(QFocusEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
   void paintEvent(QPaintEvent* event) override;
 
@@ -55,7 +51,6 @@ class LineView : public QLineEdit, public ControlView {
 class LinesView : public QPlainTextEdit, public ControlView {
  public:
   LinesView(TextBox& box, ControlHost& host, const AppSettings& settings, QWidget* parent);
-  QWidget& Widget() override { return *this; }
   void Refresh() override;
   void Append(std::size_t from) override;
   void Restyle() override;
@@ -64,7 +59,6 @@ class LinesView : public QPlainTextEdit, public ControlView {
 
  protected:
   bool event(QEvent* event) override;
-  void focusInEvent(QFocusEvent* event) override;
   void mouseReleaseEvent(QMouseEvent* event) override;
 
  private:

@@ -22,36 +22,13 @@ void DesktopShell::Attach(CalculatorApp& app) {
       .KeyDown = [this](const KeyEvent& event) { return App->KeyDown(event); },
       .KeyUp = [this](int keyCode) { App->KeyUp(keyCode); },
       .NotePress = [this](int keyCode) { To.Windows.NoteKeyPress(keyCode); },
-      .SettleMenus =
-          [this] {
-            if (FormMenuBar* menus = TopMenus()) menus->Settle();
-          },
-      .IsForeign = [this] { return To.FileDialog.IsOpen() || IsForeignPopup(); },
-      .HighlightFirstMenu =
-          [this] {
-            if (FormMenuBar* menus = TopMenus()) menus->HighlightFirst();
-          },
-      .KeyDone =
-          [this] {
-            if (FormWindow* window = TopWindow()) window->SettleFocus();
-          },
-      .OpenMenu =
-          [this](int letter) {
-            FormMenuBar* menus = TopMenus();
-            return menus && menus->OpenMenu(letter);
-          },
+      .TopWindow = [this] { return TopWindow(); },
   });
-}
-
-bool DesktopShell::IsForeignPopup() const {
-  const FormMenuBar* menus = TopMenus();
-  return QApplication::activePopupWidget() && !(menus && menus->IsActive());
 }
 
 FormWindow* DesktopShell::MakeWindow() {
   auto* window = new FormWindow(To.Settings, To.Hints, TopWindow());
   window->OnClose = [this, window] { CloseWindow(*window); };
-  window->IsHeldBack = [this] { return To.FileDialog.IsOpen(); };
   if (TopWindow()) {
     window->setWindowFlag(Qt::Dialog);
     window->setWindowModality(Qt::WindowModal);

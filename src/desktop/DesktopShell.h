@@ -45,9 +45,7 @@ class DesktopShell : public AppObserver {
  private:
   FormWindow* MakeWindow();
   FormWindow* TopWindow() const { return Stack.empty() ? nullptr : Stack.back(); }
-  FormMenuBar* TopMenus() const { return TopWindow() ? TopWindow()->Menus() : nullptr; }
   void CloseWindow(FormWindow& window);
-  bool IsForeignPopup() const;
 
   Parts To;
   CalculatorApp* App = nullptr;

@@ -1,33 +1,31 @@
 #include "desktop/DesktopWindows.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <optional>
+#include <iostream>
 
 #include "model/KeyEvent.h"
 
 namespace qves {
 namespace {
 
-/// The kernel's name of a lock key's light.
-const char* LightName(int keyCode) {
-  switch (keyCode) {
-    case KeyNumLock:
-      return "::numlock";
-    case KeyCapsLock:
-      return "::capslock";
-    default:
-      return "::scrolllock";
-  }
-}
+/// The lights that tell of a lock key. The usual X keyboard has none for Scroll Lock, and the kernel's is not
+/// lit by X or Wayland desktops.
+struct Light {
+  int KeyCode;
+  const char* OnX;
+  const char* OfKernel;
+};
+constexpr Light Lights[] = {{KeyNumLock, "Num Lock", "::numlock"}, {KeyCapsLock, "Caps Lock", "::capslock"}};
 
 /// Whether any keyboard shows that light; nothing where no keyboard tells.
-std::optional<bool> KeyboardLight(int keyCode) {
+std::optional<bool> KeyboardLight(const char* name) {
   std::optional<bool> on;
   std::error_code error;
   for (const auto& light : std::filesystem::directory_iterator("/sys/class/leds", error)) {
-    if (!light.path().filename().string().ends_with(LightName(keyCode))) continue;
+    if (!light.path().filename().string().ends_with(name)) continue;
     int brightness = 0;
     if (std::ifstream(light.path() / "brightness") >> brightness) on = on.value_or(false) || brightness > 0;
   }
@@ -36,36 +34,18 @@ std::optional<bool> KeyboardLight(int keyCode) {
 
 }  // namespace
 
-X11Desktop* DesktopWindows::X11() {
-  if (OnX11 && !Connected) Server = X11Desktop::Connect();
-  Connected = true;
-  return Server.get();
-}
-
-std::vector<TopLevelWindow> DesktopWindows::TopLevelWindows() {
-  return X11() ? X11()->TopLevelWindows() : std::vector<TopLevelWindow>();
-}
-
-void DesktopWindows::SendKeyDown(std::uint64_t window, int keyCode) {
-  if (X11()) X11()->SendKeyDown(window, keyCode);
-}
-
-bool DesktopWindows::RestoreAndActivate(std::uint64_t window) {
-  return X11() && X11()->RestoreAndActivate(window);
-}
-
 bool DesktopWindows::LockKeyIsOn(int keyCode) {
-  // The usual X keyboard has no Scroll Lock light, and the kernel's light is not lit by X or Wayland
-  // desktops.
-  std::optional<bool> light;
-  if (keyCode != KeyScrollLock) light = X11() ? X11()->LockLight(keyCode) : KeyboardLight(keyCode);
-  return light.value_or(Toggled.contains(keyCode));
+  std::optional<bool> on;
+  if (const auto* light = std::ranges::find(Lights, keyCode, &Light::KeyCode); light != std::end(Lights))
+    on = Connect() ? NamedLight(light->OnX) : KeyboardLight(light->OfKernel);
+  return on.value_or(Toggled.contains(keyCode));
 }
 
 void DesktopWindows::ActivateApplication(std::string_view title) {
   if (title == Title) return;
   const char* token = std::getenv("XDG_ACTIVATION_TOKEN");
-  Instance.AskFirst(token ? token : "");
+  if (!Instance.AskFirst(token ? token : ""))
+    std::cerr << "qvescalc: the copy that is running does not answer\n";
 }
 
 void DesktopWindows::NoteKeyPress(int keyCode) {

@@ -2,24 +2,18 @@
 #pragma once
 
 #include <functional>
-#include <memory>
 #include <set>
 
 #include "desktop/InstanceLock.h"
 #include "desktop/X11Desktop.h"
-#include "platform/WindowSystem.h"
 
 namespace qves {
 
-class DesktopWindows : public WindowSystem {
+class DesktopWindows : public X11Desktop {
  public:
-  /// `instanceFolder`: copies that share it are copies of one program. `onX11`: the desktop is an X server's.
-  DesktopWindows(std::string instanceFolder, bool onX11)
-      : Instance(std::move(instanceFolder)), OnX11(onX11) {}
+  /// `home`: copies that share it are copies of one program.
+  explicit DesktopWindows(const std::string& home) : Instance(home) {}
 
-  std::vector<TopLevelWindow> TopLevelWindows() override;
-  void SendKeyDown(std::uint64_t window, int keyCode) override;
-  bool RestoreAndActivate(std::uint64_t window) override;
   bool LockKeyIsOn(int keyCode) override;
   bool AnotherInstanceRuns() override { return !Instance.Acquire(); }
   void SetApplicationTitle(std::string_view title) override { Title = title; }
@@ -34,12 +28,7 @@ class DesktopWindows : public WindowSystem {
   void NoteKeyPress(int keyCode);
 
  private:
-  X11Desktop* X11();
-
   InstanceLock Instance;
-  bool OnX11;
-  bool Connected = false;
-  std::unique_ptr<X11Desktop> Server;
   std::string Title;
   std::set<int> Toggled;  ///< lock keys pressed an odd number of times
 };

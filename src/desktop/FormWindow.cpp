@@ -1,13 +1,18 @@
 #include "desktop/FormWindow.h"
 
+#include <QApplication>
 #include <QCloseEvent>
+#include <algorithm>
 #include <utility>
 
 #include "desktop/PanelGrid.h"
 
 namespace qves {
+
 FormWindow::FormWindow(const AppSettings& settings, HintNotify& hints, QWidget* parent)
-    : QMainWindow(parent), Settings(settings), Hints(hints) {}
+    : QMainWindow(parent), Settings(settings), Hints(hints) {
+  connect(qApp, &QApplication::focusChanged, this, [this](QWidget*, QWidget* to) { FocusMoved(to); });
+}
 
 FormWindow::~FormWindow() {
   DropForm();
@@ -20,8 +25,7 @@ void FormWindow::ShowForm(Form& form) {
   setWindowTitle(QString::fromStdString(form.Title()));
   BuildMenus();
   BuildControls();
-  FocusDue = true;
-  SettleFocus();
+  FocusNow();
   show();
 }
 
@@ -37,13 +41,9 @@ void FormWindow::BuildMenus() {
   // The menu bar itself goes with the old form; the old one is deleted when its event has ended.
   MenuBar = nullptr;
   if (Shown->Menus().empty()) return setMenuBar(nullptr);
-  MenuBar = new FormMenuBar(Shown->Menus(), Hints,
-                            {.Choose = [this](int id) { ChooseMenu(id); },
-                             .GiveFocusBack =
-                                 [this] {
-                                   FocusDue = true;
-                                   SettleFocus();
-                                 }});
+  MenuBar = new FormMenuBar(
+      Shown->Menus(), Hints,
+      {.Choose = [this](int id) { ChooseMenu(id); }, .GiveFocusBack = [this] { FocusNow(); }});
   setMenuBar(MenuBar);
 }
 
@@ -95,6 +95,11 @@ void FormWindow::FocusChanged(Form&) {
       this, [this] { SettleFocus(); }, Qt::QueuedConnection);
 }
 
+void FormWindow::FocusNow() {
+  FocusDue = true;
+  SettleFocus();
+}
+
 void FormWindow::SettleFocus() {
   if (!std::exchange(FocusDue, false) || !Shown) return;
   QWidget* widget = Shown->FocusedControl() ? WidgetOf(*Shown->FocusedControl()) : nullptr;
@@ -104,14 +109,22 @@ void FormWindow::SettleFocus() {
   MovingFocus = false;
 }
 
+bool FormWindow::IsHeldBack() {
+  const QWidget* modal = QApplication::activeModalWidget();
+  return modal && !dynamic_cast<const FormWindow*>(modal);
+}
+
 void FormWindow::ControlPressed(Control& control) {
   if (Shown && ViewOf(control) && !IsHeldBack()) Shown->MouseClick(control);
 }
 
-void FormWindow::ControlFocused(Control& control) {
+void FormWindow::FocusMoved(const QWidget* to) {
+  if (!Shown || !to || MovingFocus) return;
+  const auto control =
+      std::ranges::find_if(Shown->Controls(), [&](const auto& c) { return WidgetOf(*c) == to; });
   // The focus comes back to the same control when the window is activated or a menu closes: that is no news.
-  if (!Shown || MovingFocus || !ViewOf(control)) return;
-  if (Shown->FocusedControl() != &control) Shown->FocusByUser(control);
+  if (control == Shown->Controls().end() || control->get() == Shown->FocusedControl()) return;
+  Shown->FocusByUser(**control);
 }
 
 void FormWindow::ItemChosen(ListControl& list, int item) {

@@ -27,14 +27,15 @@ class FormWindow : public QMainWindow, private FormObserver, private ControlHost
   /// The widget of the control, null when it is not of the form shown.
   QWidget* WidgetOf(const Control& control) const;
 
+  /// Whether a dialog that is no form, that of files, has the user: what comes to a form's window all the
+  /// same, from an accessibility client, is not passed on.
+  static bool IsHeldBack();
+
   /// Gives the keyboard focus now to the form's focused control, which else gets it after the event in hand.
   void SettleFocus();
 
   /// Called when the user closes the window.
   std::function<void()> OnClose = [] {};
-  /// Whether something above the window has the user: what comes to the window all the same, from an
-  /// accessibility client, is not passed on.
-  std::function<bool()> IsHeldBack = [] { return false; };
 
  protected:
   void closeEvent(QCloseEvent* event) override;
@@ -49,13 +50,14 @@ class FormWindow : public QMainWindow, private FormObserver, private ControlHost
   void FocusChanged(Form& form) override;
   // ControlHost
   void ControlPressed(Control& control) override;
-  void ControlFocused(Control& control) override;
   void ItemChosen(ListControl& list, int item) override;
 
   ControlView* ViewOf(const Control& control) const;
   void BuildMenus();
   void BuildControls();
   void ChooseMenu(int id);
+  void FocusNow();
+  void FocusMoved(const QWidget* to);
 
   const AppSettings& Settings;
   HintNotify& Hints;

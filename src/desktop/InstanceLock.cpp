@@ -1,129 +1,76 @@
 #include "desktop/InstanceLock.h"
 
-#include <fcntl.h>
-#include <sys/file.h>
-#include <sys/socket.h>
-#include <sys/stat.h>
-#include <sys/time.h>
-#include <sys/un.h>
-#include <unistd.h>
-
-#include <chrono>
-#include <cstdlib>
-#include <cstring>
-#include <filesystem>
-#include <thread>
+#include <QCryptographicHash>
+#include <QDeadlineTimer>
+#include <QFileInfo>
+#include <QLocalSocket>
+#include <QStandardPaths>
+#include <QThread>
 
 namespace qves {
 namespace {
 
-constexpr const char* LockName = "qvescalc.lock";
-constexpr const char* SocketName = "qvescalc.socket";
-constexpr int ConnectAttempts = 50;
-constexpr std::chrono::milliseconds AttemptPause{20};
-constexpr std::size_t LongestToken = 512;
+constexpr int PatienceMilliseconds = 3000;
+constexpr unsigned long AttemptPauseMilliseconds = 20;
 
-/// The socket's address by way of the folder's handle: a path of any length fits.
-sockaddr_un SocketAddress(int folderHandle) {
-  sockaddr_un address{};
-  address.sun_family = AF_UNIX;
-  const std::string path = "/proc/self/fd/" + std::to_string(folderHandle) + "/" + SocketName;
-  std::memcpy(address.sun_path, path.c_str(), path.size() + 1);
-  return address;
+/// In the session's runtime folder and not in the home itself, whose path may be longer than a socket's may
+/// be.
+QString BaseFor(const std::string& home) {
+  const QString base = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation) + "/qvescalc";
+  if (home.empty()) return base;
+  const QString folder = QFileInfo(QString::fromStdString(home)).canonicalFilePath();
+  return base + '-' + QCryptographicHash::hash(folder.toUtf8(), QCryptographicHash::Sha1).toHex();
 }
 
-bool IsOfThisUser(int connection) {
-  ucred peer{};
-  socklen_t length = sizeof peer;
-  return getsockopt(connection, SOL_SOCKET, SO_PEERCRED, &peer, &length) == 0 && peer.uid == getuid();
+QString SocketName(const QString& base) {
+  return base + ".socket";
 }
 
-/// What the other copy sends until it closes; a silent one is given up soon.
-std::string ReadToken(int connection) {
-  const timeval patience{0, 200000};
-  setsockopt(connection, SOL_SOCKET, SO_RCVTIMEO, &patience, sizeof patience);
-  char buffer[LongestToken];
-  const ssize_t length = recv(connection, buffer, sizeof buffer, 0);
-  return length > 0 ? std::string(buffer, static_cast<std::size_t>(length)) : std::string();
+int Remaining(const QDeadlineTimer& patience) {
+  return static_cast<int>(patience.remainingTime());
 }
 
 }  // namespace
 
-InstanceLock::InstanceLock(std::string folder) : Folder(std::move(folder)) {}
-
-InstanceLock::~InstanceLock() {
-  Incoming.reset();
-  if (ListenHandle >= 0) unlinkat(FolderHandle, SocketName, 0);
-  for (const int handle : {ListenHandle, LockHandle, FolderHandle})
-    if (handle >= 0) close(handle);
+InstanceLock::InstanceLock(const std::string& home) : Base(BaseFor(home)), Lock(Base + ".lock") {
+  Lock.setStaleLockTime(0);  // however long the first copy has been running
 }
 
 bool InstanceLock::Acquire() {
-  std::error_code ignored;
-  std::filesystem::create_directories(Folder, ignored);
-  FolderHandle = open(Folder.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC);
-  if (FolderHandle < 0) return true;
-  LockHandle = openat(FolderHandle, LockName, O_RDWR | O_CREAT | O_CLOEXEC, 0600);
-  return LockHandle < 0 || flock(LockHandle, LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK;
+  return Lock.tryLock() || Lock.error() != QLockFile::LockFailedError;
 }
 
 void InstanceLock::Listen(std::function<void(const std::string&)> raise) {
-  if (FolderHandle < 0) return;
-  // Whoever holds the lock owns the name: what is there is of a copy that was killed.
-  unlinkat(FolderHandle, SocketName, 0);
-  const int handle = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
-  const sockaddr_un address = SocketAddress(FolderHandle);
-  if (handle < 0 || bind(handle, reinterpret_cast<const sockaddr*>(&address), sizeof address) != 0 ||
-      listen(handle, 8) != 0) {
-    if (handle >= 0) close(handle);
-    return;
-  }
-  ListenHandle = handle;
   Raise = std::move(raise);
-  Incoming = std::make_unique<QSocketNotifier>(handle, QSocketNotifier::Read);
-  QObject::connect(Incoming.get(), &QSocketNotifier::activated, [this] { Answer(); });
+  QObject::connect(&Server, &QLocalServer::newConnection, [this] { Answer(Server.nextPendingConnection()); });
+  // Whoever holds the lock owns the name: what is there is of a copy that was killed.
+  QLocalServer::removeServer(SocketName(Base));
+  Server.setSocketOptions(QLocalServer::UserAccessOption);
+  Server.listen(SocketName(Base));
 }
 
-void InstanceLock::Answer() {
-  const int connection = accept4(ListenHandle, nullptr, nullptr, SOCK_CLOEXEC);
-  if (connection < 0) return;
-  const bool trusted = IsOfThisUser(connection);
-  const std::string token = trusted ? ReadToken(connection) : std::string();
-  close(connection);
-  if (trusted) Raise(token);
+/// A question is a line with the token. Hanging up is the answer.
+void InstanceLock::Answer(QLocalSocket* asking) {
+  QObject::connect(asking, &QLocalSocket::disconnected, asking, &QObject::deleteLater);
+  QObject::connect(asking, &QLocalSocket::readyRead, asking, [this, asking] {
+    if (!asking->canReadLine()) return;
+    Raise(asking->readLine().trimmed().toStdString());
+    asking->disconnectFromServer();
+  });
 }
 
-int InstanceLock::TryConnect() const {
-  const int handle = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
-  const sockaddr_un address = SocketAddress(FolderHandle);
-  if (handle >= 0 && connect(handle, reinterpret_cast<const sockaddr*>(&address), sizeof address) == 0)
-    return handle;
-  if (handle >= 0) close(handle);
-  return -1;
-}
-
-bool InstanceLock::AskFirst(const std::string& token) {
-  if (FolderHandle < 0) return false;
-  for (int attempt = 0; attempt < ConnectAttempts; ++attempt) {
-    if (const int connection = TryConnect(); connection >= 0) {
-      const bool sent =
-          send(connection, token.data(), std::min(token.size(), LongestToken), MSG_NOSIGNAL) >= 0;
-      close(connection);
-      return sent;
-    }
-    // The first copy may have been started in the same moment and not listen yet.
-    std::this_thread::sleep_for(AttemptPause);
+bool InstanceLock::AskFirst(const std::string& token) const {
+  const QDeadlineTimer patience(PatienceMilliseconds);
+  QLocalSocket first;
+  first.connectToServer(SocketName(Base));
+  // The first copy may have been started in the same moment and not listen yet.
+  while (!first.waitForConnected(Remaining(patience)) && !patience.hasExpired()) {
+    QThread::msleep(AttemptPauseMilliseconds);
+    first.connectToServer(SocketName(Base));
   }
-  return false;
-}
-
-std::string RuntimeFolder() {
-  const char* folder = std::getenv("XDG_RUNTIME_DIR");
-  if (folder && *folder == '/') return folder;
-  // Where the desktop gives none: a folder that only this user can enter.
-  const std::string own = "/tmp/qvescalc-" + std::to_string(getuid());
-  mkdir(own.c_str(), 0700);
-  return own;
+  if (first.state() != QLocalSocket::ConnectedState) return false;
+  first.write(QByteArray::fromStdString(token) + '\n');
+  return first.waitForDisconnected(Remaining(patience));
 }
 
 }  // namespace qves

@@ -1,11 +1,10 @@
 #include "desktop/KeyFilter.h"
 
-#include <QCoreApplication>
+#include <QApplication>
 
 #include "desktop/KeyTranslation.h"
 
 namespace qves {
-
 namespace {
 
 bool IsMnemonic(const QKeyEvent& event) {
@@ -31,7 +30,7 @@ KeyFilter::~KeyFilter() {
 
 bool KeyFilter::eventFilter(QObject* watched, QEvent* event) {
   if (event->type() == QEvent::ShortcutOverride && IsMnemonic(*static_cast<QKeyEvent*>(event)) &&
-      !To.IsForeign()) {
+      !IsForeign()) {
     // Comes as a key press then, and opens the menu that has that letter on every layout.
     event->accept();
     return true;
@@ -43,23 +42,35 @@ bool KeyFilter::eventFilter(QObject* watched, QEvent* event) {
   return false;
 }
 
+FormMenuBar* KeyFilter::Menus() const {
+  const FormWindow* window = To.TopWindow();
+  return window ? window->Menus() : nullptr;
+}
+
+/// True while the keyboard belongs to what is not the calculator's concern: a context menu, the file dialog.
+bool KeyFilter::IsForeign() const {
+  const bool isForeignPopup = QApplication::activePopupWidget() && !(Menus() && Menus()->IsActive());
+  return FormWindow::IsHeldBack() || isForeignPopup;
+}
+
 bool KeyFilter::Press(const QKeyEvent& event) {
-  To.SettleMenus();
-  KeyEvent key = TranslateKey(CaptureKey(event));
+  if (Menus()) Menus()->Settle();
+  KeyEvent key = TranslateKey(event);
   key.Held = IsRepetition(event, key.Code);
   if (!key.Held) To.NotePress(key.Code);
-  if (To.IsForeign()) return false;
+  if (IsForeign()) return false;
   if (key.Held && ActsOnceWhileHeld(key.Code)) return true;
   const bool used = To.KeyDown(key) || OpensMenu(key);
-  To.KeyDone();
+  if (FormWindow* window = To.TopWindow()) window->SettleFocus();
   return used;
 }
 
-bool KeyFilter::OpensMenu(const KeyEvent& key) {
+bool KeyFilter::OpensMenu(const KeyEvent& key) const {
+  if (!Menus()) return false;
   const bool isLetter = key.Code >= 'A' && key.Code <= 'Z';
-  if (isLetter && key.Shift == AltBit) return To.OpenMenu(key.Code);
+  if (isLetter && key.Shift == AltBit) return Menus()->OpenMenu(key.Code);
   if (key.Code != KeyF10 || key.Shift != NoShift) return false;
-  To.HighlightFirstMenu();
+  Menus()->HighlightFirst();
   return true;
 }
 
@@ -72,7 +83,7 @@ bool KeyFilter::IsRepetition(const QKeyEvent& event, int code) const {
 
 void KeyFilter::Release(const QKeyEvent& event) {
   if (event.isAutoRepeat()) return;
-  ReleasedCode = TranslateKey(CaptureKey(event)).Code;
+  ReleasedCode = TranslateKey(event).Code;
   ReleasedAt = event.timestamp();
   To.KeyUp(ReleasedCode);
 }

@@ -5,6 +5,7 @@
 #include <QObject>
 #include <functional>
 
+#include "desktop/FormWindow.h"
 #include "model/KeyEvent.h"
 
 namespace qves {
@@ -14,18 +15,8 @@ class KeyFilter : public QObject {
   struct Receivers {
     std::function<bool(const KeyEvent&)> KeyDown;  ///< true: the key is used, no widget is to see it
     std::function<void(int keyCode)> KeyUp;
-    /// A key goes down that was up.
-    std::function<void(int keyCode)> NotePress = [](int) {};
-    std::function<void()> SettleMenus = [] {};
-    /// True while the keyboard belongs to a window that is not the calculator's concern (a context menu, the
-    /// file dialog).
-    std::function<bool()> IsForeign = [] { return false; };
-    /// A press of F10 that the calculator did not use.
-    std::function<void()> HighlightFirstMenu = [] {};
-    /// A key press has been dealt with.
-    std::function<void()> KeyDone = [] {};
-    /// A press of Alt and a letter; true when a menu opens.
-    std::function<bool(int letter)> OpenMenu = [](int) { return false; };
+    std::function<void(int keyCode)> NotePress;  ///< a key goes down that was up, also where it is not ours
+    std::function<FormWindow*()> TopWindow;      ///< whose menus get keys; null for none
   };
 
   /// Filters the keys of all windows of the application.
@@ -35,8 +26,10 @@ class KeyFilter : public QObject {
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  private:
+  FormMenuBar* Menus() const;
+  bool IsForeign() const;
   bool Press(const QKeyEvent& event);
-  bool OpensMenu(const KeyEvent& key);
+  bool OpensMenu(const KeyEvent& key) const;
   bool IsRepetition(const QKeyEvent& event, int code) const;
   void Release(const QKeyEvent& event);
 

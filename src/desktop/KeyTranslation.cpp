@@ -10,7 +10,7 @@
 namespace qves {
 namespace {
 
-constexpr std::uint32_t EvdevOffset = 8;
+constexpr std::uint32_t EvdevOffset = 8;  // a scan code of X11 and Wayland is the kernel's code and this
 
 struct CodeOf {
   int From;
@@ -70,31 +70,19 @@ constexpr std::array NamedKeys = {
     CodeOf{Qt::Key_ScrollLock, KeyScrollLock},
 };
 
-/// Positions on the keyboard, by the kernel's code, that count whatever the layout types there.
-constexpr std::array Positions = {
-    CodeRange{2, 10, '1'},
-    CodeRange{11, 11, '0'},
-    CodeRange{12, 12, KeyMinus},
-    CodeRange{13, 13, KeyEqual},
-    CodeRange{26, 26, KeyLeftBracket},
-    CodeRange{27, 27, KeyRightBracket},
-    CodeRange{39, 39, KeySemicolon},
-    CodeRange{40, 40, KeyApostrophe},
-    CodeRange{41, 41, KeyGrave},
-    CodeRange{43, 43, KeyBackslash},
-    CodeRange{51, 51, KeyComma},
-    CodeRange{52, 52, KeyPeriod},
-    CodeRange{53, 53, KeySlash},
-    CodeRange{86, 86, 226},  // the key beside the left Shift of a European keyboard
-};
-
-/// A row of letter positions by the kernel's code, with the letters that a US keyboard has there.
-struct LetterRow {
+/// A row of positions on the keyboard, from the kernel's code on, with the codes of a US keyboard. But for
+/// the letters they count whatever the layout types there.
+struct KeyRow {
   std::uint32_t First;
-  std::string_view Letters;
+  std::array<int, 13> Codes;
 };
-constexpr std::array LetterRows = {LetterRow{16, "QWERTYUIOP"}, LetterRow{30, "ASDFGHJKL"},
-                                   LetterRow{44, "ZXCVBNM"}};
+constexpr KeyRow KeyRows[] = {
+    {2, {'1', '2', '3', '4', '5', '6', '7', '8', '9', '0', KeyMinus, KeyEqual}},
+    {16, {'Q', 'W', 'E', 'R', 'T', 'Y', 'U', 'I', 'O', 'P', KeyLeftBracket, KeyRightBracket}},
+    {30, {'A', 'S', 'D', 'F', 'G', 'H', 'J', 'K', 'L', KeySemicolon, KeyApostrophe, KeyGrave}},
+    {43, {KeyBackslash, 'Z', 'X', 'C', 'V', 'B', 'N', 'M', KeyComma, KeyPeriod, KeySlash}},
+    {86, {226}},  // the key beside the left Shift of a European keyboard
+};
 
 std::optional<int> FindCode(std::span<const CodeOf> table, int from) {
   const auto found = std::ranges::find(table, from, &CodeOf::From);
@@ -122,11 +110,11 @@ bool IsDigit(int key) {
   return key >= Qt::Key_0 && key <= Qt::Key_9;
 }
 
-std::optional<int> KeypadCode(const NativeKey& key) {
-  if (key.KeySym != 0) return FindCode(KeypadKeySyms, key.KeySym);
-  if (!key.Modifiers.testFlag(Qt::KeypadModifier)) return std::nullopt;
-  if (IsDigit(key.Key)) return KeyPad0 + key.Key - Qt::Key_0;
-  return FindCode(KeypadKeys, key.Key);
+std::optional<int> KeypadCode(const QKeyEvent& key) {
+  if (key.nativeVirtualKey() != 0) return FindCode(KeypadKeySyms, key.nativeVirtualKey());
+  if (!key.modifiers().testFlag(Qt::KeypadModifier)) return std::nullopt;
+  if (IsDigit(key.key())) return KeyPad0 + key.key() - Qt::Key_0;
+  return FindCode(KeypadKeys, key.key());
 }
 
 std::optional<int> NamedCode(int key) {
@@ -134,10 +122,11 @@ std::optional<int> NamedCode(int key) {
   return FindCode(NamedKeys, key);
 }
 
-std::optional<int> UsLetterAt(std::uint32_t evdev) {
-  for (const LetterRow& row : LetterRows)
-    if (evdev >= row.First && evdev < row.First + row.Letters.size()) return row.Letters[evdev - row.First];
-  return std::nullopt;
+/// 0 where the rows have none.
+int UsCodeAt(std::uint32_t evdev) {
+  for (const auto& [first, codes] : KeyRows)
+    if (evdev >= first && evdev < first + codes.size()) return codes[evdev - first];
+  return 0;
 }
 
 /// A Latin layout may have punctuation where a US keyboard has a letter (the comma of a French one, the point
@@ -154,9 +143,8 @@ bool IsFrenchSlashKey(int key, int shift) {
 }
 
 int PositionCode(std::uint32_t evdev, int key, int shift) {
-  const std::optional<int> letter = UsLetterAt(evdev);
-  if (letter) return PunctuationCode(key).value_or(*letter);
-  const int code = FindCode(Positions, evdev).value_or(0);
+  const int code = UsCodeAt(evdev);
+  if (IsLetter(code)) return PunctuationCode(key).value_or(code);
   return code == KeyPeriod && IsFrenchSlashKey(key, shift) ? int{KeySlash} : code;
 }
 
@@ -175,33 +163,29 @@ char32_t TypedCharacter(const QString& text) {
 }
 
 /// A synthesised key tells what is typed and not with which keys: they are those of a US keyboard.
-KeyEvent SynthesisedKey(const NativeKey& key, int shift, char32_t character) {
-  if (IsDigit(key.Key)) return {key.Key, shift, character};
-  const UsKey* us = FindUsKey(key.Key);
+KeyEvent SynthesisedKey(const QKeyEvent& key, int shift, char32_t character) {
+  if (IsDigit(key.key())) return {key.key(), shift, character};
+  const UsKey* us = FindUsKey(key.key());
   if (!us) return {0, shift, character};
-  return {us->Code, us->Shifted == key.Key ? shift | ShiftBit : shift, character};
+  return {us->Code, us->Shifted == key.key() ? shift | ShiftBit : shift, character};
 }
 
 }  // namespace
 
-NativeKey CaptureKey(const QKeyEvent& event) {
-  return {event.nativeScanCode(), event.nativeVirtualKey(), event.key(), event.modifiers(), event.text()};
-}
-
-KeyEvent TranslateKey(const NativeKey& key) {
-  if (key.Modifiers.testFlag(Qt::MetaModifier)) return {};
-  int shift = ShiftOf(key.Modifiers);
+KeyEvent TranslateKey(const QKeyEvent& key) {
+  if (key.modifiers().testFlag(Qt::MetaModifier)) return {};
+  int shift = ShiftOf(key.modifiers());
   if (const auto code = KeypadCode(key)) return {*code, shift, 0};
 
-  const char32_t typed = TypedCharacter(key.Text);
-  const bool isAltGr = typed != 0 && key.Modifiers.testFlag(Qt::GroupSwitchModifier);
+  const char32_t typed = TypedCharacter(key.text());
+  const bool isAltGr = typed != 0 && key.modifiers().testFlag(Qt::GroupSwitchModifier);
   const char32_t character = isAltGr || (shift & (ControlBit | AltBit)) == 0 ? typed : 0;
   // What AltGr types counts; the key by itself is one with Control and Alt, so that no digit comes of it.
   if (isAltGr) shift |= ControlBit | AltBit;
-  if (const auto code = NamedCode(key.Key)) return {*code, shift, character};
-  if (IsLetter(key.Key)) return {key.Key, shift, character};
-  if (key.ScanCode <= EvdevOffset) return SynthesisedKey(key, shift, character);
-  return {PositionCode(key.ScanCode - EvdevOffset, key.Key, shift), shift, character};
+  if (const auto code = NamedCode(key.key())) return {*code, shift, character};
+  if (IsLetter(key.key())) return {key.key(), shift, character};
+  if (key.nativeScanCode() <= EvdevOffset) return SynthesisedKey(key, shift, character);
+  return {PositionCode(key.nativeScanCode() - EvdevOffset, key.key(), shift), shift, character};
 }
 
 }  // namespace qves

@@ -32,9 +32,7 @@ ListWidget::ListWidget(ListControl& list, ControlHost& host, QWidget* parent)
   setUniformItemSizes(true);  // else each item of a long list would be measured
   setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   setFocusPolicy(Qt::StrongFocus);
-  setContextMenuPolicy(Qt::NoContextMenu);
-  setFrameStyle(QFrame::Box | QFrame::Plain);
-  setLineWidth(OutlineWidth);
+  MakeRoomForFrame(*this);
   NameForScreenReader(*this, list);
   MakeRoomForCaption();
 }
@@ -87,11 +85,6 @@ void ListWidget::PaintCaption() {
   painter.setFont(CaptionFont());
   painter.drawText(strip.adjusted(CaptionMargin, 0, 0, 0), Qt::AlignLeft | Qt::AlignVCenter, Caption);
   painter.drawLine(strip.bottomLeft(), strip.bottomRight());
-}
-
-void ListWidget::focusInEvent(QFocusEvent* event) {
-  QListView::focusInEvent(event);
-  Host.ControlFocused(Model);
 }
 
 void ListWidget::keyPressEvent(QKeyEvent* event) {

@@ -12,7 +12,6 @@ namespace qves {
 class ListWidget : public QListView, public ControlView {
  public:
   ListWidget(ListControl& list, ControlHost& host, QWidget* parent);
-  QWidget& Widget() override { return *this; }
   void Refresh() override;
   void ItemsChanged(int from, int removed, int added) override;
   void Drop() override { Items->Drop(); }
@@ -22,7 +21,6 @@ class ListWidget : public QListView, public ControlView {
   QSize SizeOf(int width, int height) const;
   void changeEvent(QEvent* event) override;
   bool event(QEvent* event) override;
-  void focusInEvent(QFocusEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
   // Of the mouse only the end of a click acts; the toolkit's presses would drag, sweep and edit.

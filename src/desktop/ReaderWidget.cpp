@@ -18,10 +18,6 @@ constexpr int SmallestLines = 4;
 constexpr int UsualColumns = 60;
 constexpr int UsualLines = 18;
 
-QString FromUtf8(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
 QTextCharFormat FormatOf(const TextStyle& style, const QFont& usual, bool ownColors) {
   QTextCharFormat format;
   format.setFontWeight(style.Bold ? QFont::Bold : usual.weight());
@@ -29,7 +25,7 @@ QTextCharFormat FormatOf(const TextStyle& style, const QFont& usual, bool ownCol
   format.setFontUnderline(style.Underline);
   if (usual.pointSizeF() > 0)
     format.setFontPointSize(usual.pointSizeF() * std::max(style.HalfPoints, 1) / UsualHalfPoints);
-  if (ownColors && style.Color >= 0) format.setForeground(QColor(QRgb(style.Color)));
+  if (ownColors && style.Color >= 0) format.setForeground(QColor::fromRgb(static_cast<QRgb>(style.Color)));
   return format;
 }
 
@@ -65,9 +61,7 @@ ReaderView::ReaderView(Reader& reader, ControlHost& host, const AppSettings& set
   setReadOnly(true);
   setUndoRedoEnabled(false);
   setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-  setContextMenuPolicy(Qt::NoContextMenu);
-  setFrameStyle(QFrame::Box | QFrame::Plain);
-  setLineWidth(OutlineWidth);
+  MakeRoomForFrame(*this);
   setCursorWidth(OutlineWidth);
   NameForScreenReader(*this, reader);
 }
@@ -81,7 +75,7 @@ void ReaderView::Restyle() {
 /// marks of the list format, not of the text: places in the text stay those of the form's.
 void ReaderView::ShowDocument() {
   setWordWrapMode(WrapFor(Model.Text));
-  setPlainText(FromUtf8(Model.Text));
+  setPlainText(QString::fromUtf8(Model.Text));
   QTextCursor cursor(document());
   cursor.beginEditBlock();
   for (const Paragraph& paragraph : Model.Document.Paragraphs) {
@@ -105,7 +99,7 @@ void ReaderView::ApplyLooks(QTextCursor& cursor, const Paragraph& paragraph) con
     cursor.createList(QTextListFormat::ListDisc);
   }
   for (const TextRun& run : paragraph.Runs) {
-    const int end = cursor.position() + static_cast<int>(FromUtf8(run.Text).size());
+    const int end = cursor.position() + static_cast<int>(QString::fromUtf8(run.Text).size());
     cursor.setPosition(end, QTextCursor::KeepAnchor);
     if (run.Style != TextStyle()) cursor.setCharFormat(formatOf(run.Style));
     cursor.setPosition(end);
@@ -114,8 +108,9 @@ void ReaderView::ApplyLooks(QTextCursor& cursor, const Paragraph& paragraph) con
 
 QTextCursor ReaderView::CursorAt(std::size_t start, std::size_t length) const {
   const std::string_view text = Model.Text;
-  const auto from = static_cast<int>(FromUtf8(text.substr(0, start)).size());
-  const auto size = static_cast<int>(FromUtf8(text.substr(std::min(start, text.size()), length)).size());
+  const auto from = static_cast<int>(QString::fromUtf8(text.substr(0, start)).size());
+  const auto size =
+      static_cast<int>(QString::fromUtf8(text.substr(std::min(start, text.size()), length)).size());
   const int last = document()->characterCount() - 1;
   QTextCursor cursor(document());
   cursor.setPosition(std::min(from, last));
@@ -161,11 +156,6 @@ QSize ReaderView::sizeHint() const {
 
 bool ReaderView::event(QEvent* event) {
   return PaintFrame(*this, *event) || QTextEdit::event(event);
-}
-
-void ReaderView::focusInEvent(QFocusEvent* event) {
-  QTextEdit::focusInEvent(event);
-  Host.ControlFocused(Model);
 }
 
 void ReaderView::keyPressEvent(QKeyEvent* event) {

@@ -12,7 +12,6 @@ namespace qves {
 class ReaderView : public QTextEdit, public ControlView {
  public:
   ReaderView(Reader& reader, ControlHost& host, const AppSettings& settings, QWidget* parent);
-  QWidget& Widget() override { return *this; }
   void Refresh() override;
   void Restyle() override;
   QSize minimumSizeHint() const override;
@@ -20,7 +19,6 @@ class ReaderView : public QTextEdit, public ControlView {
 
  protected:
   bool event(QEvent* event) override;
-  void focusInEvent(QFocusEvent* event) override;
   void keyPressEvent(QKeyEvent* event) override;
 
  private:

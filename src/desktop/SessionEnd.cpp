@@ -1,12 +1,11 @@
 #include "desktop/SessionEnd.h"
 
-#include <fcntl.h>
-#include <unistd.h>
+#include <sys/eventfd.h>
 
 #include <atomic>
+#include <cerrno>
 #include <csignal>
 #include <cstdlib>
-#include <thread>
 
 namespace qves {
 namespace {
@@ -14,14 +13,13 @@ namespace {
 constexpr int EndingSignals[] = {SIGTERM, SIGHUP, SIGINT};
 
 /// A signal handler has no argument of its own, and a blocked signal (the other way to read one from a
-/// handle) would stay blocked in the speech server that this process may start.
-std::atomic<int> SignalPipe{-1};
+/// handle) would stay blocked in the speech server that this process may start. It is never closed, as a
+/// signal may come at any time.
+std::atomic<int> SignalCount{-1};
 
 void NoteSignal(int) {
   const int savedError = errno;
-  const char mark = 0;
-  if (const int pipe = SignalPipe.load(); pipe >= 0) [[maybe_unused]]
-    const ssize_t written = write(pipe, &mark, 1);
+  eventfd_write(SignalCount, 1);
   errno = savedError;
 }
 
@@ -32,47 +30,36 @@ void SetHandler(void (*handler)(int)) {
   for (const int signal : EndingSignals) sigaction(signal, &action, nullptr);
 }
 
+std::atomic<const LostDisplayGuard*> Guard{nullptr};
+
 }  // namespace
 
-EndSignals::EndSignals(std::function<void()> ended) {
-  if (pipe2(Handles, O_CLOEXEC | O_NONBLOCK) != 0) return;
-  SignalPipe = Handles[1];
-  Incoming = std::make_unique<QSocketNotifier>(Handles[0], QSocketNotifier::Read);
-  QObject::connect(Incoming.get(), &QSocketNotifier::activated, [this, ended = std::move(ended)] {
-    char marks[16];
-    while (read(Handles[0], marks, sizeof marks) > 0) {
-    }
+EndSignals::EndSignals(std::function<void()> ended)
+    : Incoming(SignalCount = eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK), QSocketNotifier::Read) {
+  QObject::connect(&Incoming, &QSocketNotifier::activated, [ended = std::move(ended)] {
+    eventfd_t count = 0;
+    eventfd_read(SignalCount, &count);
     ended();
   });
   SetHandler(NoteSignal);
 }
 
 EndSignals::~EndSignals() {
-  if (!Incoming) return;
   SetHandler(SIG_DFL);
-  SignalPipe = -1;
-  Incoming.reset();
-  for (const int handle : Handles) close(handle);
 }
 
-struct LostDisplayGuard::State {
-  std::function<void()> Lost;
-  std::thread::id Owner = std::this_thread::get_id();
-  bool Armed = true;
-};
-
-LostDisplayGuard::LostDisplayGuard(std::function<void()> lost) : Shared(new State{.Lost = std::move(lost)}) {
-  // The exit handler outlives this object, and so does what it looks at.
-  on_exit(
-      [](int, void* argument) {
-        const std::unique_ptr<State> state(static_cast<State*>(argument));
-        if (state->Armed && state->Owner == std::this_thread::get_id()) state->Lost();
-      },
-      Shared);
+LostDisplayGuard::LostDisplayGuard(std::function<void()> lost) : Lost(std::move(lost)) {
+  Guard = this;
+  std::atexit(Exiting);
 }
 
 LostDisplayGuard::~LostDisplayGuard() {
-  Shared->Armed = false;
+  Guard = nullptr;
+}
+
+void LostDisplayGuard::Exiting() {
+  const LostDisplayGuard* guard = Guard;
+  if (guard && guard->Owner == std::this_thread::get_id()) guard->Lost();
 }
 
 }  // namespace qves

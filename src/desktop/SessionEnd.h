@@ -3,7 +3,7 @@
 
 #include <QSocketNotifier>
 #include <functional>
-#include <memory>
+#include <thread>
 
 namespace qves {
 
@@ -16,12 +16,12 @@ class EndSignals {
   EndSignals& operator=(const EndSignals&) = delete;
 
  private:
-  int Handles[2] = {-1, -1};
-  std::unique_ptr<QSocketNotifier> Incoming;
+  QSocketNotifier Incoming;
 };
 
-/// Calls `lost` when the process exits while the object lives. The toolkit calls exit() in the middle of its
-/// event loop when the display goes away; `lost` must not use the toolkit.
+/// Calls `lost` when this thread exits the process while the object lives. The toolkit calls exit() in the
+/// middle of its event loop when the display goes away; `lost` must not use the toolkit. One object a
+/// process.
 class LostDisplayGuard {
  public:
   explicit LostDisplayGuard(std::function<void()> lost);
@@ -30,8 +30,10 @@ class LostDisplayGuard {
   LostDisplayGuard& operator=(const LostDisplayGuard&) = delete;
 
  private:
-  struct State;
-  State* Shared;
+  static void Exiting();
+
+  const std::function<void()> Lost;
+  const std::thread::id Owner = std::this_thread::get_id();
 };
 
 }  // namespace qves

@@ -1,6 +1,7 @@
 // The toolkit's application object: it says when an event has been handled.
 #pragma once
 
+#include <QAbstractEventDispatcher>
 #include <QApplication>
 #include <QThread>
 #include <functional>
@@ -10,10 +11,14 @@ namespace qves {
 
 class TurnApplication : public QApplication {
  public:
-  using QApplication::QApplication;
+  TurnApplication(int& argumentCount, char** arguments) : QApplication(argumentCount, arguments) {
+    // What the toolkit sets off by itself, outside of any event.
+    connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, this,
+            [this] { OnHandled(); });
+  }
 
-  /// Called after each event, with all that its handling has set off.
-  std::function<void()> OnHandled;
+  /// Called after each event, with all that its handling has set off, and before the event loop waits.
+  std::function<void()> OnHandled = [] {};
 
   bool notify(QObject* receiver, QEvent* event) override {
     // What is sent while an event is handled belongs to it; but a dialog's own event loop handles events of
@@ -24,7 +29,7 @@ class TurnApplication : public QApplication {
     const int outer = std::exchange(HandlingIn, loop);
     const bool result = QApplication::notify(receiver, event);
     HandlingIn = outer;
-    if (!isNested && OnHandled) OnHandled();
+    if (!isNested) OnHandled();
     return result;
   }
 

@@ -5,9 +5,10 @@
 #include <xcb/xkb.h>
 #undef explicit
 
+#include <QGuiApplication>
 #include <algorithm>
 #include <cstdlib>
-#include <cstring>
+#include <memory>
 #include <span>
 
 #include "model/KeyEvent.h"
@@ -24,6 +25,7 @@ using Owned = std::unique_ptr<Reply, Free>;
 constexpr xcb_keysym_t F1Symbol = 0xffbe;
 constexpr int LastFunctionKey = KeyF12;
 constexpr std::uint32_t LongestTitle = 1024;  // in units of 4 bytes
+constexpr int Screen = 0;                     // today's servers have one, whatever monitors it covers
 
 /// The keysym of a key code: function keys and what types ASCII.
 xcb_keysym_t SymbolOf(int keyCode) {
@@ -31,12 +33,6 @@ xcb_keysym_t SymbolOf(int keyCode) {
     return F1Symbol + static_cast<xcb_keysym_t>(keyCode - KeyF1);
   if (keyCode >= 'A' && keyCode <= 'Z') return static_cast<xcb_keysym_t>(keyCode - 'A' + 'a');
   return keyCode >= '0' && keyCode <= '9' ? static_cast<xcb_keysym_t>(keyCode) : XCB_NO_SYMBOL;
-}
-
-const xcb_screen_t* ScreenOf(xcb_connection_t* connection, int number) {
-  auto screens = xcb_setup_roots_iterator(xcb_get_setup(connection));
-  for (; screens.rem > 0 && number > 0; --number) xcb_screen_next(&screens);
-  return screens.rem > 0 ? screens.data : nullptr;
 }
 
 std::string PropertyText(xcb_connection_t* connection, xcb_get_property_cookie_t cookie) {
@@ -57,33 +53,21 @@ struct WindowQuestions {
 
 }  // namespace
 
-std::unique_ptr<X11Desktop> X11Desktop::Connect() {
-  int screenNumber = 0;
-  xcb_connection_t* connection = xcb_connect(nullptr, &screenNumber);
-  const xcb_screen_t* screen =
-      xcb_connection_has_error(connection) ? nullptr : ScreenOf(connection, screenNumber);
-  if (!screen) {
-    xcb_disconnect(connection);
-    return nullptr;
-  }
-  return std::unique_ptr<X11Desktop>(new X11Desktop(connection, screen->root, screenNumber));
-}
-
-X11Desktop::X11Desktop(xcb_connection_t* connection, xcb_window_t root, int screen)
-    : Connection(connection), Root(root), Screen(screen) {
-  HasEwmh = xcb_ewmh_init_atoms_replies(&Ewmh, xcb_ewmh_init_atoms(connection, &Ewmh), nullptr) != 0;
-  const auto cookie = xcb_xkb_use_extension(connection, XCB_XKB_MAJOR_VERSION, XCB_XKB_MINOR_VERSION);
-  const Owned<xcb_xkb_use_extension_reply_t> reply(xcb_xkb_use_extension_reply(connection, cookie, nullptr));
-  HasKeyboardExtension = reply && reply->supported;
+bool X11Desktop::Connect() {
+  if (Connection) return true;
+  const auto* server = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+  if (!server) return false;
+  Connection = server->connection();
+  if (!xcb_ewmh_init_atoms_replies(&Ewmh, xcb_ewmh_init_atoms(Connection, &Ewmh), nullptr)) Ewmh = {};
+  return true;
 }
 
 X11Desktop::~X11Desktop() {
-  if (HasEwmh) xcb_ewmh_connection_wipe(&Ewmh);
-  xcb_disconnect(Connection);
+  if (Ewmh.connection) xcb_ewmh_connection_wipe(&Ewmh);
 }
 
 std::vector<TopLevelWindow> X11Desktop::TopLevelWindows() {
-  if (!HasEwmh) return {};
+  if (!HasEwmh()) return {};
   xcb_ewmh_get_windows_reply_t stacking{};
   const auto cookie = xcb_ewmh_get_client_list_stacking(&Ewmh, Screen);
   if (!xcb_ewmh_get_client_list_stacking_reply(&Ewmh, cookie, &stacking, nullptr)) return {};
@@ -126,12 +110,12 @@ std::optional<xcb_keycode_t> X11Desktop::KeyWithSymbol(xcb_keysym_t symbol) {
 }
 
 void X11Desktop::SendKeyDown(std::uint64_t window, int keyCode) {
-  const auto key = KeyWithSymbol(SymbolOf(keyCode));
+  const auto key = Connect() ? KeyWithSymbol(SymbolOf(keyCode)) : std::nullopt;
   if (!key) return;
   xcb_key_press_event_t event{};
   event.response_type = XCB_KEY_PRESS;
   event.detail = *key;
-  event.root = Root;
+  event.root = xcb_setup_roots_iterator(xcb_get_setup(Connection)).data->root;
   event.event = static_cast<xcb_window_t>(window);
   event.same_screen = 1;
   xcb_send_event(Connection, 0, event.event, XCB_EVENT_MASK_KEY_PRESS, reinterpret_cast<const char*>(&event));
@@ -139,7 +123,7 @@ void X11Desktop::SendKeyDown(std::uint64_t window, int keyCode) {
 }
 
 bool X11Desktop::RestoreAndActivate(std::uint64_t window) {
-  if (!HasEwmh) return false;
+  if (!HasEwmh()) return false;
   const auto target = static_cast<xcb_window_t>(window);
   const auto mapping = xcb_map_window_checked(Connection, target);
   if (const Owned<xcb_generic_error_t> error(xcb_request_check(Connection, mapping)); error) return false;
@@ -149,20 +133,11 @@ bool X11Desktop::RestoreAndActivate(std::uint64_t window) {
   return xcb_flush(Connection) > 0;
 }
 
-std::optional<bool> X11Desktop::LockLight(int keyCode) {
-  switch (keyCode) {
-    case KeyNumLock:
-      return NamedIndicator("Num Lock");
-    case KeyCapsLock:
-      return NamedIndicator("Caps Lock");
-    default:
-      return std::nullopt;
-  }
-}
-
-std::optional<bool> X11Desktop::NamedIndicator(const char* name) {
-  if (!HasKeyboardExtension) return std::nullopt;
-  const auto atomCookie = xcb_intern_atom(Connection, 0, static_cast<std::uint16_t>(std::strlen(name)), name);
+std::optional<bool> X11Desktop::NamedLight(std::string_view name) {
+  // Asked of a server without it, the extension would end the connection.
+  if (!Connect() || !xcb_get_extension_data(Connection, &xcb_xkb_id)->present) return std::nullopt;
+  const auto atomCookie =
+      xcb_intern_atom(Connection, 0, static_cast<std::uint16_t>(name.size()), name.data());
   const Owned<xcb_intern_atom_reply_t> atom(xcb_intern_atom_reply(Connection, atomCookie, nullptr));
   if (!atom) return std::nullopt;
   const auto cookie =

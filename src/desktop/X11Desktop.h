@@ -1,11 +1,10 @@
-// The windows of all programs and the lock lights, over a connection of its own to the X server. When the
-// server goes away every call answers that there is nothing.
+// The windows of all programs and the lock lights, over the toolkit's connection to the X server. Without an
+// X server, or when it goes away, every call answers that there is nothing.
 #pragma once
 
 #include <xcb/xcb.h>
 #include <xcb/xcb_ewmh.h>
 
-#include <memory>
 #include <optional>
 #include <vector>
 
@@ -13,32 +12,29 @@
 
 namespace qves {
 
-class X11Desktop {
+class X11Desktop : public WindowSystem {
  public:
-  /// Null where no X server answers.
-  static std::unique_ptr<X11Desktop> Connect();
-  ~X11Desktop();
+  X11Desktop() = default;
+  ~X11Desktop() override;
   X11Desktop(const X11Desktop&) = delete;
   X11Desktop& operator=(const X11Desktop&) = delete;
 
-  /// Front to back.
-  std::vector<TopLevelWindow> TopLevelWindows();
-  void SendKeyDown(std::uint64_t window, int keyCode);
-  bool RestoreAndActivate(std::uint64_t window);
-  /// Whether the light of NumLock or Caps Lock is on; nothing for another key or without an answer.
-  std::optional<bool> LockLight(int keyCode);
+  std::vector<TopLevelWindow> TopLevelWindows() override;
+  void SendKeyDown(std::uint64_t window, int keyCode) override;
+  bool RestoreAndActivate(std::uint64_t window) override;
+
+ protected:
+  /// Whether the keyboard light of that name is on; nothing without an answer.
+  std::optional<bool> NamedLight(std::string_view name);
+  /// True when there is an X server.
+  bool Connect();
 
  private:
-  X11Desktop(xcb_connection_t* connection, xcb_window_t root, int screen);
+  bool HasEwmh() { return Connect() && Ewmh.connection; }
   std::optional<xcb_keycode_t> KeyWithSymbol(xcb_keysym_t symbol);
-  std::optional<bool> NamedIndicator(const char* name);
 
-  xcb_connection_t* Connection;
-  xcb_window_t Root;
-  int Screen;
-  xcb_ewmh_connection_t Ewmh{};
-  bool HasEwmh = false;
-  bool HasKeyboardExtension = false;
+  xcb_connection_t* Connection = nullptr;
+  xcb_ewmh_connection_t Ewmh{};  ///< without a connection: there is no window manager to ask
 };
 
 }  // namespace qves

@@ -2,7 +2,6 @@
 #include <fontconfig/fontconfig.h>
 #include <xcb/xcb.h>
 
-#include <QAbstractEventDispatcher>
 #include <QSessionManager>
 #include <QSettings>
 #include <algorithm>
@@ -73,8 +72,7 @@ int RunCalculator(const Options& options, QtEventPump& events, LateTts& speech,
   SeededRandom random;
   HintNotify hints;
   AppWMSpy windowMessages;
-  DesktopWindows windows(options.Home.empty() ? RuntimeFolder() : directories.Home(),
-                         QGuiApplication::platformName() == "xcb");
+  DesktopWindows windows(options.Home);
   ModuleSounds sounds(events);
   // Where the toolkit's file dialog keeps its own state.
   QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope,
@@ -92,11 +90,6 @@ int RunCalculator(const Options& options, QtEventPump& events, LateTts& speech,
   if (!app.Main({options.View})) return 0;
   services.All.Speech.EndTurn();
   application.OnHandled = [&services] { services.All.Speech.EndTurn(); };
-  // What the toolkit sets off by itself, outside of any event.
-  QObject::connect(QAbstractEventDispatcher::instance(), &QAbstractEventDispatcher::aboutToBlock, qApp,
-                   [&application] {
-                     if (application.OnHandled) application.OnHandled();
-                   });
 
   windows.ListenForCopies([&shell](const std::string& token) { shell.Raise(token); });
   const EndSignals endSignals([&shell] { shell.EndSession(); });
@@ -109,7 +102,7 @@ int RunCalculator(const Options& options, QtEventPump& events, LateTts& speech,
     app.Leave();
   });
   const int status = QCoreApplication::exec();
-  application.OnHandled = nullptr;
+  application.OnHandled = [] {};
   app.Leave();
   return status;
 }

@@ -1,9 +1,10 @@
 #include "dialogs/RichTextReader.h"
 
 #include <algorithm>
+#include <charconv>
 #include <utility>
 
-#include "dialogs/CodePages.h"
+#include "dialogs/CodePage.h"
 #include "text/Characters.h"
 #include "text/Text.h"
 #include "text/Utf8.h"
@@ -11,180 +12,177 @@
 namespace qves {
 namespace {
 
-constexpr std::string_view Blanks = " \t";
-
 bool IsPrintable(char c) {
   return c >= ' ' && c <= '~';
 }
 
-bool IsShown(char32_t code) {
-  return IsCharacter(code) && (!IsControl(code) || code == '\t');
+bool IsText(char c) {
+  return c != '\\' && c != '{' && c != '}' && c != '\r' && c != '\n';
 }
 
-// A label of one character is a bullet; only a digit would be a number. Letters are bullets of symbol fonts.
+std::string_view Take(std::string_view& text, std::size_t length) {
+  const std::string_view taken = text.substr(0, length);
+  text.remove_prefix(taken.size());
+  return taken;
+}
+
+template <class Condition>
+std::string_view TakeWhile(std::string_view& text, Condition condition) {
+  return Take(text,
+              static_cast<std::size_t>(std::find_if_not(text.begin(), text.end(), condition) - text.begin()));
+}
+
+/// Nothing when there is none, or none that an int holds.
+std::optional<int> TakeNumber(std::string_view& text) {
+  int number = 0;
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+  Take(text, static_cast<std::size_t>(end - text.data()));
+  return error == std::errc() ? std::optional(number) : std::nullopt;
+}
+
+/// A label of one character is a bullet; only a digit would be a number. Letters are bullets of symbol fonts.
 bool IsBullet(std::string_view label) {
-  return !label.empty() && FirstCharacter(label).Length == label.size() && !IsDigit(label[0]);
+  constexpr std::size_t longest = 16;
+  if (label.size() > longest) return false;
+  const std::string_view text = Trimmed(label, " \t");
+  return !text.empty() && FirstCharacter(text).Length == text.size() && !IsDigit(text.front());
 }
 
 }  // namespace
 
 RichText RichTextReader::Read() {
-  do {
-    const RichToken token = Tokens.Next();
-    if (token.Kind == RichTokenKind::End) break;
-    Handle(token);
-  } while (!Groups.empty());
-  return Document.Finish();
+  while (!Rest.empty() && !(Rest.front() == '}' && Groups.size() == 1)) Step();
+  Groups.resize(1);
+  if (!Current.Runs.empty()) EndParagraph();
+  return std::move(Document);
 }
 
-void RichTextReader::Handle(const RichToken& token) {
-  if (token.Kind == RichTokenKind::Open) return Open();
-  if (token.Kind == RichTokenKind::Close) return Close();
-  if (Skipping > 0) return;
-  const bool starred = std::exchange(Starred, false);
-  if (token.Kind == RichTokenKind::Word) return ReadWord(token, starred);
-  if (token.Kind == RichTokenKind::Byte) return ReadByte(static_cast<unsigned char>(*token.Number));
-  ReadText(token.Text);
+void RichTextReader::Step() {
+  if (const std::string_view text = TakeWhile(Rest, IsText); !text.empty()) return ReadText(text);
+  const char sign = Take(Rest, 1).front();
+  if (sign == '{') return Open();
+  if (sign == '}') return Close();
+  if (sign == '\\') ReadEscape();
 }
 
 void RichTextReader::Open() {
-  Starred = false;
-  const bool isFallback = Skipping == 0 && Fallback > 0;
-  if (isFallback) --Fallback;
-  if (isFallback || Skipping > 0 || Groups.size() == MostGroups)
-    ++Skipping;
+  Fallback = 0;
+  if (Groups.size() == MostGroups)
+    ++TooDeep;
   else
-    Groups.push_back(Groups.empty() ? Group() : Here());
+    Groups.push_back(Groups.back());
 }
 
 void RichTextReader::Close() {
-  Starred = false;
-  if (Skipping > 0) {
-    --Skipping;
+  Fallback = 0;
+  if (TooDeep > 0) {
+    --TooDeep;
     return;
   }
-  Fallback = 0;
-  const Group closed = Here();
+  const Destination closed = Here().To;
   Groups.pop_back();
-  if (Groups.empty()) return;
-  if (closed.To == Destination::Numbering) Here().Looks.Bullet = closed.Looks.Bullet;
-  if (closed.To == Destination::Label && Here().To != Destination::Label) EndLabel(closed);
+  if (closed == Destination::Label && Here().To != Destination::Label) EndLabel();
 }
 
+/// The document's own group is no destination, whatever a broken text says in it.
 void RichTextReader::Enter(Destination destination) {
-  // The document's own group is no destination, whatever a broken text says in it.
-  if (Groups.size() == 1) return;
-  if (destination == Destination::Skipped) {
-    Close();
-    Skipping = 1;
-    return;
-  }
-  Here().To = destination;
-  Here().Looks.Bullet &= destination != Destination::Numbering;
+  if (Groups.size() > 1) Here().To = std::max(Here().To, destination);
 }
 
-void RichTextReader::EndLabel(const Group& label) {
-  const std::string text = std::exchange(LabelText, {});
-  if (IsBullet(Trimmed(text, Blanks)))
-    Document.MarkBullet();
-  else if (Here().To == Destination::Body && !Trimmed(text, Blanks).empty())
-    Document.Append(text, label.Style, Here().Looks);
+/// A label stands at the start of its paragraph.
+void RichTextReader::EndLabel() {
+  if (Current.Runs.size() != 1 || !IsBullet(Current.Runs.front().Text)) return;
+  Current.Runs.clear();
+  Current.Bullet = true;
 }
 
-void RichTextReader::ReadWord(const RichToken& token, bool starred) {
-  if (token.Text == "*") {
-    Starred = true;
-    return;
-  }
-  const Meaning* const meaning = Find(token.Text);
-  const auto* const destination = std::get_if<Destination>(meaning);
-  if (starred || destination) return Enter(destination ? *destination : Destination::Skipped);
-  if (const auto* const code = std::get_if<char32_t>(meaning))
-    return Fallback > 0 ? static_cast<void>(--Fallback) : Put(*code);
+void RichTextReader::ReadEscape() {
+  std::string_view word = TakeWhile(Rest, IsLetter);
+  const bool isSymbol = word.empty();
+  if (isSymbol) word = Take(Rest, 1);
+  if (word == "'") return ReadHexByte();
+  const Number number = isSymbol ? std::nullopt : TakeNumber(Rest);
+  if (!isSymbol && Rest.starts_with(' ')) Take(Rest, 1);
+  const auto found = Words().find(word);
+  if (found == Words().end()) return;
+  if (const auto* character = std::get_if<char32_t>(&found->second)) return Put(*character);
   Fallback = 0;
-  if (const auto* const action = std::get_if<Action>(meaning)) (*action)(*this, token);
+  std::get<Action>(found->second)(*this, number);
 }
 
-void RichTextReader::ReadByte(unsigned char byte) {
-  if (Fallback > 0)
-    --Fallback;
-  else
-    Put(FromCodePage(CodePage, byte));
+void RichTextReader::SkipBytes(int count) {
+  Take(Rest, static_cast<std::size_t>(std::max(count, 0)));
 }
 
+void RichTextReader::ReadHexByte() {
+  const std::string_view digits = Rest.substr(0, 2);
+  unsigned char byte = 0;
+  if (std::from_chars(digits.data(), digits.data() + digits.size(), byte, 16).ptr != digits.data() + 2)
+    return;
+  Take(Rest, 2);
+  PutByte(static_cast<char>(byte));
+}
+
+/// Bare bytes that make no UTF-8 are of the code page.
 void RichTextReader::ReadText(std::string_view text) {
   if (Here().To == Destination::Colors) return ReadColors(text);
-  const bool utf8 = IsUtf8(text);
-  for (; Fallback > 0 && !text.empty(); --Fallback) TakeCharacter(text, utf8);
-  while (!text.empty()) {
-    const auto* const end = std::find_if_not(text.begin(), text.end(), IsPrintable);
-    Append(text.substr(0, static_cast<std::size_t>(end - text.begin())));
-    text.remove_prefix(static_cast<std::size_t>(end - text.begin()));
-    if (!text.empty()) Put(TakeCharacter(text, utf8));
+  if (Fallback == 0) Append(TakeWhile(text, IsPrintable));
+  for (const bool isUtf8 = IsUtf8(text); !text.empty();) {
+    if (isUtf8)
+      Put(FirstCharacter(text).Code);
+    else
+      PutByte(text.front());
+    Take(text, isUtf8 ? FirstCharacter(text).Length : 1);
+    if (Fallback == 0) Append(TakeWhile(text, IsPrintable));
   }
-}
-
-// Bare bytes that make no UTF-8 are of the code page.
-char32_t RichTextReader::TakeCharacter(std::string_view& text, bool utf8) const {
-  const char first = text.front();
-  const Utf8Character character = FirstCharacter(text);
-  text.remove_prefix(utf8 ? character.Length : 1);
-  if (utf8) return character.Code;
-  return FromCodePage(CodePage, static_cast<unsigned char>(first));
 }
 
 void RichTextReader::ReadColors(std::string_view text) {
-  for (auto ends = std::count(text.begin(), text.end(), ';'); ends > 0 && Palette.size() < MostColors; --ends)
-    Palette.push_back(std::exchange(NextColor, -1));
+  for (const char c : text)
+    if (c == ';') Palette.push_back(std::exchange(NextColor, -1));
 }
 
 void RichTextReader::Put(char32_t code) {
   constexpr char32_t lineSeparator = 0x2028;
   constexpr char32_t paragraphSeparator = 0x2029;
-  if (code == lineSeparator) return EndLine();
-  if (code == paragraphSeparator) return EndParagraph();
-  if (IsShown(code)) Append(Utf8(code));
+  if (std::exchange(Fallback, std::max(Fallback - 1, 0)) > 0) return;
+  if (code == lineSeparator || code == paragraphSeparator) return EndLine();
+  if (code == '\t' || (!IsControl(code) && IsCharacter(code))) Append(Utf8(code));
+}
+
+void RichTextReader::PutUnicode(int number) {
+  const auto code = static_cast<char32_t>(number < 0 ? number + 0x10000 : number);
+  const char32_t high = std::exchange(HighSurrogate, code >= 0xD800 && code < 0xDC00 ? code : 0);
+  const bool isPair = high != 0 && code >= 0xDC00 && code < 0xE000;
+  Put(isPair ? 0x10000 + ((high - 0xD800) << 10) + (code - 0xDC00) : code);
+  Fallback = Here().FallbackLength;
+}
+
+void RichTextReader::PutByte(char byte) {
+  if (Characters.empty()) Characters = CharactersOf(CodePage);
+  Put(Characters[static_cast<unsigned char>(byte)]);
 }
 
 void RichTextReader::Append(std::string_view text) {
-  HighSurrogate = 0;
-  if (Here().Hidden) return;
-  if (Here().To == Destination::Label) LabelText += text;
-  if (Here().To == Destination::Body) Document.Append(text, Here().Style, Here().Looks);
+  if (text.empty() || Here().Hidden || !IsBody()) return;
+  auto& runs = Current.Runs;
+  if (runs.empty() || runs.back().Style != Here().Style) runs.push_back({{}, Here().Style});
+  runs.back().Text += text;
 }
 
 void RichTextReader::EndParagraph() {
-  if (Here().To == Destination::Body) Document.EndParagraph(Here().Looks);
+  if (!IsBody()) return;
+  Current.LeftIndent = Here().LeftIndent;
+  Current.FirstIndent = std::exchange(Continued, false) ? 0 : Here().FirstIndent;
+  Document.Paragraphs.push_back(std::exchange(Current, {}));
 }
 
 void RichTextReader::EndLine() {
-  if (Here().To == Destination::Body) Document.EndLine(Here().Looks);
-}
-
-void RichTextReader::BreakParagraph() {
-  if (Document.InParagraph()) EndParagraph();
-}
-
-void RichTextReader::SetPlain() {
-  Here().Style = {};
-  Here().Hidden = false;
-}
-
-void RichTextReader::PutUnicode(std::optional<int> number) {
-  if (!number) return;
-  Fallback = Here().FallbackLength;
-  const auto code = static_cast<char32_t>(*number < 0 ? *number + 0x10000 : *number);
-  const char32_t high = std::exchange(HighSurrogate, 0);
-  if (code >= 0xD800 && code < 0xDC00)
-    HighSurrogate = code;
-  else if (code >= 0xDC00 && code < 0xE000 && high != 0)
-    Put(0x10000 + ((high - 0xD800) << 10) + (code - 0xDC00));
-  else
-    Put(code);
+  EndParagraph();
+  Continued = IsBody();
 }
 
 void RichTextReader::SetColorPart(int shift, int value) {
-  if (Here().To != Destination::Colors) return;
   const int others = std::max(NextColor, 0) & ~(0xFF << shift);
   NextColor = others | std::clamp(value, 0, 0xFF) << shift;
 }

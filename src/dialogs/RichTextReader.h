@@ -1,79 +1,81 @@
 // Follows the groups and control words of a rich text.
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 #include <variant>
 #include <vector>
 
-#include "dialogs/RichTextBuilder.h"
-#include "dialogs/RichTextTokens.h"
+#include "model/RichText.h"
 
 namespace qves {
 
 class RichTextReader {
  public:
-  /// A text that begins with the group of a rich text.
-  explicit RichTextReader(std::string_view source) : Tokens(source) {}
+  /// A text that begins with the brace of a rich text.
+  explicit RichTextReader(std::string_view source) : Rest(source.substr(1)) {}
 
   RichText Read();
 
  private:
-  /// Where a group's text goes.
-  enum class Destination { Body, Label, Numbering, Colors, Skipped };
+  /// Where a group's text goes. A group within another goes where that does, or to what stands later here.
+  enum class Destination { Body, Label, Colors, Skipped };
 
   struct Group {
     TextStyle Style;
-    ParagraphLooks Looks;
+    int LeftIndent = 0;
+    int FirstIndent = 0;
     bool Hidden = false;
     int FallbackLength = 1;
     Destination To = Destination::Body;
   };
 
-  using Action = void (*)(RichTextReader&, const RichToken&);
-  /// What a control word stands for: a character, the group's destination, or something to do.
-  using Meaning = std::variant<char32_t, Destination, Action>;
-  static const Meaning* Find(std::string_view word);
-
-  // Groups deeper than this are skipped.
-  static constexpr std::size_t MostGroups = 200;
-  static constexpr std::size_t MostColors = 10'000;
+  using Number = std::optional<int>;
+  using Action = void (*)(RichTextReader&, Number);
+  /// What a control word or symbol stands for: a character or something to do.
+  using Meaning = std::variant<char32_t, Action>;
+  static const std::unordered_map<std::string_view, Meaning>& Words();
 
   Group& Here() { return Groups.back(); }
-  void Handle(const RichToken& token);
+  bool IsBody() { return Here().To <= Destination::Label; }
+  void Step();
   void Open();
   void Close();
   void Enter(Destination destination);
-  void EndLabel(const Group& label);
+  void EndLabel();
 
-  void ReadWord(const RichToken& token, bool starred);
-  void ReadByte(unsigned char byte);
+  void ReadEscape();
+  void SkipBytes(int count);
+  void ReadHexByte();
   void ReadText(std::string_view text);
-  char32_t TakeCharacter(std::string_view& text, bool utf8) const;
   void ReadColors(std::string_view text);
 
   void Put(char32_t code);
+  void PutUnicode(int number);
+  void PutByte(char byte);
   void Append(std::string_view text);
   void EndParagraph();
   void EndLine();
-  /// Ends a paragraph that has begun.
-  void BreakParagraph();
-  void SetPlain();
-  void PutUnicode(std::optional<int> number);
   void SetColorPart(int shift, int value);
   void SetColor(int index);
 
-  RichTokenReader Tokens;
-  RichTextBuilder Document;
-  std::vector<Group> Groups;
+  // Deeper groups are read as if they were one of this depth.
+  static constexpr std::size_t MostGroups = 200;
+
+  std::string_view Rest;
+  RichText Document;
+  Paragraph Current;
+  bool Continued = false;  // the paragraph goes on after a line break
+  std::vector<Group> Groups = std::vector<Group>(1);
+  std::size_t TooDeep = 0;  // how many groups are open beyond those
   std::vector<int> Palette;
   int NextColor = -1;
-  std::string LabelText;  // a list's bullet or number, as far as it is read
-  int CodePage = 1252;
+  std::string CodePage = "CP1252";
+  std::u32string Characters;  // of the code page, once they are needed
   char32_t HighSurrogate = 0;
-  int Fallback = 0;          // how many characters are left of a Unicode character's replacement
-  std::size_t Skipping = 0;  // how many groups are open that are skipped
-  bool Starred = false;      // a word follows that names a destination
+  int Fallback = 0;  // how many characters are left of a Unicode character's replacement
 };
 
 }  // namespace qves

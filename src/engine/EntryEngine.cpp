@@ -118,9 +118,7 @@ void EntryEngine::ClearAll() {
   Now.CurrentOp.clear();
   Now.LastAction = None;
   Now.PrevEntryText = Now.EntryText = "0";
-  Now.DecimalEntered = false;
-  Now.ErrorState = false;
-  Now.SecondOperandBegun = false;
+  Now.DecimalEntered = Now.ErrorState = Now.SecondOperandBegun = false;
   Show();
   Now.Accumulator = Now.CurrentValue = 0;
   OnClearAll();

@@ -22,8 +22,6 @@ enum SpeechDetail : int { FullSpeech, BriefSpeech };
 /// Whether the plain comma key types the point: where the desktop's locale writes numbers so, always, never.
 enum DecimalCommaChoice : int { DecimalCommaAuto, DecimalCommaOn, DecimalCommaOff };
 
-enum SwitchChoice : int { SwitchOn, SwitchOff };
-
 struct AppSettings {
   std::int32_t SystemVolume = 65535;
   std::int16_t SystemSpeed = 170;  ///< words per minute
@@ -64,11 +62,11 @@ struct AppSettings {
 
   // The calculator's own, see OwnSettings.
   int DecimalComma = DecimalCommaAuto;
-  int ReadNumbersAs = 0;    ///< a NumberReading
-  int PairsOfDecimals = 0;  ///< a number is spoken with twice so many decimals; 0: with all
+  int ReadNumbersAs = 0;   ///< a NumberReading
+  int SpokenDecimals = 0;  ///< a number is spoken with so many decimals; 0: with all
   int Detail = FullSpeech;
-  int NoFunctionSound = SwitchOn;  ///< a key that does nothing makes a sound
-  int KeepHistory = SwitchOn;      ///< over restarts
+  int NoFunctionSound = true;  ///< whether a key that does nothing makes a sound
+  int KeepHistory = true;     ///< whether calculations are kept over restarts
 
   /// True when a host settings file was found: only then its colours and font replace the desktop's own.
   bool HostFileFound = false;

@@ -6,7 +6,9 @@
 #include <cstdio>
 #include <optional>
 
+#include "text/Integers.h"
 #include "text/Text.h"
+#include "text/Utf8.h"
 
 namespace qves {
 namespace {
@@ -21,8 +23,7 @@ std::string WriteLine(const FinishedCalculation& calculation) {
   return calculation.Line + numbers;
 }
 
-template <class Number>
-bool ReadWhole(std::string_view text, Number& number) {
+bool ReadWhole(std::string_view text, double& number) {
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
   return error == std::errc() && end == text.data() + text.size();
 }
@@ -32,10 +33,8 @@ std::optional<FinishedCalculation> ReadLine(std::string_view line) {
   const std::size_t second = first == line.npos ? line.npos : line.find('\t', first + 1);
   if (second == line.npos || !IsUtf8(line)) return std::nullopt;
   FinishedCalculation calculation{std::string(line.substr(0, first))};
-  int radix = 0;
   if (!ReadWhole(line.substr(first + 1, second - first - 1), calculation.Value)) return std::nullopt;
-  if (!ReadWhole(line.substr(second + 1), radix)) return std::nullopt;
-  const auto found = std::ranges::find(Radices, radix);
+  const auto found = std::ranges::find(Radices, ParseInteger(line.substr(second + 1)).value_or(0));
   if (found == Radices.end()) return std::nullopt;
   calculation.NumberBase = static_cast<int>(found - Radices.begin());
   return calculation;
@@ -92,7 +91,7 @@ void History::Clear() {
 void History::Load() {
   if (Loaded) return;
   Loaded = true;
-  if (Settings.KeepHistory == SwitchOn) ReadFile(Calculations);
+  if (Settings.KeepHistory) ReadFile(Calculations);
 }
 
 /// False, with a line in the log, where there is a file that cannot be read: it is left as it is.
@@ -123,7 +122,7 @@ bool History::ReadFile(Lines& lines) {
 
 /// Another copy of the program may have written meanwhile: its lines stay.
 void History::Save() {
-  if (NewOnes == 0 || Settings.KeepHistory != SwitchOn) return;
+  if (NewOnes == 0 || !Settings.KeepHistory) return;
   Lines lines;
   if (!ReadFile(lines)) return;
   lines.insert(lines.end(), Calculations.end() - static_cast<std::ptrdiff_t>(NewOnes), Calculations.end());

@@ -5,35 +5,48 @@
 
 #include "services/QuotedFields.h"
 #include "text/Text.h"
+#include "voicing/VoiceWords.h"
 
 namespace qves {
 namespace {
 
-/// A setting that is one of a few words; the field holds which.
+struct Choice {
+  std::string_view Word;
+  int Value;
+};
+
+/// A setting that is one of a few words, each with the value that the field holds.
 struct OwnSetting {
   std::string_view Key;
   int AppSettings::*Field;
-  std::span<const std::string_view> Words;
+  std::span<const Choice> Choices;
 };
 
-constexpr std::string_view AutoOnOff[] = {"auto", "on", "off"};
-constexpr std::string_view TrueFalse[] = {"true", "false"};
-constexpr std::string_view Readings[] = {"host", "natural", "digits", "pairs", "triples", "voice"};
-constexpr std::string_view Decimals[] = {"all", "2", "4", "6", "8"};
-constexpr std::string_view Details[] = {"full", "brief"};
+constexpr int ValueOf(NumberReading reading) {
+  return static_cast<int>(reading);
+}
+
+constexpr Choice AutoOnOff[] = {{"auto", DecimalCommaAuto}, {"on", DecimalCommaOn}, {"off", DecimalCommaOff}};
+constexpr Choice TrueFalse[] = {{"true", true}, {"false", false}};
+constexpr Choice Readings[] = {
+    {"host", ValueOf(NumberReading::AsHost)},     {"natural", ValueOf(NumberReading::Natural)},
+    {"digits", ValueOf(NumberReading::Digits)},   {"pairs", ValueOf(NumberReading::Pairs)},
+    {"triples", ValueOf(NumberReading::Triples)}, {"voice", ValueOf(NumberReading::Voice)}};
+constexpr Choice Decimals[] = {{"all", AllDecimals}, {"2", 2}, {"4", 4}, {"6", 6}, {"8", 8}};
+constexpr Choice Details[] = {{"full", FullSpeech}, {"brief", BriefSpeech}};
 
 constexpr OwnSetting OwnSettings[] = {
     {"DecimalComma", &AppSettings::DecimalComma, AutoOnOff},
     {"NumberReading", &AppSettings::ReadNumbersAs, Readings},
-    {"SpokenDecimals", &AppSettings::PairsOfDecimals, Decimals},
+    {"SpokenDecimals", &AppSettings::SpokenDecimals, Decimals},
     {"SpeechDetail", &AppSettings::Detail, Details},
     {"NoFunctionSound", &AppSettings::NoFunctionSound, TrueFalse},
     {"KeepHistory", &AppSettings::KeepHistory, TrueFalse},
 };
 
-std::string ListOf(std::span<const std::string_view> words) {
+std::string ListOf(std::span<const Choice> choices) {
   std::string list;
-  for (const std::string_view word : words) list.append(list.empty() ? "" : ", ").append(word);
+  for (const Choice& choice : choices) list.append(list.empty() ? "" : ", ").append(choice.Word);
   return list;
 }
 
@@ -42,9 +55,9 @@ std::string ListOf(std::span<const std::string_view> words) {
 std::string StoreOwnSetting(AppSettings& settings, std::string_view key, std::string_view word) {
   const auto* setting = std::ranges::find(OwnSettings, key, &OwnSetting::Key);
   if (setting == std::end(OwnSettings)) return "";
-  const auto found = std::ranges::find(setting->Words, Lower(word));
-  if (found == setting->Words.end()) return "is none of " + ListOf(setting->Words);
-  settings.*(setting->Field) = static_cast<int>(found - setting->Words.begin());
+  const auto found = std::ranges::find(setting->Choices, Lower(word), &Choice::Word);
+  if (found == setting->Choices.end()) return "is none of " + ListOf(setting->Choices);
+  settings.*(setting->Field) = found->Value;
   return "";
 }
 
@@ -54,7 +67,8 @@ std::string OwnSettingLines(const AppSettings& settings) {
   for (const OwnSetting& setting : OwnSettings) {
     const int now = settings.*(setting.Field);
     if (now == defaults.*(setting.Field)) continue;
-    lines += Quote(setting.Key) + "," + Quote(setting.Words[static_cast<std::size_t>(now)]) + "\n";
+    const auto choice = std::ranges::find(setting.Choices, now, &Choice::Value);
+    lines += Quote(setting.Key) + "," + Quote(choice->Word) + "\n";
   }
   return lines;
 }

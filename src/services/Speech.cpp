@@ -114,6 +114,8 @@ void SpeechService::RepeatSpeech() {
   SpeakText(std::string(LastText), LastValue);
 }
 
+/// Nothing may be queued behind it before its end: the voice has two pieces at a time, and what is queued
+/// meanwhile would be heard between them. So whatever else its dialog says interrupts the reading.
 void SpeechService::ReadAloud(std::string_view text, std::span<const BookMark> marks, bool queued,
                               ValueKind kind) {
   if (!PrimarySpeaker) return;
@@ -157,7 +159,7 @@ void SpeechService::HandOver(SpeechAct act) {
 void SpeechService::ReadNextPiece(bool now) {
   if (!PrimarySpeaker || Reading.IsOver()) return;
   const MarkedText piece = Reading.Next();
-  const MarkedText voiced = MakeVoiced(piece.Text, Rules(), {0, 0, Reading.Kind()}, piece.Marks);
+  const MarkedText voiced = MakeVoiced(piece.Text, Rules(), {0, 0, Reading.Kind}, piece.Marks);
   if (now)
     PrimarySpeaker->SpeakNow(voiced.Text, voiced.Marks);
   else
@@ -172,7 +174,7 @@ VoicingRules SpeechService::Rules() const {
   auto reading = static_cast<NumberReading>(Settings.ReadNumbersAs);
   if (reading == NumberReading::AsHost)
     reading = Settings.ReadAsDigits ? NumberReading::Digits : NumberReading::Natural;
-  return {Words, reading, 2 * Settings.PairsOfDecimals, Settings.ReadAsDigits};
+  return {Words, reading, Settings.SpokenDecimals, Settings.ReadAsDigits};
 }
 
 /// A text of one character is that character's name. All else that a voice is given is made by the rules.

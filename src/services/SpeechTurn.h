@@ -32,21 +32,20 @@ class PiecewiseReading {
  public:
   PiecewiseReading() = default;
   PiecewiseReading(std::string text, std::vector<BookMark> marks, ValueKind kind)
-      : Text(std::move(text)), Marks(std::move(marks)), Numbers(kind) {}
+      : Kind(kind), Text(std::move(text)), Marks(std::move(marks)) {}
 
   bool IsOver() const { return Start == Text.size(); }
   /// The next piece, the offsets of its marks within it.
   MarkedText Next();
-  /// What the numbers of the text are.
-  ValueKind Kind() const { return Numbers; }
   /// Whether that mark begins the piece taken last.
   bool IsNewest(std::int32_t mark) const { return mark == Newest; }
+
+  ValueKind Kind = ValueKind::Number;  ///< what the numbers of the text are
 
  private:
   std::string Text;
   std::vector<BookMark> Marks;  ///< in order
-  ValueKind Numbers = ValueKind::Number;
-  std::size_t Start = 0;  ///< of the next piece
+  std::size_t Start = 0;        ///< of the next piece
   std::size_t NextMark = 0;
   std::int32_t Newest = -1;
 };

@@ -1,6 +1,6 @@
 #include "services/TextEncoding.h"
 
-#include "services/Text.h"
+#include "text/Utf8.h"
 
 namespace qves {
 namespace {
@@ -9,15 +9,6 @@ constexpr std::string_view Utf8Mark = "\xEF\xBB\xBF";
 constexpr std::string_view LittleEndianMark = "\xFF\xFE";
 constexpr std::string_view BigEndianMark = "\xFE\xFF";
 constexpr char32_t NoCharacter = 0xFFFD;
-
-void Append(std::string& text, char32_t code) {
-  const auto append = [&](char32_t bits) { text += static_cast<char>(static_cast<unsigned char>(bits)); };
-  const auto appendTail = [&](int shift) { append(0x80 | (code >> shift & 0x3F)); };
-  const int tails = code < 0x80 ? 0 : code < 0x800 ? 1 : code < 0x10000 ? 2 : 3;
-  constexpr char32_t firstBits[] = {0, 0xC0, 0xE0, 0xF0};
-  append(firstBits[tails] | code >> (6 * tails));
-  for (int i = tails; i-- > 0;) appendTail(6 * i);
-}
 
 char32_t Byte(std::string_view bytes, std::size_t at) {
   return static_cast<unsigned char>(bytes[at]);
@@ -35,7 +26,7 @@ std::string FromUtf16(std::string_view bytes, bool bigEndian) {
       code = 0x10000 + ((code & 0x3FF) << 10 | (unit(at + 2) & 0x3FF));
       at += 2;
     }
-    Append(text, code >= 0xD800 && code < 0xE000 ? NoCharacter : code);
+    text += Utf8(IsCharacter(code) ? code : NoCharacter);
   }
   return text;
 }
@@ -44,7 +35,7 @@ std::string FromUtf16(std::string_view bytes, bool bigEndian) {
 std::string FromLatin1(std::string_view bytes) {
   std::string text;
   for (std::size_t at = 0; at < bytes.size(); ++at)
-    Append(text, Byte(bytes, at) == 0x80 ? U'€' : Byte(bytes, at));
+    text += Utf8(Byte(bytes, at) == 0x80 ? U'€' : Byte(bytes, at));
   return text;
 }
 

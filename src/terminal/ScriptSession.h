@@ -14,14 +14,11 @@
 #include "posix/SystemClock.h"
 #include "services/ServiceSet.h"
 #include "spreadsheet/InverseT.h"
-#include "terminal/AnsweredFileDialog.h"
-#include "terminal/GivenLocale.h"
 #include "terminal/JsonLine.h"
 #include "terminal/Options.h"
 #include "terminal/Report.h"
-#include "terminal/SilentSounds.h"
 #include "terminal/SilentTts.h"
-#include "terminal/TerminalWindows.h"
+#include "terminal/TerminalOutside.h"
 
 namespace qves {
 

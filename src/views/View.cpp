@@ -115,7 +115,7 @@ void View::OnClick(Control& control) {
 
 void View::OnChoose(ListControl& list) {
   Says.BeginKey();
-  const SpokenText words = ChosenWords(list);
+  const Wording words = ChosenWords(list);
   Says.Say(words.Text, words.Value);
   OnNewChoice(list);
 }
@@ -148,7 +148,7 @@ const std::string& View::StateOf(const CheckBox& box) const {
 
 /// The display says its value, a box of several lines all of them, the memory indicator its name and its
 /// mark, a list its chosen item, any other control its name.
-SpokenText View::Announcement(const Control& control) {
+Wording View::Announcement(const Control& control) {
   if (&control == MemoryBox && !MemoryBox->Text.empty()) return {control.SpokenName + " " + MemoryBox->Text};
   if (const auto* list = dynamic_cast<const ListControl*>(&control)) return ChosenWords(*list);
   if (control.Has(MultiLine))
@@ -159,7 +159,7 @@ SpokenText View::Announcement(const Control& control) {
   return ValueOfDisplay();
 }
 
-SpokenText View::ValueOfDisplay() const {
+Wording View::ValueOfDisplay() const {
   const std::string& sentence = Message(CurrentValueMessage);
   const std::string value = Common.Speech.SpeechFormatNumber(Engine->DisplayText());
   const std::size_t start = sentence.find(Placeholder);
@@ -167,7 +167,7 @@ SpokenText View::ValueOfDisplay() const {
   return {FillPlaceholders(sentence, {value}), {start, value.size(), Engine->DisplayKind()}};
 }
 
-SpokenText View::ChosenWords(const ListControl& list) const {
+Wording View::ChosenWords(const ListControl& list) const {
   const auto* fixed = dynamic_cast<const ListBox*>(&list);
   return {fixed ? fixed->Chosen().SpokenText : ""};
 }

@@ -67,9 +67,9 @@ class View : public Form, protected EngineHost {
   /// The user has chosen another item; it has been spoken.
   virtual void OnNewChoice(ListControl&) {}
   /// What a control says of itself.
-  virtual SpokenText Announcement(const Control& control);
+  virtual Wording Announcement(const Control& control);
   /// What is spoken of a list's chosen item.
-  virtual SpokenText ChosenWords(const ListControl& list) const;
+  virtual Wording ChosenWords(const ListControl& list) const;
   void OnMenu(int id) override;
 
   Services& Common;
@@ -93,7 +93,7 @@ class View : public Form, protected EngineHost {
   void GoByKey(Control& control);
   void Introduce(Control& control, bool queued);
   void SayOf(const Control& control, bool queued);
-  SpokenText ValueOfDisplay() const;
+  Wording ValueOfDisplay() const;
   const std::string& StateOf(const CheckBox& box) const;
   KeyUse TextBoxKey(TextBox& box, const KeyEvent& event);
 

@@ -28,7 +28,7 @@ struct ValueSpan {
 };
 
 /// A text to be spoken, and where a value stands in it.
-struct SpokenText {
+struct Wording {
   std::string Text;
   ValueSpan Value = {};
 };

@@ -133,20 +133,6 @@ TEST_F(ChoiceWidgetsTest, ScreenReaderTogglesTheCheckBoxOnce) {
   EXPECT_FALSE(box.state().checked);
 }
 
-TEST_F(ChoiceWidgetsTest, ScreenReaderReadsTheList) {
-  QAccessibleInterface& list = Read(List());
-  EXPECT_EQ(list.role(), QAccessible::List);
-  EXPECT_EQ(list.text(QAccessible::Name), "lltMode spoken");
-  EXPECT_EQ(list.text(QAccessible::Description), "lltMode help");
-  ASSERT_EQ(list.childCount(), 3);
-  EXPECT_EQ(list.child(1)->role(), QAccessible::ListItem);
-  EXPECT_EQ(list.child(1)->text(QAccessible::Name), "Radians");
-  Shown.Place(1);
-  EXPECT_FALSE(list.child(0)->state().selected);
-  EXPECT_TRUE(list.child(1)->state().selected);
-  EXPECT_FALSE(list.child(1)->state().editable);
-}
-
 TEST_F(ChoiceWidgetsTest, ScreenReaderSelectsThroughTheForm) {
   QAccessibleInterface& list = Read(List());
   list.tableInterface()->selectRow(1);

@@ -1,6 +1,4 @@
 #include <QAbstractItemModelTester>
-#include <QAccessible>
-#include <QAccessibleTableInterface>
 #include <QListView>
 #include <QScrollBar>
 
@@ -40,11 +38,6 @@ class DataListWidgetTest : public WindowFixture {
   bool IsInSight(int row) {
     const QRect rect = List().visualRect(List().model()->index(row, 0));
     return List().viewport()->rect().contains(rect.center());
-  }
-  void ClickItem(int row) {
-    QTest::mouseClick(List().viewport(), Qt::LeftButton, Qt::NoModifier,
-                      List().visualRect(List().model()->index(row, 0)).center());
-    Settle();
   }
 };
 
@@ -129,36 +122,6 @@ TEST_F(DataListWidgetTest, ChosenItemStaysInSight) {
   Settle();
   EXPECT_TRUE(IsInSight(500));
   EXPECT_TRUE(List().verticalScrollBar()->isVisible());
-}
-
-TEST_F(DataListWidgetTest, ClickAndKeysChooseThroughTheForm) {
-  Shown.AddItems(Numbers(9));
-  Settle();
-  ClickItem(2);
-  EXPECT_THAT(Shown.Take(), ElementsAre("focus lvwData", "choose lvwData 2"));
-  EXPECT_TRUE(List().hasFocus());
-  EXPECT_EQ(SelectedRow(), 2);
-  Press(Qt::Key_Up);
-  Press(Qt::Key_End);
-  EXPECT_THAT(Shown.Take(), ElementsAre("choose lvwData 1", "choose lvwData 8"));
-  EXPECT_EQ(SelectedRow(), 8);
-  for (const Qt::Key key : {Qt::Key_1, Qt::Key_Space, Qt::Key_Delete}) Press(key);
-  EXPECT_THAT(Shown.Take(), IsEmpty());
-  EXPECT_EQ(SelectedRow(), 8);
-}
-
-TEST_F(DataListWidgetTest, ScreenReaderReadsAndSelects) {
-  Shown.AddItems({"1.5", "-2", "3"});
-  QAccessibleInterface& list = *QAccessible::queryAccessibleInterface(&List());
-  EXPECT_EQ(list.role(), QAccessible::List);
-  EXPECT_EQ(list.text(QAccessible::Name), "lvwData spoken");
-  EXPECT_EQ(list.text(QAccessible::Description), "lvwData help");
-  ASSERT_EQ(list.childCount(), 3);
-  EXPECT_EQ(list.child(1)->text(QAccessible::Name), "-2");
-  EXPECT_FALSE(list.child(1)->state().editable);
-  list.tableInterface()->selectRow(2);
-  EXPECT_THAT(Shown.Take(), ElementsAre("focus lvwData", "choose lvwData 3"));
-  EXPECT_TRUE(list.child(2)->state().selected);
 }
 
 }  // namespace

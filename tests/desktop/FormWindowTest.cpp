@@ -96,11 +96,6 @@ TEST_F(FormWindowTest, ScreenReaderFocusesAndPresses) {
   EXPECT_TRUE(display->state().readOnly);
 }
 
-TEST_F(FormWindowTest, CaptionsHaveNoMnemonics) {
-  EXPECT_EQ(Find<QPushButton>("cmdA").text(), "AcmdA");
-  EXPECT_TRUE(Find<QPushButton>("cmdA").shortcut().isEmpty());
-}
-
 TEST_F(FormWindowTest, TapeGrowsAtItsEnd) {
   auto& tape = Find<QPlainTextEdit>("txtTape");
   Shown.Append("1 + 1 = 2\r\n");

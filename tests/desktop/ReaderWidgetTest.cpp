@@ -85,7 +85,7 @@ TEST_F(ReaderWidgetTest, TheSpokenSentenceIsKeptInSightToItsEnd) {
   for (const int number : {100, 104, 105, 106, 150, 199, 101}) {
     Shown->Place(Shown->PlaceOf(sentence(number)), sentence(number).size());
     QTextCursor end = view.textCursor();
-    end.setPosition(end.position() + int(sentence(number).size()));
+    end.setPosition(end.position() + static_cast<int>(sentence(number).size()));
     EXPECT_TRUE(view.viewport()->rect().contains(view.cursorRect())) << number;
     EXPECT_TRUE(view.viewport()->rect().contains(view.cursorRect(end).center())) << number;
   }

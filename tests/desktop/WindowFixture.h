@@ -54,10 +54,8 @@ class WindowFixture : public testing::Test {
             return !MenuHasKeys && Window.ShownForm()->KeyDown(event) == KeyUse::Used;
           },
       .KeyUp = [](int) {},
-      .IsForeign = [this] { return FileDialog.IsOpen(); },
-      .HighlightFirstMenu = [this] { Window.Menus()->HighlightFirst(); },
-      .KeyDone = [this] { Window.SettleFocus(); },
-      .OpenMenu = [this](int letter) { return Window.Menus()->OpenMenu(letter); },
+      .NotePress = [](int) {},
+      .TopWindow = [this] { return &Window; },
   }};
 };
 

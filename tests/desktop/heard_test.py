@@ -23,46 +23,39 @@ def press(key):
     return before
 
 
-def report(what, milliseconds, good):
-    print(f"{what}: {milliseconds:.0f} ms")
-    if not good:
+def report(what, seconds, bound=BOUND):
+    print(f"{what}: {1000 * seconds:.0f} ms")
+    if seconds > bound:
         FAILED.append(what)
 
 
 def hear_keys(recording):
     for key in ("7", "plus", "5", "Return"):
         pressed = press(key)
-        time.sleep(1.3)
-        began = recording.first_loud(pressed)
-        report(f"speech after {key}", 1000 * ((began or pressed + 9) - pressed), began and began - pressed < BOUND)
+        report(f"speech after {key}", recording.wait_for_sound(pressed, "speech after " + key) - pressed)
+        recording.wait_for_silence(pressed)
 
 
 def hear_silence(recording):
-    asked = press("F1")
-    time.sleep(1.5)
-    if not recording.first_loud(asked):
-        FAILED.append("the help is heard")
+    """The help would be heard for longer than the bound."""
+    recording.wait_for_sound(press("F1"), "the help")
     pressed = press("Control_L")
-    time.sleep(2.5)  # the help would take longer
-    quiet = recording.last_loud(pressed) - pressed
-    report("silence after Ctrl alone", 1000 * quiet, quiet < BOUND)
+    report("silence after Ctrl alone", recording.wait_for_silence(pressed) - pressed)
 
 
 def hear_tick(recording):
     pressed = press("F3")
-    time.sleep(1.3)
-    began = recording.first_loud(pressed)
-    report("the tick of a key without a function", 1000 * ((began or pressed + 9) - pressed),
-           began and began - pressed < BOUND and recording.last_loud(pressed) - began < 0.3)
+    began = recording.wait_for_sound(pressed, "the tick")
+    report("the tick of a key without a function", began - pressed)
+    report("the length of the tick", recording.wait_for_silence(pressed) - began, 0.3)
 
 
 def hear(calculator):
     recording = Recording()
     try:
         calculator.window()
-        time.sleep(2)
-        press("Control_L")  # the welcome need not be heard to its end
-        time.sleep(1)
+        recording.wait_for_sound(0, "the welcome")
+        recording.wait_for_silence(press("Control_L"))  # the welcome need not be heard to its end
         hear_keys(recording)
         hear_silence(recording)
         hear_tick(recording)

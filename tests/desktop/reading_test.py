@@ -16,7 +16,7 @@ from pathlib import Path
 
 sys.dont_write_bytecode = True
 from rig import (  # noqa: E402
-    SOUND_TOOLS, Calculator, Recording, SoundServer, enter_session, keys, start_manager, wait_for, xdotool)
+    SOUND_TOOLS, Calculator, Recording, SoundServer, enter_session, holds, keys, start_manager, wait_for, xdotool)
 
 if __name__ == "__main__":
     enter_session(SOUND_TOOLS, ["pyatspi"])
@@ -96,14 +96,13 @@ class HeardReadingTest(ReadingTestCase):
         self.recording = Recording()
         self.addCleanup(lambda: self.recording.stop())
         self.calculator = self.start(speech="espeak-ng")
-        time.sleep(1)  # the welcome begins, and is cut off
+        self.expect_sound(0, "the welcome")  # which is cut off
 
     def expect_sound(self, since, what):
-        wait_for(what, lambda: self.recording.first_loud(since))
+        self.recording.wait_for_sound(since, what)
 
     def expect_silence(self, since, what):
-        time.sleep(2)
-        self.assertLess(self.recording.last_loud(since) - since, BOUND, what)
+        self.assertLess(self.recording.wait_for_silence(since) - since, BOUND, what)
 
     def wait_for_sentence(self, dialog, number):
         start = sentence_starts(dialog.text)[number]
@@ -132,8 +131,7 @@ class HeardReadingTest(ReadingTestCase):
         self.expect_silence(pressed, "silence after a key")
         place = dialog.caret
         self.assertIn(place, sentence_starts(dialog.text))
-        time.sleep(0.5)
-        self.assertEqual(dialog.caret, place)
+        holds("the place of the silenced reading", lambda: dialog.caret == place)
         self.read_on_from(dialog, place)
         window = self.calculator.window()
         pressed = time.monotonic()
@@ -145,9 +143,8 @@ class HeardReadingTest(ReadingTestCase):
         self.wait_for_sentence(dialog, 2)
         self.recording.stop()
         self.sound.stop(kill=True)
-        time.sleep(2)
-        place = dialog.caret
-        self.assertEqual(place, sentence_starts(dialog.text)[2], "nothing counts as read that was not heard")
+        place = sentence_starts(dialog.text)[2]
+        holds("nothing counts as read that was not heard", lambda: dialog.caret == place, 2)
         keys("F5", "Right")
         wait_for("the key's answer", lambda: dialog.caret == place + 1)
         keys("Left")

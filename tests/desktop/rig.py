@@ -17,6 +17,7 @@ SLOWNESS = int(os.environ.get("QVES_SLOWNESS", "1"))  # how much longer anything
 PATIENCE = 10.0 * SLOWNESS  # seconds; what is waited for comes within fractions of one
 RATE = 16000
 LOUD = 300  # of 32767
+SILENCE = 1.0  # seconds; no pause of a text is as long
 
 
 def enter_session(tools=(), modules=()):
@@ -61,6 +62,16 @@ def wait_for(what, condition, patience=PATIENCE):
             return value
         if time.monotonic() > end:
             raise AssertionError("waited in vain for " + what)
+        time.sleep(0.02)
+
+
+def holds(what, condition, seconds=1.0):
+    """Fails as soon as the condition, which must be true all the time, is not."""
+    end = time.monotonic() + seconds
+    while time.monotonic() < end:
+        handle_bus_events()
+        if not condition():
+            raise AssertionError("not so all the time: " + what)
         time.sleep(0.02)
 
 
@@ -193,6 +204,15 @@ class Recording:
 
     def first_loud(self, since):
         return next((t for t, loud in list(self.pieces) if loud and t > since), None)
+
+    def wait_for_sound(self, since, what, patience=PATIENCE):
+        """The time when it began."""
+        return wait_for(what, lambda: self.first_loud(since), patience)
+
+    def wait_for_silence(self, since):
+        """The time when sound ended for longer than speech pauses; `since` when there was none."""
+        wait_for("silence", lambda: time.monotonic() - self.last_loud(since) > SILENCE, 60)
+        return self.last_loud(since)
 
     def last_loud(self, since):
         return max((t for t, loud in list(self.pieces) if loud and t > since), default=since)

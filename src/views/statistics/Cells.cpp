@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "formulas/ForeignNumber.h"
-#include "services/Text.h"
+#include "text/Text.h"
 
 namespace qves {
 namespace {

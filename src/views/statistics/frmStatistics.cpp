@@ -59,23 +59,23 @@ void frmStatistics::Restore(const StatisticsState& calculation) {
   for (std::size_t i = 0; i < before.size(); ++i) ItemsReplaced(*Lists[i], before[i]);
 }
 
-SpokenText frmStatistics::Announcement(const Control& control) {
+Wording frmStatistics::Announcement(const Control& control) {
   const auto* list = dynamic_cast<const ListView*>(&control);
   if (!list) return View::Announcement(control);
   const DataList which = list == Lists[0] ? DataList::Main : DataList::Second;
   const std::string name = list->SpokenName + ", ";
   if (list->ItemCount() == 0) return {name + Common.Messages.GetMessage(WordsOf(which).Empty)};
-  SpokenText words = ChosenWords(*list);
+  Wording words = ChosenWords(*list);
   words.Text.insert(0, name);
   words.Value.Start += name.size();
   return words;
 }
 
 /// The item, and its place in the list where the user wants to hear that.
-SpokenText frmStatistics::ChosenWords(const ListControl& list) const {
+Wording frmStatistics::ChosenWords(const ListControl& list) const {
   if (list.ListIndex == NoItem) return {};
   const std::string item = Common.Speech.SpeechFormatNumber(list.ItemText(list.ListIndex));
-  SpokenText words{item, {0, item.size()}};
+  Wording words{item, {0, item.size()}};
   const std::string place = Common.Sounds.VerbosityAnnounce(ListPositionEntry, false);
   if (!place.empty())
     words.Text +=
@@ -102,7 +102,7 @@ void frmStatistics::Report(double degreesOfFreedom, double alpha) {
   const std::string path = Common.FolderLocations.ReportFile();
   try {
     const StatisticsResult result = RunStatistics(
-        {Items(DataList::Main), Items(DataList::Second), IgnoresZero(), degreesOfFreedom, alpha},
+        {Items(DataList::Main).Copy(), Items(DataList::Second).Copy(), IgnoresZero(), degreesOfFreedom, alpha},
         Common.Outside.Sheet);
     std::string error;
     if (!Common.Outside.Files.Write(path, WriteReport(result, Common.Messages), error))

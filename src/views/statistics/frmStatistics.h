@@ -15,8 +15,8 @@ class frmStatistics : public StateView<StatisticsState>, private StatisticsHost 
  private:
   // View
   void Restore(const StatisticsState& calculation) override;
-  SpokenText Announcement(const Control& control) override;
-  SpokenText ChosenWords(const ListControl& list) const override;
+  Wording Announcement(const Control& control) override;
+  Wording ChosenWords(const ListControl& list) const override;
   void OnListEnd(ListControl& list, int step) override;
   void OnMenu(int id) override;
 
