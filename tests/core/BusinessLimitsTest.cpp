@@ -26,9 +26,9 @@ TEST(FinancialRegisters, TheListOfFlowsHasItsLimits) {
   EXPECT_THROW(RepeatLastFlow(registers, -32768), ArithmeticFault);
   EXPECT_EQ(registers.FlowCount(), 32767);
   RepeatLastFlow(registers, -32764);
-  EXPECT_EQ(registers.CashFlows, (std::vector<double>{7, 7, 0})) << "a shortened list ends in 0 again";
+  EXPECT_EQ(registers.CashFlows, (SharedList<double>{7, 7, 0})) << "a shortened list ends in 0 again";
   registers.J = 2.5;
-  EXPECT_EQ(FindFlow(registers), nullptr);
+  EXPECT_FALSE(FindFlow(registers));
   registers.J = 0.4;
   EXPECT_THROW(FindFlow(registers), ArithmeticFault);
 }
