@@ -157,7 +157,8 @@ BENCHMARK(YieldOfALongBond)->Unit(benchmark::kMillisecond);
 struct FullLists : Calculator {
   FullLists() : Calculator(StatisticsView) {
     std::string& text = Outside.Files.Content["/points.txt"];
-    for (int i = 0; i < MostPoints; ++i) text += NumberToText(i * 1.0009765625 + 0.1) + "\r\n";
+    for (std::size_t i = 0; i < MostPoints; ++i)
+      text += NumberToText(static_cast<double>(i) * 1.0009765625 + 0.1) + "\r\n";
     Outside.FileDialog.Answer = "/points.txt";
     for (int list = 0; list < 2; ++list) {
       View = App.ActiveForm();

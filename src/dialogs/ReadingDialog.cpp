@@ -9,7 +9,6 @@
 namespace qves {
 namespace {
 
-constexpr int KeyF5 = KeyF1 + 4;
 constexpr int LinesOfAPage = 10;
 
 ControlSpec MakeReaderSpec(const ReadingDialogSpec& spec) {

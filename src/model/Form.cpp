@@ -144,6 +144,12 @@ void Form::ItemsReplaced(ListView& list, int before) {
   Tell([&](FormObserver& observer) { observer.ItemsChanged(*this, list, 0, before, list.ItemCount()); });
 }
 
+void Form::SetLine(std::string& line, std::string_view text) {
+  if (line == text) return;
+  line = text;
+  Tell([this](FormObserver& observer) { observer.LinesChanged(*this); });
+}
+
 void Form::SetEnabled(Control& control, bool enabled) {
   if (control.Enabled == enabled) return;
   control.Enabled = enabled;

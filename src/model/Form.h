@@ -29,6 +29,8 @@ class FormObserver {
   virtual void ItemsChanged(Form&, ListView&, int /*from*/, int /*removed*/, int /*added*/) {}
   /// The form's focused control changed.
   virtual void FocusChanged(Form&) {}
+  /// One of the form's lines that are no controls changed.
+  virtual void LinesChanged(Form&) {}
 };
 
 /// Where a panel of controls stands in the form's window.
@@ -60,6 +62,10 @@ class Form {
   const std::vector<PanelSpec>& Panels() const { return PanelList; }
   const std::vector<Menu>& Menus() const { return MenuList; }
   Control* FocusedControl() const { return Focused; }
+  /// The calculation that is still open, as it is shown above the display: "2 * ( 3 +".
+  const std::string& OpenLine() const { return OpenText; }
+  /// What the form has told last about what it holds.
+  const std::string& StatusLine() const { return StatusText; }
   /// The control of that name, and index when it is a member of an array; null when there is none.
   Control* Find(std::string_view name, int index = NoIndex) const;
   /// The same for one that stands alone and is of that kind when it is there.
@@ -121,6 +127,8 @@ class Form {
   /// The list shows other items than it did, of which there were so many.
   void ItemsReplaced(ListView& list, int before);
   void SetEnabled(Control& control, bool enabled);
+  void SetOpenLine(std::string_view text) { SetLine(OpenText, text); }
+  void SetStatusLine(std::string_view text) { SetLine(StatusText, text); }
   /// Places in the reader's document have changed.
   void ReaderMoved(Reader& reader);
   /// Puts the focus on a control without a word.
@@ -157,8 +165,12 @@ class Form {
   template <class Notify>
   void Tell(Notify notify);
 
+  void SetLine(std::string& line, std::string_view text);
+
   std::string FormName;
   std::string FormTitle;
+  std::string OpenText;
+  std::string StatusText;
   std::vector<std::unique_ptr<Control>> ControlList;
   std::vector<FormObserver*> Observers;
   Control* Focused = nullptr;

@@ -7,13 +7,14 @@ namespace qves {
 struct View::EveryViewKey {
   int Code;
   int Shift;
+  int DescriptionMessage;  ///< what it does, for the key help
   void (View::*Act)();
   bool InDialogs = false;
 };
 
 const View::EveryViewKey View::EveryViewKeys[] = {
-    {KeyF1 + 2, NoShift, &View::Undo},
-    {KeyF1 + 2, ShiftBit, &View::Redo},
+    {KeyF3, NoShift, 1850, &View::Undo},
+    {KeyF3, ShiftBit, 1851, &View::Redo},
 };
 
 /// True when it was one of them.

@@ -95,7 +95,7 @@ class TestForm : public Form {
   void OnMenu(int id) override { Log.push_back("menu " + std::to_string(id)); }
 
   std::vector<std::string> Log;
-  std::vector<std::string> Points;
+  SharedList<std::string> Points;
 };
 
 }  // namespace qves
