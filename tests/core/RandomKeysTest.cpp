@@ -1,5 +1,5 @@
-// Random keys, the same ones in every run: whatever is typed, the view answers, its display stays whole, and
-// no number that it holds is a negative zero.
+// Random keys, the same ones in every run: whatever is typed, the view answers, its display stays whole, no
+// number that it holds is a negative zero, and what a key has done can be taken back and done again exactly.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -41,6 +41,41 @@ bool HasNegativeZero(const StateFields& fields) {
   });
 }
 
+/// Everything that can be seen of a calculation.
+struct Look {
+  StateFields Fields;
+  std::vector<std::string> Controls;
+  std::vector<int> Points;  ///< chosen in lists of data: a move there is no step
+
+  bool ShowsSameCalculation(const Look& other) const {
+    const auto isSame = [](const StateField& one, const StateField& two) { return one.Value == two.Value; };
+    return Controls == other.Controls && std::ranges::equal(Fields, other.Fields, isSame);
+  }
+  bool operator==(const Look& other) const { return ShowsSameCalculation(other) && Points == other.Points; }
+};
+
+Look LookAt(const Form& form) {
+  Look look{form.EngineState(), {}, {}};
+  for (const auto& control : form.Controls()) {
+    std::string shown = control->Enabled ? "enabled " : "disabled ";
+    if (const auto* box = dynamic_cast<const TextBox*>(control.get())) shown += box->Text;
+    if (const auto* box = dynamic_cast<const CheckBox*>(control.get())) shown += box->Checked ? "x" : "-";
+    if (const auto* list = dynamic_cast<const ListBox*>(control.get()))
+      shown += std::to_string(list->ListIndex);
+    if (const auto* list = dynamic_cast<const ListView*>(control.get())) {
+      look.Points.push_back(list->ListIndex);
+      for (int item = 0; item < list->ItemCount(); ++item) shown += list->ItemText(item) + " ";
+    }
+    look.Controls.push_back(std::move(shown));
+  }
+  return look;
+}
+
+/// Keys that are no step themselves, or after which the next keys do nothing.
+bool IsNoStep(const KeyEvent& event) {
+  return event.Code == KeyF3 || (event.Code == KeyF1 && event.Shift == ShiftBit);
+}
+
 struct RandomCase {
   int View;
   std::vector<int> Usual;
@@ -78,35 +113,61 @@ KeyEvent RandomKey(std::mt19937& random, const RandomCase& keys) {
   return event;
 }
 
-class RandomKeys : public testing::TestWithParam<RandomCase> {};
+struct RandomKeys : testing::TestWithParam<RandomCase>, AppObserver {
+  FakePlatform Outside;
+  ServiceSet Set{Outside.All};
+  CalculatorApp App{Set.All, *this};
+  std::mt19937 Random{20260131};
+
+  void Press(const KeyEvent& event) {
+    App.KeyDown(event);
+    App.KeyUp(event.Code);
+    Set.All.Speech.EndTurn();
+    Outside.Speech.Said.clear();
+  }
+};
 
 TEST_P(RandomKeys, NothingBreaksAndEveryDisplayIsWhole) {
-  FakePlatform outside;
-  ServiceSet set(outside.All);
-  struct : AppObserver {
-  } nobody;
-  CalculatorApp app(set.All, nobody);
-  ASSERT_TRUE(app.Main({GetParam().View}));
-  const Form& form = *app.ActiveForm();
+  ASSERT_TRUE(App.Main({GetParam().View}));
+  const Form& form = *App.ActiveForm();
   const auto& display = dynamic_cast<const TextBox&>(*form.Find("txtDisplay"));
-  std::mt19937 random(20260131);
   for (int i = 0; i < GetParam().Count; ++i) {
-    const KeyEvent event = RandomKey(random, GetParam());
-    app.KeyDown(event);
-    app.KeyUp(event.Code);
-    set.All.Speech.EndTurn();
-    outside.Speech.Said.clear();
+    Press(RandomKey(Random, GetParam()));
     ASSERT_TRUE(IsWholeDisplay(display.Text)) << display.Text;
     ASSERT_FALSE(i % 10 == 0 && HasNegativeZero(form.EngineState())) << i;
   }
-  const auto escape = [&] { app.KeyDown({KeyEscape, NoShift, 0}); };
-  if (app.ActiveForm() != &form) {  // a dialog is open
-    escape();
-    app.KeyDown({KeyEnter, NoShift, 0});
+  if (App.ActiveForm() != &form) {  // a dialog is open
+    Press({KeyEscape, NoShift, 0});
+    Press({KeyEnter, NoShift, 0});
   }
-  ASSERT_EQ(app.ActiveForm(), &form);
-  escape();
+  ASSERT_EQ(App.ActiveForm(), &form);
+  Press({KeyEscape, NoShift, 0});
   EXPECT_EQ(display.Text, "0");
+}
+
+TEST_P(RandomKeys, EveryStepIsTakenBackAndDoneAgainExactly) {
+  ASSERT_TRUE(App.Main({GetParam().View}));
+  const Form& form = *App.ActiveForm();
+  int steps = 0;
+  Look before = LookAt(form);
+  for (int i = 0; i < GetParam().Count; ++i) {
+    const KeyEvent event = RandomKey(Random, GetParam());
+    if (IsNoStep(event)) continue;
+    const bool inView = App.ActiveForm() == &form;
+    Press(event);
+    const Look after = LookAt(form);
+    if (inView && App.ActiveForm() == &form && !after.ShowsSameCalculation(before)) {
+      ++steps;
+      Press({KeyF3, NoShift, 0});
+      ASSERT_TRUE(LookAt(form) == before)
+          << "key " << event.Code << " shift " << event.Shift << " number " << i;
+      Press({KeyF3, ShiftBit, 0});
+      ASSERT_TRUE(LookAt(form) == after)
+          << "key " << event.Code << " shift " << event.Shift << " number " << i;
+    }
+    before = LookAt(form);
+  }
+  EXPECT_GT(steps, GetParam().Count / 4);
 }
 
 INSTANTIATE_TEST_SUITE_P(Views, RandomKeys, testing::ValuesIn(RandomCases),
