@@ -11,9 +11,11 @@
 #include "formulas/NumberBases.h"
 #include "formulas/Numbers.h"
 #include "model/ArithmeticFault.h"
+#include "model/StepLog.h"
 #include "services/AppSettings.h"
 #include "services/ServiceSet.h"
 #include "views/MenuIds.h"
+#include "views/standard/StandardState.h"
 #include "views/statistics/StatisticsEngine.h"
 #include "voicing/VoicedText.h"
 
@@ -48,6 +50,29 @@ void DigitKey(benchmark::State& state) {
   }
 }
 BENCHMARK(DigitKey);
+
+/// A digit, taken back, done again and taken back: four keys.
+void UndoAndRedoOfADigit(benchmark::State& state) {
+  Calculator calculator;
+  for (auto _ : state)
+    for (const KeyEvent& key :
+         {Digit, KeyEvent{KeyF3, NoShift, 0}, KeyEvent{KeyF3, ShiftBit, 0}, KeyEvent{KeyF3, NoShift, 0}})
+      calculator.Press(key);
+}
+BENCHMARK(UndoAndRedoOfADigit);
+
+/// What a step costs: a calculation noted 1,000 steps deep.
+void NoteAStep(benchmark::State& state) {
+  StandardState calculation;
+  StepLog<StandardState> steps;
+  steps.Begin(calculation);
+  int typed = 0;
+  for (auto _ : state) {
+    calculation.EntryText = ++typed % 2 == 0 ? "2.23606797749979" : "3.14159265358979";
+    steps.Note(calculation, "square root");
+  }
+}
+BENCHMARK(NoteAStep);
 
 void ChainedCalculation(benchmark::State& state) {
   Calculator calculator;
@@ -200,6 +225,17 @@ void RemoveFromTheMiddleAndAdd(benchmark::State& state) {
   }
 }
 BENCHMARK(RemoveFromTheMiddleAndAdd)->Unit(benchmark::kMicrosecond);
+
+/// A full list less one point: the point added and taken back.
+void AddAPointAndUndo(benchmark::State& state) {
+  FullLists calculator;
+  calculator.Press({'R', NoShift, U'r'});
+  for (auto _ : state) {
+    calculator.Press({'A', NoShift, U'a'});
+    calculator.Press({KeyF3, NoShift, 0});
+  }
+}
+BENCHMARK(AddAPointAndUndo)->Unit(benchmark::kMicrosecond);
 
 void StartAndLeave(benchmark::State& state) {
   for (auto _ : state) {
