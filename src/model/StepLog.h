@@ -20,9 +20,9 @@ class StepLog {
     Present = std::move(now);
   }
   /// Something has been done. It is a step when the value is another now; then there is nothing to redo.
-  void Note(const Value& now, const std::string& name) {
+  void Note(Value now, const std::string& name) {
     if (!(now == Present)) Push(name);
-    Present = now;
+    Present = std::move(now);
   }
   /// The name of the step taken back or done again; null at the ends. `Now` is then the value to put back.
   const std::string* Undo() { return Done > 0 ? Exchange(--Done) : nullptr; }
@@ -36,7 +36,7 @@ class StepLog {
   };
 
   void Push(const std::string& name) {
-    Steps.erase(Steps.begin() + static_cast<std::ptrdiff_t>(Done), Steps.end());
+    while (Steps.size() > Done) Steps.pop_back();
     Steps.push_back({std::move(Present), name});
     if (Steps.size() > MostSteps) Steps.pop_front();
     Done = Steps.size();

@@ -7,13 +7,9 @@ namespace {
 
 using Json = nlohmann::ordered_json;
 
-const TextBox* FindBox(const Form& form, std::string_view name) {
-  return dynamic_cast<const TextBox*>(form.Find(name));
-}
-
 /// What the form shows: the text of its display, or of its reader.
 std::string_view DisplayOf(const Form& form) {
-  if (const TextBox* display = FindBox(form, "txtDisplay")) return display->Text;
+  if (const TextBox* display = form.FindAs<TextBox>("txtDisplay")) return display->Text;
   for (const auto& control : form.Controls())
     if (const auto* reader = dynamic_cast<const Reader*>(control.get())) return reader->Text;
   return {};
@@ -66,9 +62,9 @@ void ReportForm(JsonLine& report, const Form* form, const std::string& tapeAdded
   report.Name("focus");
   focused ? report.Value(std::string_view(NameOf(*focused))) : report.Value(Json(nullptr));
   report.Field("display", DisplayOf(*form));
-  if (const TextBox* memory = FindBox(*form, "txtMemory"))
+  if (const TextBox* memory = form->FindAs<TextBox>("txtMemory"))
     report.Field("memory", std::string_view(memory->Text));
-  if (FindBox(*form, "txtResult")) ReportTape(report, tapeAdded);
+  if (form->Find("txtResult")) ReportTape(report, tapeAdded);
 }
 
 void ReportSpeech(JsonLine& report, const Transcript& spoken) {
