@@ -1,6 +1,7 @@
 // What every view is: a form made from tables, an engine behind it, and the rules of focus, help and keys.
 #pragma once
 
+#include <array>
 #include <memory>
 #include <span>
 #include <string_view>
@@ -49,8 +50,8 @@ class View : public Form, protected EngineHost {
 
   /// What is chosen on the form: check boxes and lists of options; and the points chosen in lists of data.
   struct Choices {
-    std::vector<int> Options;
-    std::vector<int> Points;
+    std::array<int, 4> Options{};
+    std::array<int, 2> Points{};
   };
   Choices TakeChoices() const;
   void PutChoices(const Choices& choices);
