@@ -43,6 +43,7 @@ enum MessageId : int {
   DoneAgainMessage = 1751,
   NothingToUndoMessage = 1752,
   NothingToRedoMessage = 1753,
+  ImportStepMessage = 1754,
   CharacterNameMessages = 4000,  ///< + the ASCII code
 };
 
