@@ -44,6 +44,12 @@ enum MessageId : int {
   NothingToUndoMessage = 1752,
   NothingToRedoMessage = 1753,
   ImportStepMessage = 1754,
+  SpeedMessage = 1903,
+  VolumeMessage = 1904,
+  VoiceOffMessage = 1905,
+  VoiceOnMessage = 1906,
+  BriefSpeechMessage = 1907,
+  FullSpeechMessage = 1908,
   CharacterNameMessages = 4000,  ///< + the ASCII code
 };
 

@@ -106,6 +106,21 @@ class View : public Form, protected EngineHost {
   void Redo();
   void TellStep(const std::string* step, int toldMessage, int noneMessage);
 
+  // VoiceKeys.cpp
+  template <int WordsPerMinute>
+  void SpeedBy() {
+    ChangeSpeed(WordsPerMinute);
+  }
+  template <int Percent>
+  void VolumeBy() {
+    ChangeVolume(Percent);
+  }
+  void ChangeSpeed(int wordsPerMinute);
+  void ChangeVolume(int percent);
+  void SwitchVoice();
+  void SwitchDetail();
+  void SpellDisplay();
+
   const ViewTables& Tables;
   std::unique_ptr<EntryEngine> Engine;
   TextBox* Display = nullptr;

@@ -74,6 +74,9 @@ TEST_F(ScriptMode, TellsWhatTheVoiceIsGiven) {
   EXPECT_FALSE(keys[0].contains("voiced"));
   EXPECT_EQ(keys[1]["voiced"], "2");
   EXPECT_EQ(keys[2]["voiced"], "about 1 point 4 1");
+  const Outcome off = Run("key F9\nkeys 2\n", "--voiced");
+  EXPECT_EQ(off.Lines.at(0)["spoken"][0]["voiced"], "Voice off.");
+  EXPECT_EQ(off.Lines.at(1)["spoken"][1], Json::parse(R"({"how": "now", "text": "2"})"));
   const Outcome brief = Run("focus lltNumBase\n", "--voiced --view scientific");
   EXPECT_EQ(brief.Lines.at(0)["spoken"].size(), 1u) << "no help follows a name";
 }
