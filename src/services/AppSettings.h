@@ -66,7 +66,7 @@ struct AppSettings {
   int SpokenDecimals = 0;  ///< a number is spoken with so many decimals; 0: with all
   int Detail = FullSpeech;
   int NoFunctionSound = true;  ///< whether a key that does nothing makes a sound
-  int KeepHistory = true;     ///< whether calculations are kept over restarts
+  int KeepHistory = true;      ///< whether calculations are kept over restarts
 
   /// True when a host settings file was found: only then its colours and font replace the desktop's own.
   bool HostFileFound = false;

@@ -43,6 +43,10 @@ enum MessageId : int {
   DoneAgainMessage = 1751,
   NothingToUndoMessage = 1752,
   NothingToRedoMessage = 1753,
+  CopiedMessage = 1821,
+  PastedMessage = 1822,
+  NoNumberMessage = 1823,
+  PasteStepMessage = 1839,
   CharacterNameMessages = 4000,  ///< + the ASCII code
 };
 

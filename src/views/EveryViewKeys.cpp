@@ -15,6 +15,9 @@ struct View::EveryViewKey {
 const View::EveryViewKey View::EveryViewKeys[] = {
     {KeyF3, NoShift, 1850, &View::Undo},
     {KeyF3, ShiftBit, 1851, &View::Redo},
+    {'C', ControlBit | ShiftBit, 1857, &View::Copy},
+    {'V', ControlBit | ShiftBit, 1858, &View::Paste},
+    {KeyInsert, ShiftBit, 1858, &View::Paste},
 };
 
 /// True when it was one of them.
