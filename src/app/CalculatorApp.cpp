@@ -4,6 +4,7 @@
 
 #include "dialogs/HelpDialogs.h"
 #include "dialogs/ResultDialog.h"
+#include "services/DecimalMark.h"
 #include "views/MenuIds.h"
 
 namespace qves {
@@ -99,7 +100,7 @@ void CalculatorApp::Leave() {
 
 bool CalculatorApp::KeyDown(const KeyEvent& event) {
   Retired.clear();
-  const bool isPoint = IsPlainComma(event) && CommaTypesPoint();
+  const bool isPoint = IsPlainComma(event) && WritesDecimalComma(Common.Settings, Common.Outside.Language);
   const KeyUse use = PressKey(isPoint ? KeyEvent{KeyPeriod, NoShift, U'.', event.Held} : event);
   if (use == KeyUse::Unused) TellOfNoFunction(event);
   return use == KeyUse::Used;
@@ -109,12 +110,6 @@ KeyUse CalculatorApp::PressKey(const KeyEvent& event) {
   if (HostForm && HostForm->KeyDown(event)) return KeyUse::Used;
   Form* form = ActiveForm();
   return form && !(HostForm && HostForm->IsMenuActive()) ? form->KeyDown(event) : KeyUse::PassedOn;
-}
-
-bool CalculatorApp::CommaTypesPoint() const {
-  const int choice = Common.Settings.DecimalComma;
-  return choice == DecimalCommaOn ||
-         (choice == DecimalCommaAuto && Common.Outside.Language.WritesDecimalComma());
 }
 
 /// Without a word, so that nothing is cut off. F10 goes to the menus, where there are any.

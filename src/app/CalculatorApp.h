@@ -74,7 +74,6 @@ class CalculatorApp : private ViewFrame, private DialogFrame {
   void SetReadingTarget(Form* form) override;
 
   KeyUse PressKey(const KeyEvent& event);
-  bool CommaTypesPoint() const;
   void TellOfNoFunction(const KeyEvent& event);
   void ShowView(const ViewRow& row);
   void OpenDialog(std::unique_ptr<Form> dialog);

@@ -11,6 +11,7 @@
 #include <iostream>
 
 #include "app/CalculatorApp.h"
+#include "desktop/DesktopClipboard.h"
 #include "desktop/DesktopLocale.h"
 #include "desktop/DesktopShell.h"
 #include "desktop/LateTts.h"
@@ -79,8 +80,9 @@ int RunCalculator(const Options& options, QtEventPump& events, LateTts& speech,
                      QString::fromStdString(directories.ConfigFolder()));
   QtFileDialog fileDialog;
   InverseT inverseT;
-  Platform platform{speech, hints, windowMessages, windows, files,  directories, registry,
-                    locale, clock, events,         random,  sounds, fileDialog,  inverseT};
+  DesktopClipboard clipboard;
+  Platform platform{speech, hints,  windowMessages, windows, files,      directories, registry, locale,
+                    clock,  events, random,         sounds,  fileDialog, inverseT,    clipboard};
   ServiceSet services(platform);
 
   DesktopShell shell({services.All.Settings, hints, windowMessages, windows, events, fileDialog});

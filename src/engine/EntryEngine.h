@@ -11,6 +11,7 @@
 #include "engine/Announcer.h"
 #include "engine/EntryState.h"
 #include "engine/Operators.h"
+#include "formulas/NumberBases.h"
 
 namespace qves {
 
@@ -57,6 +58,11 @@ class EntryEngine {
 
   /// Everything but the memory, back to "0".
   void ClearAll();
+  /// Takes a number text, written in that number base, as MR takes the memory's: the digit typed next begins
+  /// a new number. Faults when it is no number, or one that the engine's own number base cannot hold.
+  virtual void TakeText(std::string_view text, int base);
+  /// The same for a number, with all its digits where the number base has them.
+  void TakeNumber(double value);
   /// Evaluates the operator of that caption; "" does nothing. `second` receives the result. A fault of the
   /// evaluation ends in the error state.
   void Calculate(double first, double& second, std::string_view op);
@@ -71,6 +77,10 @@ class EntryEngine {
   void ShowAll();
 
   bool InError() const { return Now.ErrorState; }
+  /// Whether the display shows a value: not in the error state, nor while it shows what is none.
+  virtual bool ShowsValue() const { return !InError(); }
+  /// The number base of entries.
+  virtual int Base() const { return NumberBase::Decimal; }
   /// What the display shows: the entry, or what stands in its place for the moment.
   const std::string& DisplayText() const { return Now.DisplayText(); }
   /// What the value is that the display shows.
@@ -87,6 +97,9 @@ class EntryEngine {
   virtual std::optional<double> ReadNumber(std::string_view text) const;
   /// The memory's text as entries are written.
   virtual std::string RecalledText() const { return Now.MemoryCell.Text(); }
+  /// A number text of that base in the engine's own; "0" is 0 in every base, however long a zero would be
+  /// written. Faults when it cannot be written so.
+  std::string InOwnBase(std::string_view text, int base) const;
   /// The memory has just been written.
   virtual void OnStored() {}
   virtual void OnClearAll() {}

@@ -60,6 +60,23 @@ void EntryEngine::RecallPi() {
   Recall(NumberToText(Pi), Pi);
 }
 
+void EntryEngine::TakeText(std::string_view text, int base) {
+  std::string own = InOwnBase(text, base);
+  const double value = ValueOf(own);
+  Recall(std::move(own), value);
+  Now.LastAction = ActionKind::Memory;
+  Now.DecimalEntered = false;
+}
+
+void EntryEngine::TakeNumber(double value) {
+  TakeText(WriteNumber(value), Base());
+  if (Base() == NumberBase::Decimal) Now.CurrentValue = value;
+}
+
+std::string EntryEngine::InOwnBase(std::string_view text, int base) const {
+  return text == "0" ? std::string(text) : ConvertBase(base, Base(), text);
+}
+
 /// After an operator a recalled number begins its second operand, as a digit does.
 void EntryEngine::Recall(std::string text, double value) {
   if (SecondOperandDue()) BeginSecondOperand();

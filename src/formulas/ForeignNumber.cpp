@@ -224,6 +224,7 @@ std::optional<double> ReadForeignNumber(std::string_view text, const ForeignStyl
   try {
     return ReadWrapped(Unwrap(*plain), style);
   } catch (const ArithmeticFault&) {
+    if (style.Base != NumberBase::Decimal) throw;
     return std::nullopt;  // it is beyond a double, or its digits beyond 32 bits
   }
 }

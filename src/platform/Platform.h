@@ -1,6 +1,7 @@
 // All outside things together, as a shell hands them to the calculator.
 #pragma once
 
+#include "platform/Clipboard.h"
 #include "platform/FileStore.h"
 #include "platform/FixedSizeFileDialog.h"
 #include "platform/Notifiers.h"
@@ -27,6 +28,7 @@ struct Platform {
   SoundPlayer& Sounds;
   FixedSizeFileDialog& FileDialog;
   Spreadsheet& Sheet;
+  Clipboard& Clip;
 };
 
 }  // namespace qves

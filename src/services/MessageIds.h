@@ -50,6 +50,10 @@ enum MessageId : int {
   VoiceOnMessage = 1906,
   BriefSpeechMessage = 1907,
   FullSpeechMessage = 1908,
+  CopiedMessage = 1821,
+  PastedMessage = 1822,
+  NoNumberMessage = 1823,
+  PasteStepMessage = 1839,
   CharacterNameMessages = 4000,  ///< + the ASCII code
 };
 

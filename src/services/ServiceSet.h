@@ -15,8 +15,8 @@ class ServiceSet {
         Speech(platform, Settings, Messages),
         Sounds(Verbosity, Messages, FolderLocations, Log, platform),
         Past(platform, Settings, Log),
-        All{Settings, SettingsStore, FolderLocations, Messages, Log,
-            Speech,   Verbosity,     platform,        Sounds,   Past} {}
+        All{Settings,  SettingsStore, FolderLocations, Messages, Log,   Speech,
+            Verbosity, platform,      Sounds,          Past,     Copied} {}
   ServiceSet(const ServiceSet&) = delete;
   ServiceSet& operator=(const ServiceSet&) = delete;
 
@@ -30,6 +30,7 @@ class ServiceSet {
   SpeechService Speech;
   EventSounds Sounds;
   History Past;
+  WrittenNumber Copied;
 
  public:
   Services All;

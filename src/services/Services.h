@@ -14,6 +14,12 @@
 
 namespace qves {
 
+/// A number as it stands in a number base.
+struct WrittenNumber {
+  std::string Text;
+  int Base = 0;
+};
+
 struct Services {
   AppSettings& Settings;
   SettingsFiles& SettingsStore;
@@ -25,6 +31,7 @@ struct Services {
   Platform& Outside;
   EventSounds& Sounds;
   History& Past;
+  WrittenNumber& Copied;  ///< what the calculator has put on the clipboard last
 };
 
 }  // namespace qves

@@ -39,6 +39,26 @@ std::string Quoted(std::string_view text) {
   return "\"" + std::string(text.substr(0, 60)) + "\"";
 }
 
+bool IsToolkitsCopy(const KeyEvent& event) {
+  return event.Shift == ControlBit && (event.Code == 'C' || event.Code == KeyInsert);
+}
+
+/// Nothing when a backslash begins no escape.
+std::optional<std::string> Unescaped(std::string_view text) {
+  constexpr std::string_view names = "nt\\", characters = "\n\t\\";
+  std::string out;
+  for (std::size_t at = 0; at < text.size(); ++at) {
+    if (text[at] != '\\') {
+      out += text[at];
+      continue;
+    }
+    const std::size_t escape = ++at < text.size() ? names.find(text[at]) : std::string_view::npos;
+    if (escape == std::string_view::npos) return std::nullopt;
+    out += characters[escape];
+  }
+  return out;
+}
+
 }  // namespace
 
 struct ScriptSession::Command {
@@ -50,8 +70,9 @@ const ScriptSession::Command ScriptSession::Commands[] = {
     {"key", &ScriptSession::Key},       {"keys", &ScriptSession::Keys},
     {"click", &ScriptSession::Click},   {"focus", &ScriptSession::Focus},
     {"select", &ScriptSession::Select}, {"menu", &ScriptSession::ChooseMenu},
-    {"answer", &ScriptSession::Answer}, {"heard", &ScriptSession::Heard},
-    {"state", &ScriptSession::State},   {"quit", &ScriptSession::Quit},
+    {"answer", &ScriptSession::Answer}, {"clipboard", &ScriptSession::SetClipboard},
+    {"heard", &ScriptSession::Heard},   {"state", &ScriptSession::State},
+    {"quit", &ScriptSession::Quit},
 };
 
 ScriptSession::ScriptSession(const Options& options)
@@ -76,7 +97,8 @@ ScriptSession::ScriptSession(const Options& options)
               Random,
               Sounds,
               FileDialog,
-              Sheet},
+              Sheet,
+              Clip},
       Common(Outside),
       App(Common.All, *this),
       TellsVoiced(options.Voiced) {
@@ -131,10 +153,17 @@ std::string ScriptSession::Keys(std::string_view argument) {
 void ScriptSession::Press(const KeyEvent& event) {
   if (event.Code == KeyCapsLock || event.Code == KeyNumLock || event.Code == KeyScrollLock)
     Windows.Toggle(event.Code);
-  App.KeyDown(event);
+  if (!App.KeyDown(event) && IsToolkitsCopy(event)) CopySelection();
   Common.All.Speech.EndTurn();
   App.KeyUp(event.Code);
   Common.All.Speech.EndTurn();
+}
+
+/// What the toolkit does with its own copy keys: it copies what is selected in the text box.
+void ScriptSession::CopySelection() {
+  const Form* form = App.ActiveForm();
+  const auto* box = form ? dynamic_cast<const TextBox*>(form->FocusedControl()) : nullptr;
+  if (box && box->SelLength > 0) Clip.WriteText(box->Text.substr(box->SelStart, box->SelLength));
 }
 
 std::string ScriptSession::WithControl(std::string_view argument, void (Form::*action)(Control&)) {
@@ -184,6 +213,13 @@ std::string ScriptSession::Answer(std::string_view argument) {
   return error ? "the path has no folder" : "";
 }
 
+std::string ScriptSession::SetClipboard(std::string_view argument) {
+  const auto text = Unescaped(argument);
+  if (!text) return "the escapes are \\n, \\t and \\\\";
+  Clip.Text = *text;
+  return "";
+}
+
 std::string ScriptSession::Heard(std::string_view argument) {
   const auto count = ParseInteger(argument);
   if (!argument.empty() && (!count || *count < 0)) return "heard wants a number of bookmarks, or nothing";
@@ -225,6 +261,7 @@ void ScriptSession::Report(int lineNumber, std::string_view line, const std::str
   ReportSpeech(Line, Spoken);
   ReportList(Line, "sounds", Played);
   ReportList(Line, "files", Files.TakeWritten());
+  if (const auto copied = std::exchange(Clip.Copied, {})) Line.Field("clipboard", std::string_view(*copied));
   if (std::exchange(WantsState, false)) ReportState(Line, App.ActiveForm());
   Line.End('}');
   TapeAdded.clear();

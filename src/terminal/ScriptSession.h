@@ -44,6 +44,7 @@ class ScriptSession : private AppObserver, private FormObserver, private SpeechO
   std::string Select(std::string_view argument);
   std::string ChooseMenu(std::string_view argument);
   std::string Answer(std::string_view argument);
+  std::string SetClipboard(std::string_view argument);
   std::string Heard(std::string_view argument);
   std::string State(std::string_view argument);
   std::string Quit(std::string_view argument);
@@ -51,6 +52,7 @@ class ScriptSession : private AppObserver, private FormObserver, private SpeechO
   std::string Perform(std::string_view line);
   std::string WithControl(std::string_view argument, void (Form::*action)(Control&));
   void Press(const KeyEvent& event);
+  void CopySelection();
   void Report(int lineNumber, std::string_view line, const std::string& error);
 
   void FormShown(Form& form) override { form.AddObserver(*this); }
@@ -74,6 +76,7 @@ class ScriptSession : private AppObserver, private FormObserver, private SpeechO
   SilentSounds Sounds;
   AnsweredFileDialog FileDialog;
   InverseT Sheet;
+  GivenClipboard Clip;
   Platform Outside;
   ServiceSet Common;
   CalculatorApp App;

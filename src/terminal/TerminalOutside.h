@@ -1,10 +1,12 @@
 // The outside of a program without a window, a desktop or sounds.
 #pragma once
 
+#include <optional>
 #include <set>
 #include <string>
 #include <utility>
 
+#include "platform/Clipboard.h"
 #include "platform/FileStore.h"
 #include "platform/FixedSizeFileDialog.h"
 #include "platform/Outside.h"
@@ -44,6 +46,15 @@ struct GivenLocale : Locale {
 struct AnsweredFileDialog : FixedSizeFileDialog {
   std::string Show(const FileDialogSpec&) override { return std::exchange(Answer, {}); }
   std::string Answer;  ///< what the next dialog returns; "" is a cancel
+};
+
+/// It holds what it is given, and notes what is copied.
+struct GivenClipboard : Clipboard {
+  std::string ReadText(std::size_t most) override { return Text.substr(0, most); }
+  void WriteText(std::string_view text) override { Copied = Text = text; }
+
+  std::string Text;
+  std::optional<std::string> Copied;  ///< since it was looked at last
 };
 
 /// Plays every wave file, without a sound.

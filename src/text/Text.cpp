@@ -41,6 +41,13 @@ std::string Lower(std::string_view text) {
   return lower;
 }
 
+std::string Upper(std::string_view text) {
+  std::string upper(text);
+  for (char& c : upper)
+    if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
+  return upper;
+}
+
 std::string MakeReadable(std::string_view bytes, std::string_view keptControls) {
   std::string out;
   while (!bytes.empty()) {

@@ -23,6 +23,9 @@ std::string ReplaceAll(std::string_view text, std::string_view from, std::string
 /// The text with its ASCII letters small.
 std::string Lower(std::string_view text);
 
+/// The text with its ASCII letters large.
+std::string Upper(std::string_view text);
+
 /// The text with a "?" for every byte that is no well-formed UTF-8 and for every control character but those
 /// kept.
 std::string MakeReadable(std::string_view bytes, std::string_view keptControls = {});

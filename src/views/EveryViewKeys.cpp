@@ -22,6 +22,9 @@ const View::EveryViewKey View::EveryViewKeys[] = {
     {KeyF8, ControlBit | ShiftBit, 1864, &View::VolumeBy<-5>},
     {KeyF9, NoShift, 1865, &View::SwitchVoice, true},
     {KeyF9, ShiftBit, 1866, &View::SwitchDetail},
+    {'C', ControlBit | ShiftBit, 1857, &View::Copy},
+    {'V', ControlBit | ShiftBit, 1858, &View::Paste},
+    {KeyInsert, ShiftBit, 1858, &View::Paste},
 };
 
 /// True when it was one of them.

@@ -157,11 +157,12 @@ Wording View::Announcement(const Control& control) {
   if (&control != Display) return {control.SpokenName};
   SelectAll(*Display);  // so that a copy takes all of it
   if (Engine->InError()) return {Message(ErrorMessage)};
-  return ValueOfDisplay();
+  return WithDisplay(CurrentValueMessage);
 }
 
-Wording View::ValueOfDisplay() const {
-  const std::string& sentence = Message(CurrentValueMessage);
+/// The message with what the display shows in its placeholder.
+Wording View::WithDisplay(int message) const {
+  const std::string& sentence = Message(message);
   const std::string value = Common.Speech.SpeechFormatNumber(Engine->DisplayText());
   const std::size_t start = sentence.find(Placeholder);
   if (start == std::string::npos) return {sentence};

@@ -72,6 +72,9 @@ class View : public Form, protected EngineHost {
   /// What is spoken of a list's chosen item.
   virtual Wording ChosenWords(const ListControl& list) const;
   void OnMenu(int id) override;
+  /// Takes the number that the text of the clipboard is, and says it; false when it is none.
+  virtual bool PasteText(std::string_view text);
+  void PasteNumber(double value);
 
   Services& Common;
   Announcer Says;
@@ -94,7 +97,10 @@ class View : public Form, protected EngineHost {
   void GoByKey(Control& control);
   void Introduce(Control& control, bool queued);
   void SayOf(const Control& control, bool queued);
-  Wording ValueOfDisplay() const;
+  Wording WithDisplay(int message) const;
+  void RememberCopy();
+  void SayPasted();
+  WrittenNumber AsWritten(std::string_view text) const;
   const std::string& StateOf(const CheckBox& box) const;
   KeyUse TextBoxKey(TextBox& box, const KeyEvent& event);
 
@@ -104,6 +110,8 @@ class View : public Form, protected EngineHost {
   bool PressEveryViewKey(const KeyEvent& event);
   void Undo();
   void Redo();
+  void Copy();
+  void Paste();
   void TellStep(const std::string* step, int toldMessage, int noneMessage);
 
   // VoiceKeys.cpp

@@ -83,6 +83,7 @@ KeyUse View::OnControlKey(Control& control, const KeyEvent& event) {
 
 KeyUse View::TextBoxKey(TextBox& box, const KeyEvent& event) {
   if (Is(event, CopyKey)) {
+    if (&box == Display) RememberCopy();
     Common.Speech.SpeakText(Message(CopyMessage));
     return KeyUse::PassedOn;  // the copy itself is the toolkit's
   }

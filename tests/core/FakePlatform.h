@@ -205,6 +205,12 @@ struct FakeSpreadsheet : Spreadsheet {
   }
 };
 
+struct FakeClipboard : Clipboard {
+  std::string Text;
+  std::string ReadText(std::size_t most) override { return Text.substr(0, most); }
+  void WriteText(std::string_view text) override { Text = text; }
+};
+
 struct FakePlatform {
   FakeTts Speech;
   HintNotify Hints;
@@ -220,8 +226,10 @@ struct FakePlatform {
   FakeSounds Sounds{Files};
   FakeFileDialog FileDialog;
   FakeSpreadsheet TheSpreadsheet;
-  Platform All{Speech,    Hints,    WindowMessages, Windows, Files,  Directories, RegistryStore,
-               TheLocale, TheClock, Events,         Random,  Sounds, FileDialog,  TheSpreadsheet};
+  FakeClipboard Clip;
+  Platform All{Speech,      Hints,         WindowMessages, Windows,        Files,
+               Directories, RegistryStore, TheLocale,      TheClock,       Events,
+               Random,      Sounds,        FileDialog,     TheSpreadsheet, Clip};
 
   FakePlatform() {
     Files.Content["/program/Messages.txt"] =

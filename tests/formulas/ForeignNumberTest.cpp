@@ -4,6 +4,7 @@
 #include <string>
 
 #include "formulas/ForeignNumber.h"
+#include "model/ArithmeticFault.h"
 
 namespace qves {
 namespace {
@@ -186,7 +187,6 @@ TEST(ForeignNumber, BareDigitsAreOfTheNumberBase) {
       {Hex, "DE AD", 0xDEAD - 0x10000 + 0.0},
       {Hex, "1.5", No},
       {Hex, "1,234", No},
-      {Hex, "1FFFFFFFF", No},
       {Octal, "17", 15},
       {Octal, "18", No},
       {Octal, "0b101", 5},
@@ -197,6 +197,8 @@ TEST(ForeignNumber, BareDigitsAreOfTheNumberBase) {
       {Binary, "0b11", 3},
   };
   for (const auto& row : rows) EXPECT_EQ(ReadForeignNumber(row.Text, row.Style), row.Value) << row.Text;
+  for (const char* beyond : {"1FFFFFFFF", "0x1FFFFFFFF", "-&H123456789"})
+    EXPECT_THROW(ReadForeignNumber(beyond, Hex), ArithmeticFault) << beyond;
 }
 
 TEST(ForeignNumber, WhichDecimalMarkATextShows) {

@@ -3,6 +3,7 @@
 //   [now], +[queued], stop    every spoken text in order; "help 354" is the long message of that id
 //   tape                      a line added to the tape
 //   sound                     an event that sounded
+//   copied                    a text that went to the clipboard
 //   display, memory, focus    when they differ from before
 //   error                     when the line is no command
 // "3x" is the same three times. "key" takes several keys, and tells together what they do.
@@ -176,6 +177,8 @@ class ScriptRunner {
       for (const Json& sound : report["sounds"]) sounds.push_back("sound " + sound.get<std::string>());
       for (const Json& tape : report.value("tape", Json::array()))
         effects.push_back("tape " + tape.get<std::string>());
+      if (report.contains("clipboard"))
+        effects.push_back("copied " + OnOneLine(report["clipboard"].get<std::string>()));
       if (report.contains("error")) effects.push_back("error " + report["error"].get<std::string>());
     }
     effects.insert(effects.begin(), {Counted(said), Counted(sounds)});

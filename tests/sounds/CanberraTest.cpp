@@ -98,9 +98,9 @@ TEST_F(CanberraHeardTest, ASoundWhoseFileIsGoneIsReplacedHeardAndAssigned) {
   FakePlatform fake;
   PosixFileStore files("", "");
   IniRegistry registry(files, Desktop.Folder() + "/registry.ini");
-  Platform platform{fake.Speech,      fake.Hints, fake.WindowMessages, fake.Windows,       files,
-                    fake.Directories, registry,   fake.TheLocale,      fake.TheClock,      fake.Events,
-                    fake.Random,      Sounds,     fake.FileDialog,     fake.TheSpreadsheet};
+  Platform platform{fake.Speech,      fake.Hints, fake.WindowMessages, fake.Windows,        files,
+                    fake.Directories, registry,   fake.TheLocale,      fake.TheClock,       fake.Events,
+                    fake.Random,      Sounds,     fake.FileDialog,     fake.TheSpreadsheet, fake.Clip};
   ServiceSet set(platform);
   set.All.FolderLocations.SoundsFolder = std::filesystem::path(SOUND).parent_path();
   set.All.Verbosity.ApplySetting("vrbTopOfList", "2");

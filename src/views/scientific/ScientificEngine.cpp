@@ -96,12 +96,6 @@ std::optional<double> ScientificEngine::ReadNumber(std::string_view text) const 
   return ReadInBase(Now.NumBase, text);
 }
 
-/// "0" is 0 in every base, however long a zero would be written.
-std::string ScientificEngine::RecalledText() const {
-  const std::string& text = Now.MemoryCell.Text();
-  return text == "0" ? text : ConvertBase(Now.MemoryBase, Now.NumBase, text);
-}
-
 void ScientificEngine::OnClearAll() {
   Now.Form = EntryForm::Plain;
   Now.ParenDepth = 0;
@@ -141,6 +135,11 @@ void ScientificEngine::Equals(const PressedKey& key) {
 void ScientificEngine::Memory(const PressedKey& key) {
   EndExponent();
   EntryEngine::Memory(key);
+}
+
+void ScientificEngine::TakeText(std::string_view text, int base) {
+  EndExponent();
+  EntryEngine::TakeText(text, base);
 }
 
 void ScientificEngine::ChangeBase(int base) {

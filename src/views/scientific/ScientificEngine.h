@@ -45,6 +45,9 @@ class ScientificEngine : public EntryEngine {
   /// and the base is another all the same.
   void ChangeBase(int base);
 
+  void TakeText(std::string_view text, int base) override;
+  bool ShowsValue() const override { return EntryEngine::ShowsValue() && ShowsEntry(); }
+  int Base() const override { return Now.NumBase; }
   ValueKind DisplayKind() const override {
     return Now.NumBase == NumberBase::Decimal ? ValueKind::Number : ValueKind::BaseDigits;
   }
@@ -54,7 +57,7 @@ class ScientificEngine : public EntryEngine {
   void ShowResult(double& value) override;
   std::string WriteNumber(double value) const override;
   std::optional<double> ReadNumber(std::string_view text) const override;
-  std::string RecalledText() const override;
+  std::string RecalledText() const override { return InOwnBase(Now.MemoryCell.Text(), Now.MemoryBase); }
   void OnStored() override { Now.MemoryBase = Now.NumBase; }
   void OnClearAll() override;
   bool OperatorCompletesPending() const override;
