@@ -44,7 +44,7 @@ def hear_silence(recording):
 
 
 def hear_tick(recording):
-    pressed = press("F3")
+    pressed = press("F11")
     began = recording.wait_for_sound(pressed, "the tick")
     report("the tick of a key without a function", began - pressed)
     report("the length of the tick", recording.wait_for_silence(pressed) - began, 0.3)
