@@ -79,6 +79,7 @@ void CalculatorApp::ChooseView(int menuItem) {
 }
 
 void CalculatorApp::Exit() {
+  Common.Past.Save();
   UnloadView();
   Observer.Ended();
 }

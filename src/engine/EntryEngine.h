@@ -10,7 +10,10 @@
 
 #include "engine/Announcer.h"
 #include "engine/EntryState.h"
+#include "engine/LineShape.h"
 #include "engine/Operators.h"
+#include "formulas/NumberBases.h"
+#include "services/History.h"
 
 namespace qves {
 
@@ -22,6 +25,8 @@ class EngineHost {
   /// The text shown grows at its end.
   virtual void ExtendDisplay(std::string_view text) = 0;
   virtual void ShowMemory(std::string_view indicator) = 0;
+  /// A calculation is finished.
+  virtual void Record(FinishedCalculation calculation) = 0;
 };
 
 /// The pressed key as the engine needs it.
@@ -54,6 +59,8 @@ class EntryEngine {
   virtual void Equals(const PressedKey& key);
   /// MC, MR, MS, M+, C or Pi, by the caption.
   virtual void Memory(const PressedKey& key);
+  /// Takes a number into the calculation, as MR takes the memory. Faults when it cannot be written.
+  virtual void Take(double value);
 
   /// Everything but the memory, back to "0".
   void ClearAll();
@@ -93,6 +100,17 @@ class EntryEngine {
   /// Whether a binary operator completes the one pending before it.
   virtual bool OperatorCompletesPending() const;
 
+  // CalculationLines.cpp
+  /// What the line of a calculation shows before its result; nothing for what is no calculation.
+  virtual std::optional<std::string> BeginLine(double first, double second, std::string_view op) const;
+  /// Of the operators with one operand. One that is not among them puts its result alone on its line.
+  virtual std::span<const LineShape> LineShapes() const { return {}; }
+  virtual std::string OperandText(double value) const;
+  /// The list index of the base that lines are written in.
+  virtual int LineBase() const { return NumberBase::Decimal; }
+  /// A calculation is finished and shown.
+  virtual void Finish(FinishedCalculation calculation);
+
   /// As ReadNumber, but faults when the text is no number.
   double ValueOf(std::string_view text) const;
   bool SecondOperandDue() const;
@@ -105,6 +123,8 @@ class EntryEngine {
   /// True when the display shows the entry itself.
   bool ShowsEntry() const { return Now.InsteadOfEntry.empty(); }
   void SayResult(std::string_view leadIn);
+  /// Recalls a number that is no memory's.
+  void TakeAs(std::string text, double value);
 
   std::span<const OperatorRow> Operators;
   EngineHost& Host;
@@ -126,6 +146,7 @@ class EntryEngine {
   void RecallPi();
   void Recall(std::string text, double value);
   bool RefuseNoNumber();
+  void FinishMemoryKey();
 
   EntryState& Now;
 };

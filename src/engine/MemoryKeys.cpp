@@ -31,8 +31,21 @@ void EntryEngine::Memory(const PressedKey& key) {
   }
   Host.ShowMemory(Now.MemoryCell.Indicator());
   Says.Say(key.SpokenName);
+  FinishMemoryKey();
+}
+
+void EntryEngine::FinishMemoryKey() {
   Now.LastAction = ActionKind::Memory;
   Now.DecimalEntered = false;
+}
+
+void EntryEngine::Take(double value) {
+  TakeAs(WriteNumber(value), value);
+}
+
+void EntryEngine::TakeAs(std::string text, double value) {
+  Recall(std::move(text), value);
+  FinishMemoryKey();
 }
 
 void EntryEngine::ClearMemory() {

@@ -43,6 +43,10 @@ enum MessageId : int {
   DoneAgainMessage = 1751,
   NothingToUndoMessage = 1752,
   NothingToRedoMessage = 1753,
+  HistoryPlaceMessage = 1810,
+  HistoryEmptyMessage = 1811,
+  TakenMessage = 1812,
+  TakeStepMessage = 1813,
   CharacterNameMessages = 4000,  ///< + the ASCII code
 };
 

@@ -156,11 +156,11 @@ Wording View::Announcement(const Control& control) {
   if (&control != Display) return {control.SpokenName};
   SelectAll(*Display);  // so that a copy takes all of it
   if (Engine->InError()) return {Message(ErrorMessage)};
-  return ValueOfDisplay();
+  return WithValue(CurrentValueMessage);
 }
 
-Wording View::ValueOfDisplay() const {
-  const std::string& sentence = Message(CurrentValueMessage);
+Wording View::WithValue(int sentenceMessage) const {
+  const std::string& sentence = Message(sentenceMessage);
   const std::string value = Common.Speech.SpeechFormatNumber(Engine->DisplayText());
   const std::size_t start = sentence.find(Placeholder);
   if (start == std::string::npos) return {sentence};

@@ -36,6 +36,7 @@ class ScientificEngine : public EntryEngine {
   void UnaryOperator(const PressedKey& key) override;
   void Equals(const PressedKey& key) override;
   void Memory(const PressedKey& key) override;
+  void Take(double value) override;
 
   // ParenthesisKeys.cpp
   void LeftParen(const PressedKey& key);
@@ -58,6 +59,12 @@ class ScientificEngine : public EntryEngine {
   void OnStored() override { Now.MemoryBase = Now.NumBase; }
   void OnClearAll() override;
   bool OperatorCompletesPending() const override;
+
+  // ScientificLines.cpp
+  std::optional<std::string> BeginLine(double first, double second, std::string_view op) const override;
+  std::span<const LineShape> LineShapes() const override;
+  std::string OperandText(double value) const override;
+  int LineBase() const override { return Now.NumBase; }
 
  private:
   struct EntryOperator;
