@@ -69,7 +69,7 @@ void NoteAStep(benchmark::State& state) {
   int typed = 0;
   for (auto _ : state) {
     calculation.EntryText = ++typed % 2 == 0 ? "2.23606797749979" : "3.14159265358979";
-    steps.Note(calculation, "square root");
+    steps.Add(calculation, "square root");
   }
 }
 BENCHMARK(NoteAStep);

@@ -63,6 +63,7 @@ class CalculatorApp : private ViewFrame, private DialogFrame {
   void UnloadHostForm() override { HostForm.reset(); }
   bool IsSwitching() const override { return ViewSwitching; }
   bool IsActive(const Form& view) const override { return &view == ActiveForm(); }
+  void StopReading() override { ActiveForm()->StopReading(); }
   bool OpenHelp(int menuItem) override;
   void OpenResult() override;
   void ViewLoaded() override { ViewSwitching = false; }

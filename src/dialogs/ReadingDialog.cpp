@@ -65,7 +65,7 @@ void ReadingDialog::Form_Unload() {
 
 /// From the sentence where the reading stopped; a document that has been read to its end begins anew.
 void ReadingDialog::ReadOn(bool queued) {
-  if (Sentences.empty() || Document->Speaking.Quiescent || !Common.Speech.HasSpeaker()) return;
+  if (Sentences.empty() || Document->Speaking.Quiescent || !Common.Speech.IsAloud()) return;
   if (Sentence >= Sentences.size()) Sentence = 0;
   Frame.SetReadingTarget(this);
   Reading = true;

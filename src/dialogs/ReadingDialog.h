@@ -27,6 +27,7 @@ class ReadingDialog : public Form {
 
   void Form_Load() override;
   void Form_Unload() override;
+  bool StopReading() override;
   void NotifyBookMark(int bookMark, TtsSpeaker& speaker) override;
   void NotifySpeechStopped(TtsSpeaker& speaker) override;
 
@@ -40,8 +41,6 @@ class ReadingDialog : public Form {
   bool ReaderKey(const KeyEvent& event);
   /// After what is being spoken, or at once.
   void ReadOn(bool queued);
-  /// True when it was reading.
-  bool StopReading();
   void ShowSentence();
   bool MoveCaret(int keyCode);
   void SayCharacter();

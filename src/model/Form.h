@@ -103,6 +103,8 @@ class Form {
   /// Moves the focus to the cancel control; false when there is none.
   bool FocusCancelControl();
 
+  /// Stops what the form reads aloud, so that it can go on there. False when it reads nothing.
+  virtual bool StopReading() { return false; }
   virtual void NotifyBookMark(int /*bookMark*/, TtsSpeaker&) {}
   virtual void NotifySpeechStopped(TtsSpeaker&) {}
 

@@ -19,6 +19,12 @@ enum CalcViewNumber : std::int16_t {
 /// Brief: no help behind a name, no introduction before a report.
 enum SpeechDetail : int { FullSpeech, BriefSpeech };
 
+/// Whether the calculator speaks with its own voice. Auto: it does.
+enum OwnVoiceChoice : int { OwnVoiceAuto, OwnVoiceOn, OwnVoiceOff };
+
+/// Of a setting that holds over the host's: the host's counts.
+inline constexpr int HostLevel = -1;
+
 /// Whether the plain comma key types the point: where the desktop's locale writes numbers so, always, never.
 enum DecimalCommaChoice : int { DecimalCommaAuto, DecimalCommaOn, DecimalCommaOff };
 
@@ -65,8 +71,11 @@ struct AppSettings {
   int ReadNumbersAs = 0;   ///< a NumberReading
   int SpokenDecimals = 0;  ///< a number is spoken with so many decimals; 0: with all
   int Detail = FullSpeech;
+  int Speed = HostLevel;   ///< words per minute
+  int Volume = HostLevel;  ///< percent
+  int OwnVoice = OwnVoiceAuto;
   int NoFunctionSound = true;  ///< whether a key that does nothing makes a sound
-  int KeepHistory = true;     ///< whether calculations are kept over restarts
+  int KeepHistory = true;      ///< whether calculations are kept over restarts
 
   /// True when a host settings file was found: only then its colours and font replace the desktop's own.
   bool HostFileFound = false;

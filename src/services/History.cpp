@@ -136,6 +136,7 @@ std::optional<History::Kept> History::ReadFile() {
 /// Another copy of the program may have written meanwhile: its lines stay.
 void History::Save() {
   if (NewOnes == 0 || !Settings.KeepHistory) return;
+  const auto lock = Outside.Files.Lock(Folder());
   auto kept = ReadFile();
   if (!kept || !SaveDamaged(kept->Damaged)) return;
   for (auto one = Calculations.end() - static_cast<std::ptrdiff_t>(NewOnes); one != Calculations.end(); ++one)
@@ -160,8 +161,12 @@ bool History::SaveDamaged(const std::string& content) {
   return isSaved;
 }
 
+std::string History::Folder() const {
+  return Outside.Directories.StateFolder() + "/QVES";
+}
+
 std::string History::Path() const {
-  return Outside.Directories.StateFolder() + "/QVES/History.txt";
+  return Folder() + "/History.txt";
 }
 
 /// Once, also when it is found at the end again.

@@ -50,6 +50,7 @@ class History {
   void Load();
   std::optional<Kept> ReadFile();
   bool SaveDamaged(const std::string& content);
+  std::string Folder() const;
   std::string Path() const;
   void Complain(const std::string& what);
 

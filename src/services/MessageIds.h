@@ -43,10 +43,17 @@ enum MessageId : int {
   DoneAgainMessage = 1751,
   NothingToUndoMessage = 1752,
   NothingToRedoMessage = 1753,
+  ImportStepMessage = 1754,
   HistoryPlaceMessage = 1810,
   HistoryEmptyMessage = 1811,
   TakenMessage = 1812,
   TakeStepMessage = 1813,
+  SpeedMessage = 1903,
+  VolumeMessage = 1904,
+  VoiceOffMessage = 1905,
+  VoiceOnMessage = 1906,
+  BriefSpeechMessage = 1907,
+  FullSpeechMessage = 1908,
   CharacterNameMessages = 4000,  ///< + the ASCII code
 };
 

@@ -1,9 +1,11 @@
 #include "services/OwnSettings.h"
 
 #include <algorithm>
+#include <optional>
 #include <span>
 
 #include "services/QuotedFields.h"
+#include "text/Integers.h"
 #include "text/Text.h"
 #include "voicing/VoiceWords.h"
 
@@ -15,17 +17,20 @@ struct Choice {
   int Value;
 };
 
-/// A setting that is one of a few words, each with the value that the field holds.
+/// A setting that is one of a few words, each with the value that the field holds, or a number in a range.
 struct OwnSetting {
   std::string_view Key;
   int AppSettings::*Field;
   std::span<const Choice> Choices;
+  NumberRange Numbers = {0, -1};  ///< none
 };
 
 constexpr int ValueOf(NumberReading reading) {
   return static_cast<int>(reading);
 }
 
+constexpr Choice HostOnly[] = {{"host", HostLevel}};
+constexpr Choice Voices[] = {{"auto", OwnVoiceAuto}, {"on", OwnVoiceOn}, {"off", OwnVoiceOff}};
 constexpr Choice AutoOnOff[] = {{"auto", DecimalCommaAuto}, {"on", DecimalCommaOn}, {"off", DecimalCommaOff}};
 constexpr Choice TrueFalse[] = {{"true", true}, {"false", false}};
 constexpr Choice Readings[] = {
@@ -40,14 +45,35 @@ constexpr OwnSetting OwnSettings[] = {
     {"NumberReading", &AppSettings::ReadNumbersAs, Readings},
     {"SpokenDecimals", &AppSettings::SpokenDecimals, Decimals},
     {"SpeechDetail", &AppSettings::Detail, Details},
+    {"Speed", &AppSettings::Speed, HostOnly, SpeedRange},
+    {"Volume", &AppSettings::Volume, HostOnly, VolumeRange},
+    {"OwnVoice", &AppSettings::OwnVoice, Voices},
     {"NoFunctionSound", &AppSettings::NoFunctionSound, TrueFalse},
     {"KeepHistory", &AppSettings::KeepHistory, TrueFalse},
 };
 
-std::string ListOf(std::span<const Choice> choices) {
+bool IsIn(const NumberRange& range, int number) {
+  return number >= range.From && number <= range.To;
+}
+
+/// What the setting may be.
+std::string ListOf(const OwnSetting& setting) {
   std::string list;
-  for (const Choice& choice : choices) list.append(list.empty() ? "" : ", ").append(choice.Word);
-  return list;
+  for (const Choice& choice : setting.Choices) list.append(list.empty() ? "" : ", ").append(choice.Word);
+  const auto& [from, to] = setting.Numbers;
+  return from > to ? list : list + ", " + std::to_string(from) + " to " + std::to_string(to);
+}
+
+std::optional<int> ValueOf(const OwnSetting& setting, std::string_view word) {
+  const auto found = std::ranges::find(setting.Choices, Lower(word), &Choice::Word);
+  if (found != setting.Choices.end()) return found->Value;
+  const auto number = ParseInteger(word);
+  return number && IsIn(setting.Numbers, *number) ? number : std::nullopt;
+}
+
+std::string WordOf(const OwnSetting& setting, int value) {
+  if (IsIn(setting.Numbers, value)) return std::to_string(value);
+  return std::string(std::ranges::find(setting.Choices, value, &Choice::Value)->Word);
 }
 
 }  // namespace
@@ -55,9 +81,9 @@ std::string ListOf(std::span<const Choice> choices) {
 std::string StoreOwnSetting(AppSettings& settings, std::string_view key, std::string_view word) {
   const auto* setting = std::ranges::find(OwnSettings, key, &OwnSetting::Key);
   if (setting == std::end(OwnSettings)) return "";
-  const auto found = std::ranges::find(setting->Choices, Lower(word), &Choice::Word);
-  if (found == setting->Choices.end()) return "is none of " + ListOf(setting->Choices);
-  settings.*(setting->Field) = found->Value;
+  const auto value = ValueOf(*setting, word);
+  if (!value) return "is none of " + ListOf(*setting);
+  settings.*(setting->Field) = *value;
   return "";
 }
 
@@ -67,8 +93,7 @@ std::string OwnSettingLines(const AppSettings& settings) {
   for (const OwnSetting& setting : OwnSettings) {
     const int now = settings.*(setting.Field);
     if (now == defaults.*(setting.Field)) continue;
-    const auto choice = std::ranges::find(setting.Choices, now, &Choice::Value);
-    lines += Quote(setting.Key) + "," + Quote(choice->Word) + "\n";
+    lines += Quote(setting.Key) + "," + Quote(WordOf(setting, now)) + "\n";
   }
   return lines;
 }

@@ -1,8 +1,11 @@
 // What to speak for a number and for a character.
+#include <algorithm>
+
 #include "services/MessageIds.h"
 #include "services/Speech.h"
 #include "text/Characters.h"
 #include "text/Text.h"
+#include "text/Utf8.h"
 
 namespace qves {
 
@@ -23,6 +26,19 @@ std::string SpeechService::SpeechFormatNumber(std::string_view text) const {
   if (!separator.empty()) out = ReplaceAll(out, separator, Messages.GetMessage(PointMessage));
   out = ReplaceAll(out, "-", Messages.GetMessage(MinusMessage));
   return ReplaceAll(out, "*", Messages.GetMessage(TimesMessage));
+}
+
+std::string SpeechService::Spelled(std::string_view text) const {
+  const std::string& separator = Messages.GetMessage(DecimalSeparatorMessage);
+  const std::string minus(Trimmed(Messages.GetMessage(MinusMessage)));
+  std::string out;
+  while (!text.empty()) {
+    const std::string_view one = text.substr(0, std::max<std::size_t>(FirstCharacter(text).Length, 1));
+    if (!out.empty()) out += ' ';
+    out += one == separator ? Messages.GetMessage(PointMessage) : one == "-" ? minus : SpeakableChar(one);
+    text.remove_prefix(one.size());
+  }
+  return out;
 }
 
 std::string SpeechService::SpeakableChar(std::string_view character) const {

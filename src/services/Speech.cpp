@@ -7,6 +7,7 @@
 
 #include "model/ArithmeticFault.h"
 #include "services/MessageIds.h"
+#include "services/VoiceLevels.h"
 #include "services/VoiceMessages.h"
 #include "text/Integers.h"
 
@@ -62,8 +63,9 @@ bool SpeechService::CreateSpeech(std::string_view voice, std::string_view manufa
 }
 
 void SpeechService::ApplyVoiceSettings() {
-  SpeechEngine->SetSpeed(Settings.SystemSpeed);
-  SpeechEngine->SetVolume(Settings.SystemVolume);
+  if (!SpeechEngine) return;
+  SpeechEngine->SetSpeed(VoiceSpeed(Settings));
+  SpeechEngine->SetVolume(VoiceVolume(Settings));
   if (Settings.SystemPitch == -1) return;
   const double lowest = SpeechEngine->MinimumPitch();
   const double step = (SpeechEngine->MaximumPitch() - lowest) / PitchSteps;
@@ -101,7 +103,7 @@ void SpeechService::ReleaseSpeech() {
 
 void SpeechService::Say(SpeechHow how, std::string_view text, ValueSpan value) {
   if (!PrimarySpeaker) return;
-  Turn.push_back({how, std::string(text), value, {}});
+  Turn.push_back({how, std::string(text), value, {}, IsAloud()});
   LastText = text;
   LastValue = value;
 }
@@ -122,24 +124,25 @@ void SpeechService::ReadAloud(std::string_view text, std::span<const BookMark> m
   Turn.push_back({queued ? SpeechHow::Queued : SpeechHow::Now,
                   std::string(text),
                   {0, 0, kind},
-                  {marks.begin(), marks.end()}});
+                  {marks.begin(), marks.end()},
+                  IsAloud()});
 }
 
 void SpeechService::StopSpeech() {
-  if (PrimarySpeaker) Turn.push_back({SpeechHow::Stop, "", {}, {}});
+  if (PrimarySpeaker) Turn.push_back({SpeechHow::Stop, "", {}, {}, IsAloud()});
 }
 
 void SpeechService::EndTurn() {
   if (Turn.empty()) return;
   std::size_t firstHeard = Turn.size() - 1;
-  while (firstHeard > 0 && Turn[firstHeard].How == SpeechHow::Queued) --firstHeard;
+  while (firstHeard > 0 && !Turn[firstHeard].Interrupts()) --firstHeard;
   if (Observer) Observer->TurnEnded(Turn, firstHeard);
   for (SpeechAct& act : std::span(Turn).subspan(firstHeard)) HandOver(std::move(act));
   Turn.clear();
 }
 
 void SpeechService::HandOver(SpeechAct act) {
-  if (!PrimarySpeaker) return;
+  if (!PrimarySpeaker || !act.IsAloud) return;
   const bool now = act.How == SpeechHow::Now;
   if (act.How != SpeechHow::Queued) Reading = {};
   if (act.How == SpeechHow::Stop) {

@@ -57,7 +57,10 @@ class SpeechService {
   /// The voice has come to a mark of what is read aloud.
   void BookMarkReached(std::int32_t number);
 
-  bool HasSpeaker() const { return PrimarySpeaker != nullptr; }
+  /// Speed, volume and pitch of the settings are those of what is spoken from now on.
+  void ApplyVoiceSettings();
+  /// Whether what is spoken is heard. While the voice is off by the settings nothing is handed to it.
+  bool IsAloud() const { return PrimarySpeaker && Settings.OwnVoice != OwnVoiceOff; }
   /// Says again, at once, what was said last.
   void RepeatSpeech();
   /// The last text handed to SpeakText or SpeakTextQueued while there was a speaker.
@@ -67,6 +70,8 @@ class SpeechService {
   std::string TranslateForSpeech(std::string_view text) const;
   /// What to speak for a number text.
   std::string SpeechFormatNumber(std::string_view text) const;
+  /// The characters of a number text or another one, each by its name, with a blank between any two.
+  std::string Spelled(std::string_view text) const;
   /// What to speak for one typed character.
   std::string SpeakableChar(std::string_view character) const;
 
@@ -76,7 +81,6 @@ class SpeechService {
 
  private:
   void Say(SpeechHow how, std::string_view text, ValueSpan value);
-  void ApplyVoiceSettings();
   void HandOver(SpeechAct act);
   VoicingRules Rules() const;
   void ReadNextPiece(bool now);

@@ -17,12 +17,16 @@ struct SpeechAct {
   std::string Text;
   ValueSpan Value;
   std::vector<BookMark> Marks;  ///< of a text that is read aloud
+  bool IsAloud = true;          ///< false: said while the voice was off
+
+  bool Interrupts() const { return IsAloud && How != SpeechHow::Queued; }
 };
 
 class SpeechObserver {
  public:
   virtual ~SpeechObserver() = default;
-  /// All that was spoken in a turn, in order. Those from `firstHeard` on go to the voice.
+  /// All that was spoken in a turn, in order. Of those from `firstHeard` on the voice gets what is said
+  /// aloud.
   virtual void TurnEnded(std::span<const SpeechAct> acts, std::size_t firstHeard) = 0;
 };
 

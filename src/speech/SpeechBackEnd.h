@@ -28,9 +28,8 @@ struct VoiceSettings {
   std::optional<int> Pitch;           ///< on PitchScale; unset: the voice's own
 };
 
-struct Utterance {
-  std::string Text;             ///< clean, when a back end gets it
-  std::vector<BookMark> Marks;  ///< in order, then
+/// The text is clean and its marks are in order when a back end gets it.
+struct Utterance : MarkedText {
   VoiceSettings Settings;
   Voice Speaking;
 };
@@ -45,9 +44,6 @@ class Playing {
   /// A mark is heard.
   void ReachMark(std::int32_t number) const { Reach(number); }
   Wake& Changed;  ///< notified when Stopped() has become true
-  /// Set by a back end that gives up: how many bytes of the text, to a character's start, another one need
-  /// not speak.
-  std::size_t Spoken = 0;
 
  private:
   const std::atomic<bool>& Stop;
@@ -62,8 +58,8 @@ class SpeechBackEnd {
   /// The voices known by now, the best for the desktop's user first.
   virtual const std::vector<Voice>& Voices() = 0;
   /// Plays the text, in a voice of its own, until it has been heard or is stopped. False: this back end
-  /// cannot speak it, now.
-  virtual bool Play(const Utterance& text, Playing& playing) = 0;
+  /// cannot speak it, now; the text is then what is left of it for another one.
+  virtual bool Play(Utterance& text, Playing& playing) = 0;
   /// There is nothing to play; called after each text. Returns when to call it again. What it does meanwhile
   /// ends when the queue's wake is notified, which it never clears. Voices() may tell more afterwards.
   virtual TimePoint Rest() = 0;

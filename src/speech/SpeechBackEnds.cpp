@@ -37,7 +37,7 @@ std::unique_ptr<TTS> MakeSpeech(SpeechChoice choice, EventPump& pump) {
   if (speechdOnly) AddSpeechd(*queue, true);
   if (choice != SpeechChoice::Off) AddEspeak(*queue, !speechdOnly);
   if (choice == SpeechChoice::Auto) AddSpeechd(*queue, !HaveEspeak);
-  return std::make_unique<SpeechList>(std::move(queue));
+  return MakeSpeechList(std::move(queue));
 }
 
 }  // namespace qves

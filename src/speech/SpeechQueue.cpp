@@ -9,13 +9,6 @@
 namespace qves {
 namespace {
 
-// So many bytes have been spoken: what is left is the rest with its marks, one at its start included.
-void DropFront(Utterance& text, std::size_t length) {
-  text.Text.erase(0, length);
-  std::erase_if(text.Marks, [length](const BookMark& mark) { return mark.Offset < length; });
-  for (BookMark& mark : text.Marks) mark.Offset -= length;
-}
-
 // The voice itself; for a back end that stands in for its own, that one's first of the language, or its
 // first.
 Voice VoiceOf(SpeechBackEnd& backEnd, const Voice& wanted) {
@@ -131,16 +124,12 @@ void SpeechQueue::Play(QueuedText& text) {
   std::optional<Voice>& chosen = text.Engine->Chosen;
   if (text.Interrupts || !chosen) Choose(*text.Engine);
   if (!chosen) return;
-  text.What.Text = CleanText(text.What.Text);
-  text.What.Marks = OrderedMarks(text.What.Marks, text.What.Text.size());
-  MarkedText paused = WithPauses(text.What.Text, text.What.Marks);
-  text.What.Text = std::move(paused.Text);
-  text.What.Marks = std::move(paused.Marks);
+  MarkedText& said = text.What;
+  said = WithPauses(CleanText(said.Text), OrderedMarks(said.Marks, said.Text.size()));
+  Playing playing(Woken, StopCurrent, [&](std::int32_t number) { ReportMark(text, number); });
   for (SpeechBackEnd* backEnd : InOrder(*chosen)) {
-    Playing playing(Woken, StopCurrent, [&](std::int32_t number) { ReportMark(text, number); });
     text.What.Speaking = VoiceOf(*backEnd, *chosen);
     if (playing.Stopped() || backEnd->Play(text.What, playing)) return;
-    DropFront(text.What, playing.Spoken);
   }
 }
 

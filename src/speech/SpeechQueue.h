@@ -24,7 +24,7 @@ struct SpeakerRecord {
 /// Which voice an engine has. Used on the queue's thread only.
 struct EngineVoice {
   TtsChooser Choose;
-  std::optional<Voice> Chosen;
+  std::optional<Voice> Chosen = {};
   std::size_t Among = 0;  ///< how many voices there were to choose from
 };
 

@@ -1,6 +1,7 @@
 #include "speech/SpeechText.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "text/Utf8.h"
 
@@ -8,30 +9,30 @@ namespace qves {
 namespace {
 
 bool BeginsSentence(std::string_view text, std::size_t offset) {
-  const std::size_t last = text.find_last_not_of(" \t", offset == 0 ? 0 : offset - 1);
-  if (offset == 0 || last == std::string_view::npos) return true;
-  return std::string_view(".!?:;\n").find(text[last]) != std::string_view::npos;
+  const std::size_t last = text.find_last_not_of(" \t", offset - 1);
+  return last == std::string_view::npos ||
+         std::string_view(".!?:;\n").find(text[last]) != std::string_view::npos;
 }
 
-// Where to end a piece that begins at `from` and may not pass `limit`.
-std::size_t CutBefore(std::string_view text, std::size_t from, std::size_t limit) {
+// Where to end a piece that may not pass `limit`.
+std::size_t CutBefore(std::string_view text, std::size_t limit) {
   for (const std::string_view ends : {"\n", ".!?", " \t"}) {
     const std::size_t at = text.find_last_of(ends, limit - 1);
-    if (at != std::string_view::npos && at > from) return at + 1;
+    if (at != std::string_view::npos && at > 0) return at + 1;
   }
-  while (limit > from + 1 && IsInsideCharacter(text[limit])) --limit;
+  while (limit > 1 && IsInsideCharacter(text[limit])) --limit;
   return limit;
 }
 
-// Gives each mark to the piece that it lies in. `starts` are the pieces' offsets.
-void DealMarks(std::vector<TextPiece>& pieces, const std::vector<std::size_t>& starts,
-               std::span<const BookMark> marks) {
-  std::size_t piece = 0;
-  for (const BookMark& mark : marks) {
-    while (piece + 1 < pieces.size() && starts[piece + 1] <= mark.Offset) ++piece;
-    const bool begins = mark.Offset <= starts[piece];
-    (begins ? pieces[piece].FirstMarks : pieces[piece].LaterMarks).push_back(mark.Number);
-  }
+std::size_t LengthOfPiece(const MarkedText& text, std::size_t longest) {
+  const std::string_view all = text.Text;
+  const auto cuts = [all](const BookMark& mark) {
+    return mark.Offset > 0 && mark.Offset < all.size() && !IsInsideCharacter(all[mark.Offset]) &&
+           BeginsSentence(all, mark.Offset);
+  };
+  const auto cut = std::find_if(text.Marks.begin(), text.Marks.end(), cuts);
+  const std::size_t end = cut == text.Marks.end() ? all.size() : cut->Offset;
+  return end > longest ? CutBefore(all, longest) : end;
 }
 
 }  // namespace
@@ -66,27 +67,18 @@ std::vector<std::size_t> CharacterPositions(std::string_view text, std::span<con
   return positions;
 }
 
-std::vector<TextPiece> CutText(std::string_view text, std::span<const BookMark> marks, std::size_t longest) {
-  std::vector<std::size_t> ends;
-  for (const BookMark& mark : marks) {
-    if (mark.Offset < text.size() && !IsInsideCharacter(text[mark.Offset]) &&
-        BeginsSentence(text, mark.Offset))
-      ends.push_back(mark.Offset);
-  }
-  ends.push_back(text.size());
-  std::vector<TextPiece> pieces;
-  std::vector<std::size_t> starts;
-  std::size_t from = 0;
-  for (const std::size_t end : ends) {
-    while (from < end) {
-      const std::size_t to = end - from > longest ? CutBefore(text, from, from + longest) : end;
-      pieces.push_back({std::string(text.substr(from, to - from)), {}, {}});
-      starts.push_back(from);
-      from = to;
-    }
-  }
-  if (!pieces.empty()) DealMarks(pieces, starts, marks);
-  return pieces;
+MarkedText FirstPiece(const MarkedText& text, std::size_t longest) {
+  const std::size_t length = LengthOfPiece(text, longest);
+  MarkedText piece{text.Text.substr(0, length), {}};
+  std::copy_if(text.Marks.begin(), text.Marks.end(), std::back_inserter(piece.Marks),
+               [&](const BookMark& mark) { return mark.Offset < length || length == text.Text.size(); });
+  return piece;
+}
+
+void DropFront(MarkedText& text, std::size_t length) {
+  text.Text.erase(0, length);
+  std::erase_if(text.Marks, [length](const BookMark& mark) { return mark.Offset < length; });
+  for (BookMark& mark : text.Marks) mark.Offset -= length;
 }
 
 }  // namespace qves

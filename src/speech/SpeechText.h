@@ -1,13 +1,13 @@
 // Texts as the speech libraries can take them.
 #pragma once
 
-#include <cstdint>
+#include <cstddef>
 #include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "platform/TTS.h"
+#include "text/MarkedText.h"
 
 namespace qves {
 
@@ -21,15 +21,12 @@ std::vector<BookMark> OrderedMarks(std::span<const BookMark> marks, std::size_t 
 /// Where each offset (in bytes, ascending) lies in a clean text, in characters from 0.
 std::vector<std::size_t> CharacterPositions(std::string_view text, std::span<const BookMark> marks);
 
-/// A part of a text that is spoken in one go.
-struct TextPiece {
-  std::string Text;
-  std::vector<std::int32_t> FirstMarks;  ///< reached when the piece begins
-  std::vector<std::int32_t> LaterMarks;  ///< those within it
-};
+/// The part of an ordered, clean text that is spoken in one go: up to the first mark that begins a sentence
+/// or a line or, when that would be more than `longest` bytes, to the end of a line, a sentence or a word.
+/// The last piece has the marks at its end.
+MarkedText FirstPiece(const MarkedText& text, std::size_t longest);
 
-/// Cuts a clean text at the marks that begin a sentence or a line, and at the ends of lines, sentences or
-/// words so that a piece has about `longest` bytes at most. The marks are ordered.
-std::vector<TextPiece> CutText(std::string_view text, std::span<const BookMark> marks, std::size_t longest);
+/// Takes so many bytes off, with the marks before that place.
+void DropFront(MarkedText& text, std::size_t length);
 
 }  // namespace qves

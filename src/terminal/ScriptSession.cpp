@@ -209,7 +209,7 @@ void ScriptSession::TextAppended(Form&, TextBox& box, std::size_t from) {
 
 void ScriptSession::TurnEnded(std::span<const SpeechAct> acts, std::size_t firstHeard) {
   for (const SpeechAct& act : acts) {
-    const bool isHeard = act.How != SpeechHow::Stop && &act >= &acts[firstHeard];
+    const bool isHeard = act.IsAloud && act.How != SpeechHow::Stop && &act >= &acts[firstHeard];
     Spoken.push_back({NameOf(act.How), act.Text, std::nullopt});
     if (isHeard && TellsVoiced) Spoken.back().Voiced = Common.All.Speech.VoicedTextOf(act);
   }

@@ -19,6 +19,13 @@ const View::EveryViewKey View::EveryViewKeys[] = {
     {KeyF4, NoShift, 1854, &View::TakeFromHistory},
     {KeyPageUp, NoShift, 1855, &View::HearEarlier, false, true},
     {KeyPageDown, NoShift, 1856, &View::HearLater, false, true},
+    {KeyF5, NoShift, 1859, &View::SpellDisplay},
+    {KeyF8, NoShift, 1861, &View::SpeedBy<10>},
+    {KeyF8, ShiftBit, 1862, &View::SpeedBy<-10>},
+    {KeyF8, ControlBit, 1863, &View::VolumeBy<5>},
+    {KeyF8, ControlBit | ShiftBit, 1864, &View::VolumeBy<-5>},
+    {KeyF9, NoShift, 1865, &View::SwitchVoice, true},
+    {KeyF9, ShiftBit, 1866, &View::SwitchDetail},
 };
 
 /// True when it was one of them.

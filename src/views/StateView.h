@@ -31,15 +31,18 @@ class StateView : public View {
   struct Snapshot {
     State Calculation;
     Choices Chosen;
-
-    /// A move in a list of data is no step.
-    bool operator==(const Snapshot& other) const {
-      return Chosen.Options == other.Chosen.Options && Calculation == other.Calculation;
-    }
   };
 
   StateFields EngineState() const override { return Describe(Now); }
-  void NoteStep(const std::string& name) override { Steps.Note(Take(), name); }
+  /// A move in a list of data is no step, but the chosen point comes back with the step before.
+  void NoteStep(const std::string& name) override {
+    Snapshot& noted = Steps.Now();
+    const Choices chosen = TakeChoices();
+    if (chosen.Options == noted.Chosen.Options && Now == noted.Calculation)
+      noted.Chosen.Points = chosen.Points;
+    else
+      Steps.Add({Now, chosen}, name);
+  }
   const std::string* UndoStep() override { return PutBack(Steps.Undo()); }
   const std::string* RedoStep() override { return PutBack(Steps.Redo()); }
   /// The calculation on the form is another one.

@@ -62,9 +62,10 @@ void View::Form_Load() {
 
 View::Choices View::TakeChoices() const {
   Choices choices;
-  for (const CheckBox* box : Boxes) choices.Options.push_back(box->Checked);
-  for (const ListBox* list : OptionLists) choices.Options.push_back(list->ListIndex);
-  for (const ListView* list : DataLists) choices.Points.push_back(list->ListIndex);
+  std::size_t option = 0;
+  for (const CheckBox* box : Boxes) choices.Options.at(option++) = box->Checked;
+  for (const ListBox* list : OptionLists) choices.Options.at(option++) = list->ListIndex;
+  for (std::size_t i = 0; i < DataLists.size(); ++i) choices.Points.at(i) = DataLists[i]->ListIndex;
   return choices;
 }
 

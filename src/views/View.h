@@ -1,6 +1,7 @@
 // What every view is: a form made from tables, an engine behind it, and the rules of focus, help and keys.
 #pragma once
 
+#include <array>
 #include <memory>
 #include <span>
 #include <string_view>
@@ -50,8 +51,8 @@ class View : public Form, protected EngineHost {
 
   /// What is chosen on the form: check boxes and lists of options; and the points chosen in lists of data.
   struct Choices {
-    std::vector<int> Options;
-    std::vector<int> Points;
+    std::array<int, 4> Options{};
+    std::array<int, 2> Points{};
   };
   Choices TakeChoices() const;
   void PutChoices(const Choices& choices);
@@ -113,6 +114,21 @@ class View : public Form, protected EngineHost {
   void TellCalculation(const FinishedCalculation* calculation);
   ValueKind KindOfLine(const FinishedCalculation& calculation) const;
   void TakeFromHistory();
+
+  // VoiceKeys.cpp
+  template <int WordsPerMinute>
+  void SpeedBy() {
+    ChangeSpeed(WordsPerMinute);
+  }
+  template <int Percent>
+  void VolumeBy() {
+    ChangeVolume(Percent);
+  }
+  void ChangeSpeed(int wordsPerMinute);
+  void ChangeVolume(int percent);
+  void SwitchVoice();
+  void SwitchDetail();
+  void SpellDisplay();
 
   const ViewTables& Tables;
   std::unique_ptr<EntryEngine> Engine;

@@ -35,6 +35,8 @@ class ViewFrame {
   virtual bool IsSwitching() const = 0;
   /// Whether the view has the keyboard: no dialog is open above it.
   virtual bool IsActive(const Form& view) const = 0;
+  /// Stops what the form that has the keyboard reads aloud.
+  virtual void StopReading() = 0;
   /// Opens the dialog of that Help-menu item; false when it is no such item.
   virtual bool OpenHelp(int menuItem) = 0;
   /// Opens the dialog that reads the report of the statistics.

@@ -66,6 +66,7 @@ class Voicing {
     const std::string_view value = Text.substr(At, Value.Length);
     switch (Value.Kind) {
       case ValueKind::Number:
+      case ValueKind::Characters:
       case ValueKind::Prose:
         return false;
       case ValueKind::BaseDigits:
@@ -209,10 +210,24 @@ bool IsPlain(std::string_view text) {
   return text.find_first_of("0123456789=+-*/") == std::string_view::npos;
 }
 
+/// A spelled text. A voice takes the letter A for the article, unless it is a capital with a pause behind it.
+std::string SpelledOut(std::string_view text) {
+  std::string out;
+  for (std::size_t at = 0; at < text.size(); ++at) {
+    const bool isAlone = (at == 0 || text[at - 1] == ' ') && (at + 1 == text.size() || text[at + 1] == ' ');
+    const bool isLetterA = isAlone && (text[at] == 'A' || text[at] == 'a');
+    out += isLetterA ? 'A' : text[at];
+    if (isLetterA && at + 1 < text.size()) out += ',';
+  }
+  return out;
+}
+
 }  // namespace
 
 MarkedText MakeVoiced(std::string_view spoken, const VoicingRules& rules, ValueSpan value,
                       std::span<const BookMark> marks) {
+  if (value.Kind == ValueKind::Characters && rules.Reading != NumberReading::Voice)
+    return {SpelledOut(spoken), {}};
   const bool isLeftAlone = rules.Reading == NumberReading::Voice || !rules.Words.Complete();
   if (isLeftAlone || (value.Length == 0 && IsPlain(spoken)))
     return {std::string(spoken), {marks.begin(), marks.end()}};

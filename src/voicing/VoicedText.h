@@ -17,6 +17,7 @@ enum class ValueKind {
   BaseDigits,  ///< digits and letters of a number base other than decimal
   DateNumber,  ///< month point day and year
   DateText,    ///< weekday, month, day and year
+  Characters,  ///< no value: the text is spelled, and every character of it heard by itself
   Prose,       ///< no value: the numbers of a help or a document are never rounded
 };
 
@@ -33,6 +34,7 @@ struct Wording {
   ValueSpan Value = {};
 };
 
+inline constexpr ValueSpan Spelling = {0, 0, ValueKind::Characters};
 inline constexpr ValueSpan Prose = {0, 0, ValueKind::Prose};
 
 /// The text for the voice. The marks, in the order of their places, move with what they stand before.

@@ -115,5 +115,45 @@ TEST_F(ApplicationTest, AKeyWithoutAFunctionTicksOnceAndSaysNothing) {
   EXPECT_EQ(Outside.Sounds.Asked, Texts{}) << "the menus' key";
 }
 
+TEST_F(ApplicationTest, TheVoiceHasItsNewSpeedAndVolumeBeforeItTellsThem) {
+  Outside.Files.Content[Outside.HostFile] =
+      "\"Settings\"\n\"SystemSpeed\",\"200\"\n\"SystemVolume\",\"32768\"\n";
+  Start();
+  const auto given = [&](KeyEvent key) {
+    Outside.Speech.Settings.clear();
+    App->KeyDown(key);
+    return Outside.Speech.Settings;
+  };
+  EXPECT_EQ(given({KeyF8, NoShift}), (Texts{"speed 210", "volume 32768"}));
+  EXPECT_EQ(given({KeyF8, ControlBit}), (Texts{"speed 210", "volume 36044"}));
+  App->Leave();
+  EXPECT_NE(Outside.Files.Content[Outside.OwnFile].find("\"Speed\",\"210\"\n\"Volume\",\"55\"\n"),
+            std::string::npos);
+  Outside.Speech.Settings.clear();
+  Start();
+  EXPECT_EQ(Outside.Speech.Settings, (Texts{"open 1", "speed 210", "volume 36044"}));
+}
+
+TEST_F(ApplicationTest, NothingReachesAVoiceThatIsOff) {
+  Start();
+  TakeSaid();
+  App->KeyDown({KeyF9, NoShift});
+  App->KeyDown({'7', NoShift, U'7'});  // of the same turn
+  EXPECT_EQ(TakeSaid(), Texts{"now Off"});
+  App->KeyDown({'7', NoShift, U'7'});
+  EXPECT_EQ(TakeSaid(), Texts{});
+  EXPECT_EQ(Set->All.Speech.LastSpokenText(), "7");
+  App->KeyDown({KeyControl, ControlBit});
+  App->KeyUp(KeyControl);
+  EXPECT_EQ(TakeSaid(), Texts{}) << "not even a stop";
+  App->KeyDown({KeyF9, NoShift});
+  EXPECT_EQ(TakeSaid(), Texts{"now On"});
+  App->KeyDown({KeyF9, NoShift});
+  App->Leave();
+  TakeSaid();
+  Start();
+  EXPECT_EQ(TakeSaid(), Texts{});
+}
+
 }  // namespace
 }  // namespace qves

@@ -233,7 +233,8 @@ struct FakePlatform {
         "100\tQVES\n101\tWelcome.\n303\tE&xit\n304\tScientific View\n305\tStatistics View\n306\tStandard "
         "View\n"
         "1073\tpoint\n"
-        "1081\t.\n1202\tError\n1204\t minus \n1413\tbottom\n1414\ttop\n4038\tampersand\n";
+        "1081\t.\n1202\tError\n1204\t minus "
+        "\n1905\tOff\n1906\tOn\n1413\tbottom\n1414\ttop\n4038\tampersand\n";
   }
 
   const std::string HostFile = "/home/anna/.config/QVES/Settings/Host.ost";

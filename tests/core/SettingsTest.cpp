@@ -103,6 +103,13 @@ TEST_F(SettingsTest, OwnSettingsAreKeptWhereTheyAreNotTheUsualOnes) {
        "Calc.ost: \"perhaps\" for DecimalComma is none of auto, on, off; it is ignored"},
       {"\"SpokenDecimals\",4\n\"NumberReading\",\"Pairs\"\n\"SpeechDetail\",\"brief\"\n",
        "\"NumberReading\",\"pairs\"\n\"SpokenDecimals\",\"4\"\n\"SpeechDetail\",\"brief\"\n", ""},
+      {"\"OwnVoice\",\"off\"\n\"Volume\",5\n\"Speed\",\"450\"\n",
+       "\"Speed\",\"450\"\n\"Volume\",\"5\"\n\"OwnVoice\",\"off\"\n", ""},
+      {"\"Speed\",200\n\"Speed\",\"Host\"\n\"Volume\",\"100\"\n", "\"Volume\",\"100\"\n", ""},
+      {"\"Speed\",451\n" + comma, comma, "\"451\" for Speed is none of host, 80 to 450; it is ignored"},
+      {"\"Volume\",60\n\"Volume\",\"4\"\n", "\"Volume\",\"60\"\n", "Volume is none of host, 5 to 100"},
+      {"\"Speed\",\"-1\"\n", "", "\"-1\" for Speed"},
+      {"\"Speed\",\"170.5\"\n", "", "\"170.5\" for Speed"},
       {comma + "\"DecimalComma\",\"\"\n", comma, "\"\" for DecimalComma"},
   };
   for (const auto& row : rows) {

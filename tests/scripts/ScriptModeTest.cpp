@@ -4,6 +4,7 @@
 #include <sys/stat.h>
 #include <sys/wait.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <fstream>
 #include <nlohmann/json.hpp>
@@ -57,6 +58,15 @@ class ScriptMode : public testing::Test {
   TemporaryFolder Home;
 };
 
+TEST_F(ScriptMode, TwoCopiesThatEndTogetherKeepTheLinesOfBoth) {
+  const std::string one = std::string("echo keys 1+1= | ") + CLI + " --script --view standard --home '" +
+                          HomeFolder() + "' > /dev/null";
+  constexpr int pairs = 10;
+  for (int pair = 0; pair < pairs; ++pair) std::system((one + " & " + one + "; wait").c_str());
+  const std::string kept = ReadAll(Home.Path / "home/.local/state/QVES/History.txt");
+  EXPECT_EQ(std::ranges::count(kept, '\n'), 2 * pairs);
+}
+
 TEST_F(ScriptMode, OneObjectForEachCommandLine) {
   const Outcome outcome = Run("\n# a comment\n  \nkeys 7 + 5\r\nkey =");
   ASSERT_EQ(outcome.Lines.size(), 2u);
@@ -74,6 +84,9 @@ TEST_F(ScriptMode, TellsWhatTheVoiceIsGiven) {
   EXPECT_FALSE(keys[0].contains("voiced"));
   EXPECT_EQ(keys[1]["voiced"], "2");
   EXPECT_EQ(keys[2]["voiced"], "about 1 point 4 1");
+  const Outcome off = Run("key F9\nkeys 2\n", "--voiced");
+  EXPECT_EQ(off.Lines.at(0)["spoken"][0]["voiced"], "Voice off.");
+  EXPECT_EQ(off.Lines.at(1)["spoken"][1], Json::parse(R"({"how": "now", "text": "2"})"));
   const Outcome brief = Run("focus lltNumBase\n", "--voiced --view scientific");
   EXPECT_EQ(brief.Lines.at(0)["spoken"].size(), 1u) << "no help follows a name";
 }

@@ -6,6 +6,7 @@
 #include "SpeechRig.h"
 #include "speech/SpeechBackEnds.h"
 #include "speech/SpeechList.h"
+#include "speech/SpeechText.h"
 
 namespace qves {
 namespace {
@@ -44,9 +45,8 @@ class FakeBackEnd : public SpeechBackEnd {
     while (Does.Silent) std::this_thread::sleep_for(1ms);
     return Known;
   }
-  bool Play(const Utterance& text, Playing& playing) override {
-    playing.Spoken = 4;
-    if (Does.Fails) return false;
+  bool Play(Utterance& text, Playing& playing) override {
+    if (Does.Fails) return DropFront(text, 4), false;
     Does.Note(text.Speaking.Info.VoiceName + ": " + text.Text);
     while (Does.Holds && !playing.Stopped()) {
       if (const int mark = Does.NextMark.exchange(0)) playing.ReachMark(mark);
@@ -97,7 +97,7 @@ class SpeechListTest : public testing::Test {
     auto queue = std::make_shared<SpeechQueue>(Pump);
     queue->Add(std::make_unique<FakeBackEnd>("first", First), true);
     queue->Add(std::make_unique<FakeBackEnd>("second", Second), false);
-    List = std::make_unique<SpeechList>(std::move(queue));
+    List = MakeSpeechList(std::move(queue));
   }
   bool Idle() {
     return ReachedWithin(Pump, 5s, [&] { return !Engine->Busy(); });
@@ -115,7 +115,7 @@ class SpeechListTest : public testing::Test {
   Stage First;
   Stage Second;
   TestPump Pump;
-  std::unique_ptr<SpeechList> List;
+  std::unique_ptr<TTS> List;
   std::unique_ptr<TtsEngine> Engine;
   std::unique_ptr<TestListener> Listener;
 };

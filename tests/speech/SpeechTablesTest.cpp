@@ -1,16 +1,9 @@
 // The pure parts: languages, scales, texts and the order of voices.
 #include <gtest/gtest.h>
 
-#include <filesystem>
-#include <fstream>
-
-#include "SpeechRig.h"
 #include "speech/LanguageIds.h"
 #include "speech/SpeechScales.h"
 #include "speech/SpeechText.h"
-#ifdef QVES_HAVE_ESPEAK
-#include "speech/sound/SoundDevice.h"
-#endif
 
 namespace qves {
 namespace {
@@ -72,15 +65,24 @@ TEST(SpeechText, MarksAreOrderedAndLieBetweenCharacters) {
             (std::vector<std::size_t>{1, 2, 3}));
 }
 
+// The pieces that a text is spoken in.
+std::vector<MarkedText> PiecesOf(MarkedText text, std::size_t longest) {
+  std::vector<MarkedText> pieces;
+  while (!text.Text.empty()) {
+    pieces.push_back(FirstPiece(text, longest));
+    DropFront(text, pieces.back().Text.size());
+  }
+  return pieces;
+}
+
 TEST(SpeechText, IsCutAtSentencesWithMarks) {
-  const BookMark marks[] = {{0, 1}, {4, 2}, {9, 3}, {99, 4}};
-  const auto pieces = CutText("One two. Three.", OrderedMarks(marks, 15), 100);
-  ASSERT_EQ(pieces.size(), 2U);
-  EXPECT_EQ(pieces[0].Text, "One two. ");
-  EXPECT_EQ(pieces[0].FirstMarks, std::vector<std::int32_t>{1});
-  EXPECT_EQ(pieces[0].LaterMarks, std::vector<std::int32_t>{2});
-  EXPECT_EQ(pieces[1].FirstMarks, std::vector<std::int32_t>{3});
-  EXPECT_EQ(pieces[1].LaterMarks, std::vector<std::int32_t>{4});
+  std::string pieces;
+  for (const MarkedText& piece : PiecesOf({"One two. Three.", {{0, 1}, {4, 2}, {9, 3}, {15, 4}}}, 100)) {
+    pieces += piece.Text + "|";
+    for (const BookMark& mark : piece.Marks)
+      pieces += std::to_string(mark.Number) + " at " + std::to_string(mark.Offset) + "|";
+  }
+  EXPECT_EQ(pieces, "One two. |1 at 0|2 at 4|Three.|3 at 0|4 at 6|");
 }
 
 TEST(SpeechText, ALongTextIsCutWithNothingLost) {
@@ -88,40 +90,13 @@ TEST(SpeechText, ALongTextIsCutWithNothingLost) {
   for (int i = 0; i < 2000; ++i) text += i % 7 == 0 ? "ending here.\n" : i % 3 == 0 ? "ä€😀ä€😀ä€😀" : "word ";
   text += std::string(500, 'x');
   std::string together;
-  for (const TextPiece& piece : CutText(text, {}, 60)) {
+  for (const MarkedText& piece : PiecesOf({text, {}}, 60)) {
     ASSERT_LE(piece.Text.size(), 60U);
     ASSERT_EQ(CleanText(piece.Text), piece.Text) << "cut within a character";
     together += piece.Text;
   }
   EXPECT_EQ(together, text);
 }
-
-#ifdef QVES_HAVE_ESPEAK
-TEST(SoundDevice, IsOneThatPlaysOrADefaultOfTheUsersOwn) {
-  struct Row {
-    const char* Device;
-    const char* Settings;
-    bool Heard;
-  };
-  const Row rows[] = {{"controlC0", "", false},
-                      {"pcmC0D0c", "", false},
-                      {"pcmC1D3p", "", true},
-                      {"seq", "# pcm.!default pulse\ndefaults.pcm.card 1\n", false},
-                      {"seq", "\npcm.!default {\n  type null\n}\n", true},
-                      {"seq", "pcm {\n  default server  # over the network\n}", true}};
-  const PrivateDesktop desktop;
-  const std::string folder = desktop.Folder();
-  EXPECT_FALSE(HasSoundDevice({folder + "/missing", {folder + "/missing"}}));
-  for (const Row& row : rows) {
-    std::filesystem::create_directory(folder + "/snd");
-    std::ofstream(folder + "/snd/" + row.Device).put('x');
-    std::ofstream(folder + "/settings") << row.Settings;
-    EXPECT_EQ(HasSoundDevice({folder + "/snd", {folder + "/settings"}}), row.Heard)
-        << row.Device << " " << row.Settings;
-    std::filesystem::remove_all(folder + "/snd");
-  }
-}
-#endif
 
 }  // namespace
 }  // namespace qves

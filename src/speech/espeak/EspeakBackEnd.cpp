@@ -57,7 +57,7 @@ const std::vector<Voice>& EspeakBackEnd::Voices() {
   return Offered;
 }
 
-bool EspeakBackEnd::Play(const Utterance& text, Playing& playing) {
+bool EspeakBackEnd::Play(Utterance& text, Playing& playing) {
   if (!Start()) return false;
   Apply(text);
   // A server that was lost since the last text is noticed only now: the next one gets the text from its
@@ -87,7 +87,7 @@ SoundStream* EspeakBackEnd::Output() {
       Device->Close();
       return &*Server;
     case PulseStream::Link::NoServer:
-      return HasSoundDevice(Places) && Device->Open() ? &*Device : nullptr;
+      return Device->Open() ? &*Device : nullptr;
     case PulseStream::Link::NoAnswer:
       break;  // the device may lead to the same server and hang
   }

@@ -9,7 +9,6 @@
 #include "speech/SpeechBackEnd.h"
 #include "speech/sound/AlsaStream.h"
 #include "speech/sound/PulseStream.h"
-#include "speech/sound/SoundDevice.h"
 
 namespace qves {
 
@@ -18,7 +17,7 @@ class EspeakBackEnd : public SpeechBackEnd {
  public:
   explicit EspeakBackEnd(Wake& changed) : Changed(changed) {}
   const std::vector<Voice>& Voices() override;
-  bool Play(const Utterance& text, Playing& playing) override;
+  bool Play(Utterance& text, Playing& playing) override;
   TimePoint Rest() override;
 
  private:
@@ -34,7 +33,6 @@ class EspeakBackEnd : public SpeechBackEnd {
   std::string CurrentKey;
   std::optional<PulseStream> Server;
   std::optional<AlsaStream> Device;
-  SoundPlaces Places = OwnSoundPlaces();
   bool LookedForServer = false;  // so the first text finds it connected
   SoundStream* Awake = nullptr;  // the stream that keeps the sound device awake
   TimePoint LastPlayed;

@@ -72,23 +72,25 @@ std::vector<Voice> VoicesOf(const std::string& module, const std::vector<std::st
 
 // The piece that is being spoken.
 struct Passage {
-  const TextPiece& Piece;
+  const MarkedText& Piece;
   Playing& Now;
   std::string Message = {};  // the server's number for it
   bool Ended = false;
   TimePoint Deadline = In(LongestUntilBegin);  // for what is to come next
 
-  void ReachMarks(const std::vector<std::int32_t>& marks) const {
-    for (const std::int32_t number : marks) Now.ReachMark(number);
+  // Those at the piece's start, or all others.
+  void ReachMarks(bool first) const {
+    for (const BookMark& mark : Piece.Marks)
+      if ((mark.Offset == 0) == first) Now.ReachMark(mark.Number);
   }
 
   void Take(const SpeechdReply& event) {
     if (event.Lines.empty() || event.Lines[0] != Message) return;
     if (event.Code == Begin) {
       Deadline = In(LongestUntilEnd + LongestByte * Piece.Text.size());
-      ReachMarks(Piece.FirstMarks);
+      ReachMarks(true);
     }
-    if (event.Code == End) ReachMarks(Piece.LaterMarks);
+    if (event.Code == End) ReachMarks(false);
     Ended = event.Code == End || event.Code == Canceled;
   }
 };
@@ -116,23 +118,24 @@ SpeechdBackEnd::SpeechdBackEnd(Wake& changed, bool eager)
   Known.push_back({{"Speech Dispatcher", "speech-dispatcher", "default", language}, "", this});
 }
 
-bool SpeechdBackEnd::Play(const Utterance& text, Playing& playing) {
+bool SpeechdBackEnd::Play(Utterance& text, Playing& playing) {
   if (!Eager) ListAt = TimePoint::max();  // the voice that is wanted is found already
   if (!Usable()) return false;
   const Manner manner = MannerOf(text);
-  for (const TextPiece& piece : CutText(text.Text, text.Marks, LongestPiece)) {
+  while (!text.Text.empty()) {
+    const MarkedText piece = FirstPiece(text, LongestPiece);
     for (int tries = 0; !playing.Stopped(); ++tries) {
       const bool ready = Good() && LinkManner == manner;
       if (tries == MostTries || (!ready && !Connect(manner))) return GiveUp();
       if (PlayPiece(piece, playing)) break;
     }
-    playing.Spoken += piece.Text.size();
+    DropFront(text, piece.Text.size());
   }
   return true;
 }
 
 // False: the server has failed.
-bool SpeechdBackEnd::PlayPiece(const TextPiece& piece, Playing& playing) {
+bool SpeechdBackEnd::PlayPiece(const MarkedText& piece, Playing& playing) {
   const TimePoint deadline = In(LongestAnswer);
   if (!Done(*Link, "SPEAK", deadline)) return false;
   const auto queued = Link->Ask(Wrapped(piece.Text), deadline);

@@ -7,7 +7,6 @@
 #include <vector>
 
 #include "speech/SpeechBackEnd.h"
-#include "speech/SpeechText.h"
 #include "speech/speechd/SpeechdConnection.h"
 #include "speech/speechd/SpeechdServer.h"
 
@@ -19,7 +18,7 @@ class SpeechdBackEnd : public SpeechBackEnd {
   /// first text only, and only the voices of one that runs already are listed.
   SpeechdBackEnd(Wake& changed, bool eager);
   const std::vector<Voice>& Voices() override { return Known; }
-  bool Play(const Utterance& text, Playing& playing) override;
+  bool Play(Utterance& text, Playing& playing) override;
   TimePoint Rest() override;
 
  private:
@@ -28,7 +27,7 @@ class SpeechdBackEnd : public SpeechBackEnd {
   using Manner = std::vector<std::string>;
   static Manner MannerOf(const Utterance& text);
 
-  bool PlayPiece(const TextPiece& piece, Playing& playing);
+  bool PlayPiece(const MarkedText& piece, Playing& playing);
   bool Good() const { return Link && Link->Good(); }
   bool Hangs() const { return Link && Link->Hangs(); }
   bool Connect(const Manner& manner);

@@ -124,7 +124,7 @@ void frmStatistics::Import() {
       {messages.GetMessage(ImportTitleMessage), messages.GetMessage(ImportFilterMessage), "txt", folder});
   if (path.empty()) return;
   ImportFile(path);
-  NoteStep(messages.GetMessage(ImportTitleMessage));
+  NoteStep(messages.GetMessage(ImportStepMessage));
 }
 
 /// The list is emptied when the file is open, before anything is read: what a broken file loses is wanted so.
