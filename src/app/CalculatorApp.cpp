@@ -80,6 +80,7 @@ void CalculatorApp::ChooseView(int menuItem) {
 }
 
 void CalculatorApp::Exit() {
+  Common.Past.Save();
   UnloadView();
   Observer.Ended();
 }

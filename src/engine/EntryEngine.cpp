@@ -124,20 +124,6 @@ void EntryEngine::ClearAll() {
   OnClearAll();
 }
 
-void EntryEngine::Calculate(double first, double& second, std::string_view op) {
-  if (op.empty()) return;
-  try {
-    Evaluate(first, second, op);
-  } catch (const ArithmeticFault& fault) {
-    Fail(fault.Reason());
-  }
-}
-
-void EntryEngine::Evaluate(double first, double& second, std::string_view op) {
-  if (const OperatorRow* row = FindOperator(Operators, op)) second = row->Apply(first, second);
-  ShowResult(second);
-}
-
 void EntryEngine::ShowResult(double& value) {
   Now.EntryText = WriteNumber(value);
   Show();

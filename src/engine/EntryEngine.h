@@ -10,8 +10,10 @@
 
 #include "engine/Announcer.h"
 #include "engine/EntryState.h"
+#include "engine/LineShape.h"
 #include "engine/Operators.h"
 #include "formulas/NumberBases.h"
+#include "services/History.h"
 
 namespace qves {
 
@@ -23,6 +25,8 @@ class EngineHost {
   /// The text shown grows at its end.
   virtual void ExtendDisplay(std::string_view text) = 0;
   virtual void ShowMemory(std::string_view indicator) = 0;
+  /// A calculation is finished.
+  virtual void Record(FinishedCalculation calculation) = 0;
 };
 
 /// The pressed key as the engine needs it.
@@ -106,6 +110,15 @@ class EntryEngine {
   /// Whether a binary operator completes the one pending before it.
   virtual bool OperatorCompletesPending() const;
 
+  // CalculationLines.cpp
+  /// What the line of a calculation shows before its result; nothing for what is no calculation.
+  virtual std::optional<std::string> BeginLine(double first, double second, std::string_view op) const;
+  /// Of the operators with one operand. One that is not among them puts its result alone on its line.
+  virtual std::span<const LineShape> LineShapes() const { return {}; }
+  virtual std::string OperandText(double value) const;
+  /// A calculation is finished and shown.
+  virtual void Finish(FinishedCalculation calculation);
+
   /// As ReadNumber, but faults when the text is no number.
   double ValueOf(std::string_view text) const;
   bool SecondOperandDue() const;
@@ -139,6 +152,7 @@ class EntryEngine {
   void RecallPi();
   void Recall(std::string text, double value);
   bool RefuseNoNumber();
+  void FinishMemoryKey();
 
   EntryState& Now;
 };

@@ -31,6 +31,10 @@ void EntryEngine::Memory(const PressedKey& key) {
   }
   Host.ShowMemory(Now.MemoryCell.Indicator());
   Says.Say(key.SpokenName);
+  FinishMemoryKey();
+}
+
+void EntryEngine::FinishMemoryKey() {
   Now.LastAction = ActionKind::Memory;
   Now.DecimalEntered = false;
 }
@@ -64,8 +68,7 @@ void EntryEngine::TakeText(std::string_view text, int base) {
   std::string own = InOwnBase(text, base);
   const double value = ValueOf(own);
   Recall(std::move(own), value);
-  Now.LastAction = ActionKind::Memory;
-  Now.DecimalEntered = false;
+  FinishMemoryKey();
 }
 
 void EntryEngine::TakeNumber(double value) {

@@ -1,6 +1,7 @@
 // Files and folders. Paths are UTF-8; errors are return values with the system's text.
 #pragma once
 
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -24,6 +25,9 @@ class FileStore {
   virtual bool IsFolder(const std::string& path) = 0;
   /// Makes the folder and those above it; true when it is there afterwards.
   virtual bool MakeFolder(const std::string& path) = 0;
+  /// While the result lives, other programs that ask for the same folder wait: what is read there is what is
+  /// then written anew. It waits for them a second at most, and the folder is made when missing.
+  virtual std::shared_ptr<void> Lock(const std::string& /*folder*/) { return nullptr; }
 };
 
 }  // namespace qves

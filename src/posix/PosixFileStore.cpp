@@ -1,13 +1,16 @@
 #include "posix/PosixFileStore.h"
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
+#include <chrono>
 #include <cstdio>
 #include <cstring>
 #include <filesystem>
+#include <thread>
 #include <utility>
 
 namespace qves {
@@ -146,6 +149,18 @@ bool PosixFileStore::MakeFolder(const std::string& path) {
   std::error_code ignored;
   fs::create_directories(path, ignored);
   return IsFolder(path);
+}
+
+/// Of the folder, so that no file of its own is left behind. One that cannot be had is done without.
+std::shared_ptr<void> PosixFileStore::Lock(const std::string& folder) {
+  using namespace std::chrono_literals;
+  MakeFolder(folder);
+  auto lock = std::make_shared<Descriptor>(folder, O_RDONLY | O_DIRECTORY);
+  const auto end = std::chrono::steady_clock::now() + 1s;
+  while (::flock(lock->Number, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK &&
+         std::chrono::steady_clock::now() < end)
+    std::this_thread::sleep_for(5ms);
+  return lock;
 }
 
 std::vector<std::string> PosixFileStore::TakeWritten() {

@@ -24,6 +24,7 @@ class PosixFileStore : public FileStore {
   bool IsFile(const std::string& path) override;
   bool IsFolder(const std::string& path) override;
   bool MakeFolder(const std::string& path) override;
+  std::shared_ptr<void> Lock(const std::string& folder) override;
 
   /// The files written since the last call, in order.
   std::vector<std::string> TakeWritten();

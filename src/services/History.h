@@ -2,9 +2,11 @@
 #pragma once
 
 #include <deque>
+#include <optional>
 #include <string>
 #include <string_view>
 
+#include "formulas/NumberBases.h"
 #include "platform/Platform.h"
 #include "services/AppSettings.h"
 #include "services/ErrorLog.h"
@@ -12,9 +14,9 @@
 namespace qves {
 
 struct FinishedCalculation {
-  std::string Line;    ///< as a tape shows it: "7 + 5 = 12"
-  double Value = 0;    ///< its result, with all its digits
-  int NumberBase = 0;  ///< the list index of the base that the line is written in
+  std::string Line;                ///< as a tape shows it: "7 + 5 = 12"
+  double Value = 0;                ///< its result, with all its digits
+  int Base = NumberBase::Decimal;  ///< the list index of the base that the line is written in
 };
 
 class History {
@@ -40,21 +42,27 @@ class History {
   void Save();
 
  private:
-  using Lines = std::deque<FinishedCalculation>;
+  struct Kept {
+    std::deque<FinishedCalculation> Lines;
+    std::string Damaged;  ///< all of a file that holds more than calculations
+  };
 
   void Load();
-  bool ReadFile(Lines& lines);
+  std::optional<Kept> ReadFile();
+  bool SaveDamaged(const std::string& content);
+  std::string Folder() const;
   std::string Path() const;
   void Complain(const std::string& what);
 
   Platform& Outside;
   const AppSettings& Settings;
   ErrorLog& Log;
-  Lines Calculations;
+  std::deque<FinishedCalculation> Calculations;
   std::size_t NewOnes = 0;  ///< of this session, at the end
   std::size_t At = 0;
   bool Walking = false;
   bool Loaded = false;
+  std::string LastComplaint;
 };
 
 }  // namespace qves

@@ -32,7 +32,14 @@ constexpr WordRow HeardWords[] = {
 };
 
 /// A function as a tape line writes it, and the name of its button.
-constexpr std::pair<std::string_view, int> Functions[] = {{"Sqr", SquareRootMessage}};
+constexpr std::pair<std::string_view, int> Functions[] = {{"Sqr", SquareRootMessage},
+                                                          {"Int", 1006},
+                                                          {"sin", 1008},
+                                                          {"cos", 1010},
+                                                          {"tan", 1012},
+                                                          {"Not", 1014},
+                                                          {"ln", 1022},
+                                                          {"log", 1024}};
 
 constexpr int MonthCount = 12;
 

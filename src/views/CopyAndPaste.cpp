@@ -18,7 +18,7 @@ void View::Copy() {
   if (!Engine->ShowsValue()) return Common.Speech.SpeakText(Message(ErrorMessage));
   RememberCopy();
   Common.Outside.Clip.WriteText(Engine->DisplayText());
-  const Wording words = WithDisplay(CopiedMessage);
+  const Wording words = WithValue(CopiedMessage);
   Says.Say(words.Text, words.Value);
 }
 
@@ -66,7 +66,7 @@ void View::PasteNumber(double value) {
 }
 
 void View::SayPasted() {
-  const Wording words = WithDisplay(PastedMessage);
+  const Wording words = WithValue(PastedMessage);
   Says.Say(words.Text, words.Value);
 }
 

@@ -10,11 +10,15 @@ struct View::EveryViewKey {
   int DescriptionMessage;  ///< what it does, for the key help
   void (View::*Act)();
   bool InDialogs = false;
+  bool LeftToDataLists = false;  ///< a list of data that has the focus uses the key itself
 };
 
 const View::EveryViewKey View::EveryViewKeys[] = {
     {KeyF3, NoShift, 1850, &View::Undo},
     {KeyF3, ShiftBit, 1851, &View::Redo},
+    {KeyF4, NoShift, 1854, &View::TakeFromHistory},
+    {KeyPageUp, NoShift, 1855, &View::HearEarlier, false, true},
+    {KeyPageDown, NoShift, 1856, &View::HearLater, false, true},
     {KeyF5, NoShift, 1859, &View::SpellDisplay},
     {KeyF8, NoShift, 1861, &View::SpeedBy<10>},
     {KeyF8, ShiftBit, 1862, &View::SpeedBy<-10>},
@@ -32,6 +36,7 @@ bool View::PressEveryViewKey(const KeyEvent& event) {
   for (const EveryViewKey& key : EveryViewKeys) {
     if (key.Code != event.Code || key.Shift != event.Shift) continue;
     if (!key.InDialogs && !Frame.IsActive(*this)) continue;
+    if (key.LeftToDataLists && dynamic_cast<const ListView*>(FocusedControl())) continue;
     (this->*key.Act)();
     return true;
   }

@@ -157,12 +157,11 @@ Wording View::Announcement(const Control& control) {
   if (&control != Display) return {control.SpokenName};
   SelectAll(*Display);  // so that a copy takes all of it
   if (Engine->InError()) return {Message(ErrorMessage)};
-  return WithDisplay(CurrentValueMessage);
+  return WithValue(CurrentValueMessage);
 }
 
-/// The message with what the display shows in its placeholder.
-Wording View::WithDisplay(int message) const {
-  const std::string& sentence = Message(message);
+Wording View::WithValue(int sentenceMessage) const {
+  const std::string& sentence = Message(sentenceMessage);
   const std::string value = Common.Speech.SpeechFormatNumber(Engine->DisplayText());
   const std::size_t start = sentence.find(Placeholder);
   if (start == std::string::npos) return {sentence};

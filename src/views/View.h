@@ -47,6 +47,7 @@ class View : public Form, protected EngineHost {
   void ShowMemory(std::string_view indicator) override {
     if (MemoryBox) SetText(*MemoryBox, indicator);
   }
+  void Record(FinishedCalculation calculation) override;
 
   /// What is chosen on the form: check boxes and lists of options; and the points chosen in lists of data.
   struct Choices {
@@ -97,10 +98,11 @@ class View : public Form, protected EngineHost {
   void GoByKey(Control& control);
   void Introduce(Control& control, bool queued);
   void SayOf(const Control& control, bool queued);
-  Wording WithDisplay(int message) const;
   void RememberCopy();
   void SayPasted();
   WrittenNumber AsWritten(std::string_view text) const;
+  /// The sentence with what the display shows.
+  Wording WithValue(int sentenceMessage) const;
   const std::string& StateOf(const CheckBox& box) const;
   KeyUse TextBoxKey(TextBox& box, const KeyEvent& event);
 
@@ -113,6 +115,13 @@ class View : public Form, protected EngineHost {
   void Copy();
   void Paste();
   void TellStep(const std::string* step, int toldMessage, int noneMessage);
+
+  // HistoryKeys.cpp
+  void HearEarlier();
+  void HearLater();
+  void TellCalculation(const FinishedCalculation* calculation);
+  ValueKind KindOfLine(const FinishedCalculation& calculation) const;
+  void TakeFromHistory();
 
   // VoiceKeys.cpp
   template <int WordsPerMinute>

@@ -4,6 +4,7 @@
 #include <sys/stat.h>
 #include <sys/wait.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <fstream>
 #include <nlohmann/json.hpp>
@@ -56,6 +57,15 @@ class ScriptMode : public testing::Test {
 
   TemporaryFolder Home;
 };
+
+TEST_F(ScriptMode, TwoCopiesThatEndTogetherKeepTheLinesOfBoth) {
+  const std::string one = std::string("echo keys 1+1= | ") + CLI + " --script --view standard --home '" +
+                          HomeFolder() + "' > /dev/null";
+  constexpr int pairs = 10;
+  for (int pair = 0; pair < pairs; ++pair) std::system((one + " & " + one + "; wait").c_str());
+  const std::string kept = ReadAll(Home.Path / "home/.local/state/QVES/History.txt");
+  EXPECT_EQ(std::ranges::count(kept, '\n'), 2 * pairs);
+}
 
 TEST_F(ScriptMode, OneObjectForEachCommandLine) {
   const Outcome outcome = Run("\n# a comment\n  \nkeys 7 + 5\r\nkey =");

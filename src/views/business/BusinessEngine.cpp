@@ -2,6 +2,7 @@
 
 #include "formulas/MoneyText.h"
 #include "formulas/Numbers.h"
+#include "text/Text.h"
 #include "views/SharedOperators.h"
 #include "views/business/BusinessButtons.h"
 
@@ -40,6 +41,14 @@ void BusinessEngine::ClearFinancial() {
 void BusinessEngine::ShowMoney(double value) {
   Now.EntryText = NumberToText(value);
   ShowInstead(FormatMoney(Now.EntryText));
+}
+
+std::string BusinessEngine::BeginResult(int nameMessage) const {
+  return std::string(Trimmed(Says.Message(nameMessage))) + " = ";
+}
+
+void BusinessEngine::FinishResult(int nameMessage, double value) {
+  Finish({BeginResult(nameMessage) + FormatMoney(NumberToText(value)), value});
 }
 
 /// The first operand goes through its general text, which drops zeros at its end: a year that ends in 0

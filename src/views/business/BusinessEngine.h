@@ -41,10 +41,15 @@ class BusinessEngine : public EntryEngine {
 
  protected:
   void Evaluate(double first, double& second, std::string_view op) override;
+  std::optional<std::string> BeginLine(double first, double second, std::string_view op) const override;
+  std::span<const LineShape> LineShapes() const override;
 
  private:
   void ShowMoney(double value);
   void AddToDate(double first, double& second);
+  std::string BeginResult(int nameMessage) const;
+  /// A financial result that the line of no operator tells.
+  void FinishResult(int nameMessage, double value);
 
   // RegisterKeys.cpp
   struct RegisterRow;
@@ -77,6 +82,7 @@ class BusinessEngine : public EntryEngine {
   // RegisterFunctions.cpp
   struct FunctionRow;
   static const FunctionRow FunctionTable[];
+  static const FunctionRow* FindFunction(std::string_view op);
   double FindInterest(double);
   double FindNPV(double);
   double FindIRR(double);

@@ -1,5 +1,6 @@
 // The functions that read the registers: each takes what they need to a pure function, and puts back what is
 // to stay only when that has not failed.
+#include <algorithm>
 #include <cmath>
 
 #include "formulas/Amortization.h"
@@ -11,6 +12,7 @@
 #include "views/business/BusinessButtons.h"
 #include "views/business/BusinessEngine.h"
 #include "views/business/BusinessOperators.h"
+#include "views/business/BusinessShapes.h"
 
 namespace qves {
 
@@ -41,12 +43,16 @@ const BusinessEngine::FunctionRow BusinessEngine::FunctionTable[] = {
     {Key::Days, &BusinessEngine::FindDays},
 };
 
+const BusinessEngine::FunctionRow* BusinessEngine::FindFunction(std::string_view op) {
+  const auto row = std::ranges::find(FunctionTable, op, [](const auto& one) { return one.Button.Caption; });
+  return row == std::end(FunctionTable) ? nullptr : row;
+}
+
 void BusinessEngine::Evaluate(double first, double& second, std::string_view op) {
   if (op == Key::DateAfter.Caption) return AddToDate(first, second);
-  for (const FunctionRow& row : FunctionTable) {
-    if (row.Button.Caption != op) continue;
-    second = (this->*row.Find)(second);
-    Now.SpokenMsgId = row.ResultMessage;
+  if (const FunctionRow* row = FindFunction(op)) {
+    second = (this->*row->Find)(second);
+    Now.SpokenMsgId = row->ResultMessage;
     Says.Say(RegisterName());
     return ShowMoney(second);
   }
@@ -54,6 +60,19 @@ void BusinessEngine::Evaluate(double first, double& second, std::string_view op)
   if (!money) return EntryEngine::Evaluate(first, second, op);
   second = money->Apply(first, second);
   ShowMoney(second);
+}
+
+/// A date stands alone; a function and a percentage have their spoken names.
+std::optional<std::string> BusinessEngine::BeginLine(double first, double second, std::string_view op) const {
+  if (op == Key::DateAfter.Caption) return "";
+  if (const FunctionRow* row = FindFunction(op)) return BeginResult(row->ResultMessage);
+  for (const ControlSpec& button : {Key::PercentOfTotal, Key::PercentDifference})
+    if (button.Caption == op) return EntryEngine::BeginLine(first, second, Says.Message(button.NameMessage));
+  return EntryEngine::BeginLine(first, second, op);
+}
+
+std::span<const LineShape> BusinessEngine::LineShapes() const {
+  return business::LineShapes;
 }
 
 double BusinessEngine::FindInterest(double) {
@@ -93,6 +112,7 @@ double BusinessEngine::FindAmortization(double payments) {
   r.PV -= part.Principal;
   Now.AmortPrincipal = Checked(-part.Principal);
   Now.AmortInterest = Checked(-part.Interest);
+  FinishResult(PrincipalPaidMessage, Now.AmortPrincipal);
   return Now.AmortInterest;
 }
 
@@ -104,6 +124,7 @@ double BusinessEngine::FindPrice(double) {
   r.FV = bond.Redemption;
   Now.BondValid = bond.Coupons.Count;
   Now.AccruedInterest = AccruedInterest(bond);
+  FinishResult(AccruedInterestMessage, Now.AccruedInterest);
   return Now.BondPrice = price;
 }
 

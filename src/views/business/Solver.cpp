@@ -1,4 +1,5 @@
 // CAL and a register key: the register is solved from the other four.
+#include <algorithm>
 #include <cmath>
 
 #include "formulas/Annuity.h"
@@ -29,9 +30,11 @@ const BusinessEngine::SolverRow BusinessEngine::SolverTable[] = {
 /// A register that cannot be solved only has its name spoken with the value shown.
 void BusinessEngine::SolveRegister(std::string_view tag) {
   WholePeriods();  // more than a 16-bit count of them is a fault, whatever is solved
-  for (const SolverRow& row : SolverTable)
-    if (row.Tag == tag) Now.CurrentValue = (this->*row.Solve)();
+  const auto* row = std::ranges::find(SolverTable, tag, &SolverRow::Tag);
+  const bool isSolved = row != std::end(SolverTable);
+  if (isSolved) Now.CurrentValue = (this->*row->Solve)();
   ShowMoney(Now.CurrentValue);
+  if (isSolved) FinishResult(Now.SpokenMsgId, Now.CurrentValue);
   Says.SayValue(DisplayText(), DisplayKind(), RegisterName() + " ");
   FinishKey(ActionKind::Uop);
 }

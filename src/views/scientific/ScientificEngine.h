@@ -62,6 +62,11 @@ class ScientificEngine : public EntryEngine {
   void OnClearAll() override;
   bool OperatorCompletesPending() const override;
 
+  // ScientificLines.cpp
+  std::optional<std::string> BeginLine(double first, double second, std::string_view op) const override;
+  std::span<const LineShape> LineShapes() const override;
+  std::string OperandText(double value) const override;
+
  private:
   struct EntryOperator;
   static const EntryOperator EntryOperators[];

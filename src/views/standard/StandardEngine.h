@@ -22,7 +22,8 @@ class StandardEngine : public EntryEngine {
   void Memory(const PressedKey& key) override;
 
  protected:
-  void Evaluate(double first, double& second, std::string_view op) override;
+  std::span<const LineShape> LineShapes() const override;
+  void Finish(FinishedCalculation calculation) override;
   void OnClearAll() override { Now.TapeLine.clear(); }
 
  private:

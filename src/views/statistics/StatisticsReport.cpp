@@ -111,4 +111,14 @@ std::string WriteReport(const StatisticsResult& result, const MessageStore& mess
   return std::move(report.Text);
 }
 
+std::vector<FinishedCalculation> KeyFigures(const StatisticsResult& result, const MessageStore& messages) {
+  std::vector<FinishedCalculation> figures;
+  const auto add = [&](Label label, double value) {
+    figures.push_back({messages.GetMessage(label) + " = " + NumberToText(value), value});
+  };
+  add(MeanLabel, result.Main.Mean());
+  if (result.Sample) add(SampleSDLabel, result.Sample->SD);
+  return figures;
+}
+
 }  // namespace qves

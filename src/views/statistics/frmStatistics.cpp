@@ -101,9 +101,11 @@ void frmStatistics::OnMenu(int id) {
 void frmStatistics::Report(double degreesOfFreedom, double alpha) {
   const std::string path = Common.FolderLocations.ReportFile();
   try {
-    const StatisticsResult result = RunStatistics(
-        {Items(DataList::Main).Copy(), Items(DataList::Second).Copy(), IgnoresZero(), degreesOfFreedom, alpha},
-        Common.Outside.Sheet);
+    const StatisticsResult result =
+        RunStatistics({Items(DataList::Main).Copy(), Items(DataList::Second).Copy(), IgnoresZero(),
+                       degreesOfFreedom, alpha},
+                      Common.Outside.Sheet);
+    for (FinishedCalculation& figure : KeyFigures(result, Common.Messages)) Record(std::move(figure));
     std::string error;
     if (!Common.Outside.Files.Write(path, WriteReport(result, Common.Messages), error))
       Common.Log.WriteErrorLog(ReportErrorCode, "The report " + path + " cannot be written: " + error +
