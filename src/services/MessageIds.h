@@ -43,12 +43,19 @@ enum MessageId : int {
   DoneAgainMessage = 1751,
   NothingToUndoMessage = 1752,
   NothingToRedoMessage = 1753,
+  KeyHelpOnMessage = 1900,
+  KeyHelpOffMessage = 1901,
+  NoFunctionHereMessage = 1902,
   SpeedMessage = 1903,
   VolumeMessage = 1904,
   VoiceOffMessage = 1905,
   VoiceOnMessage = 1906,
   BriefSpeechMessage = 1907,
   FullSpeechMessage = 1908,
+  ControlWordMessage = 1909,
+  ShiftWordMessage = 1910,
+  FunctionKeyMessage = 1911,
+  KeypadMessage = 1912,
   CharacterNameMessages = 4000,  ///< + the ASCII code
 };
 

@@ -13,6 +13,7 @@ struct View::EveryViewKey {
 };
 
 const View::EveryViewKey View::EveryViewKeys[] = {
+    {KeyF1, ShiftBit, 1860, &View::StartKeyHelp},
     {KeyF3, NoShift, 1850, &View::Undo},
     {KeyF3, ShiftBit, 1851, &View::Redo},
     {KeyF5, NoShift, 1859, &View::SpellDisplay},
@@ -24,15 +25,24 @@ const View::EveryViewKey View::EveryViewKeys[] = {
     {KeyF9, ShiftBit, 1866, &View::SwitchDetail},
 };
 
-/// True when it was one of them.
-bool View::PressEveryViewKey(const KeyEvent& event) {
+const View::EveryViewKey* View::FindEveryViewKey(const KeyEvent& event) const {
   for (const EveryViewKey& key : EveryViewKeys) {
     if (key.Code != event.Code || key.Shift != event.Shift) continue;
-    if (!key.InDialogs && !Frame.IsActive(*this)) continue;
-    (this->*key.Act)();
-    return true;
+    if (key.InDialogs || Frame.IsActive(*this)) return &key;
   }
-  return false;
+  return nullptr;
+}
+
+/// True when it was one of them.
+bool View::PressEveryViewKey(const KeyEvent& event) {
+  const EveryViewKey* key = FindEveryViewKey(event);
+  if (key) (this->*key->Act)();
+  return key;
+}
+
+int View::EveryViewKeyText(const KeyEvent& event) const {
+  const EveryViewKey* key = FindEveryViewKey(event);
+  return key ? key->DescriptionMessage : NoMessage;
 }
 
 void View::Undo() {
