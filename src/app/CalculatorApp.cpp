@@ -19,10 +19,8 @@ bool IsPlainComma(const KeyEvent& event) {
 
 /// Keys that are no mistake of the user's where they do nothing: modifiers, lock keys, what is unknown.
 bool IsNoMistake(const KeyEvent& event) {
+  if (IsModifier(event.Code)) return true;
   switch (event.Code) {
-    case KeyShift:
-    case KeyControl:
-    case KeyAlt:
     case KeyCapsLock:
     case KeyNumLock:
     case KeyScrollLock:

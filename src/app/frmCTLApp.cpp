@@ -31,13 +31,15 @@ bool frmCTLApp::KeyDown(const KeyEvent& event) {
     DescribeMenuItem();
     return true;
   }
+  if (!IsModifier(event.Code) && Describe(event)) return true;
   bool handled = event.Code == KeyEscape && FocusCancelControl();
   if (KeyTarget) KeyTarget->NotifyKeyDown(handled, event);
   return handled;
 }
 
 void frmCTLApp::KeyUp(int keyCode) {
-  if (keyCode == KeyControl && CtrlAlone) Common.Speech.StopSpeech();
+  // Alone it is a key only when it is let go.
+  if (keyCode == KeyControl && CtrlAlone && !Describe({KeyControl})) Common.Speech.StopSpeech();
   CtrlAlone = false;
 }
 

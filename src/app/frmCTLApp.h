@@ -41,6 +41,7 @@ class frmCTLApp : private HintListener, private QueryUnloadListener, private Tts
   void SpeechStopped(TtsSpeaker& speaker) override;
   void DescribeMenuItem();
   bool FocusCancelControl();
+  bool Describe(const KeyEvent& event) const { return KeyTarget && KeyTarget->DescribeKey(event); }
 
   Services& Common;
   Callbacks Calls;

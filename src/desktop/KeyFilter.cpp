@@ -12,10 +12,11 @@ bool IsMnemonic(const QKeyEvent& event) {
 }
 
 /// Held, the key is one press. One that speaks or silences when it is let go must not hide by its repetitions
-/// that another key came between; Space would turn a check box over and over.
+/// that another key came between; Space would turn a check box over and over, F9 the voice; and the Escape
+/// that ends the key help is not to clear the calculation.
 bool ActsOnceWhileHeld(int code) {
   return code == KeyControl || code == KeyCapsLock || code == KeyNumLock || code == KeyScrollLock ||
-         code == KeySpace;
+         code == KeySpace || code == KeyEscape || code == KeyF9;
 }
 
 }  // namespace

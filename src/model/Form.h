@@ -93,6 +93,8 @@ class Form {
 
   /// The view's key map. Sets `handled` when it has used the key.
   virtual void NotifyKeyDown(bool& /*handled*/, const KeyEvent&) {}
+  /// While keys only tell what they do: tells it of that key. True when that is all that the key is to do.
+  virtual bool DescribeKey(const KeyEvent&) { return false; }
   /// A key that the keyboard hook let through: the focused control's own keys, Tab, Enter, Space, and in a
   /// list the arrows.
   KeyUse KeyDown(const KeyEvent& event);

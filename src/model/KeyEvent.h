@@ -70,6 +70,11 @@ struct KeyEvent {
   bool Held = false;       ///< a repetition of a key that is held down
 };
 
+/// Keys that are held with others.
+constexpr bool IsModifier(int code) {
+  return code == KeyShift || code == KeyControl || code == KeyAlt;
+}
+
 /// With Alt a key belongs to the menus and the desktop, unless AltGr makes it type a character.
 constexpr bool BelongsToDesktop(const KeyEvent& event) {
   return (event.Shift & AltBit) != 0 && event.Character == 0 && event.Code != KeyAlt;

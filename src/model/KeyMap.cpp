@@ -1,7 +1,6 @@
 #include "model/KeyMap.h"
 
 namespace qves {
-namespace {
 
 bool Allows(ShiftRule rule, int shift) {
   switch (rule) {
@@ -18,6 +17,8 @@ bool Allows(ShiftRule rule, int shift) {
   }
   return false;
 }
+
+namespace {
 
 /// Of a key with AltGr only what it types counts.
 bool Matches(const KeyRow& row, const KeyEvent& event) {

@@ -14,6 +14,8 @@ namespace qves {
 /// takes every state but that one.
 enum class ShiftRule { Any, None, Shift, Control, NotControl };
 
+bool Allows(ShiftRule rule, int shift);
+
 enum class KeyAction {
   Click,         ///< press the control, as a mouse click would
   Focus,         ///< move the focus to the control

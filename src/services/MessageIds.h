@@ -48,6 +48,9 @@ enum MessageId : int {
   HistoryEmptyMessage = 1811,
   TakenMessage = 1812,
   TakeStepMessage = 1813,
+  KeyHelpOnMessage = 1900,
+  KeyHelpOffMessage = 1901,
+  NoFunctionHereMessage = 1902,
   SpeedMessage = 1903,
   VolumeMessage = 1904,
   VoiceOffMessage = 1905,
@@ -58,6 +61,10 @@ enum MessageId : int {
   PastedMessage = 1822,
   NoNumberMessage = 1823,
   PasteStepMessage = 1839,
+  ControlWordMessage = 1909,
+  ShiftWordMessage = 1910,
+  FunctionKeyMessage = 1911,
+  KeypadMessage = 1912,
   CharacterNameMessages = 4000,  ///< + the ASCII code
 };
 

@@ -14,6 +14,7 @@ struct View::EveryViewKey {
 };
 
 const View::EveryViewKey View::EveryViewKeys[] = {
+    {KeyF1, ShiftBit, 1860, &View::StartKeyHelp},
     {KeyF3, NoShift, 1850, &View::Undo},
     {KeyF3, ShiftBit, 1851, &View::Redo},
     {KeyF4, NoShift, 1854, &View::TakeFromHistory},
@@ -31,16 +32,28 @@ const View::EveryViewKey View::EveryViewKeys[] = {
     {KeyInsert, ShiftBit, 1858, &View::Paste},
 };
 
-/// True when it was one of them.
-bool View::PressEveryViewKey(const KeyEvent& event) {
+const View::EveryViewKey* View::FindEveryViewKey(const KeyEvent& event) const {
   for (const EveryViewKey& key : EveryViewKeys) {
     if (key.Code != event.Code || key.Shift != event.Shift) continue;
     if (!key.InDialogs && !Frame.IsActive(*this)) continue;
     if (key.LeftToDataLists && dynamic_cast<const ListView*>(FocusedControl())) continue;
     (this->*key.Act)();
     return true;
+    if (key.InDialogs || Frame.IsActive(*this)) return &key;
   }
-  return false;
+  return nullptr;
+}
+
+/// True when it was one of them.
+bool View::PressEveryViewKey(const KeyEvent& event) {
+  const EveryViewKey* key = FindEveryViewKey(event);
+  if (key) (this->*key->Act)();
+  return key;
+}
+
+int View::EveryViewKeyText(const KeyEvent& event) const {
+  const EveryViewKey* key = FindEveryViewKey(event);
+  return key ? key->DescriptionMessage : NoMessage;
 }
 
 void View::Undo() {

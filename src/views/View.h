@@ -35,6 +35,7 @@ class View : public Form, protected EngineHost {
   void Form_Load() override;
   void Form_Unload() override;
   void NotifyKeyDown(bool& handled, const KeyEvent& event) override;
+  bool DescribeKey(const KeyEvent& event) override;
   void Form_KeyUp(int keyCode) override;
 
  protected:
@@ -105,11 +106,19 @@ class View : public Form, protected EngineHost {
   Wording WithValue(int sentenceMessage) const;
   const std::string& StateOf(const CheckBox& box) const;
   KeyUse TextBoxKey(TextBox& box, const KeyEvent& event);
+  /// The row of the key map that counts; null for none.
+  const KeyRow* RowOf(const KeyEvent& event) const;
+  Control* TargetOf(const KeyRow& row, const KeyEvent& event) const {
+    return Find(row.Target.Name, IndexFor(row, event.Code));
+  }
 
   // EveryViewKeys.cpp
   struct EveryViewKey;
   static const EveryViewKey EveryViewKeys[];
+  const EveryViewKey* FindEveryViewKey(const KeyEvent& event) const;
   bool PressEveryViewKey(const KeyEvent& event);
+  /// The message of what it does; none when it is none of them.
+  int EveryViewKeyText(const KeyEvent& event) const;
   void Undo();
   void Redo();
   void Copy();
@@ -138,10 +147,15 @@ class View : public Form, protected EngineHost {
   void SwitchDetail();
   void SpellDisplay();
 
+  // KeyHelp.cpp
+  void StartKeyHelp();
+  std::string DescriptionOf(const KeyEvent& event) const;
+
   const ViewTables& Tables;
   std::unique_ptr<EntryEngine> Engine;
   TextBox* Display = nullptr;
   TextBox* MemoryBox = nullptr;  ///< null in a view without a memory
+  bool KeyHelpIsOn = false;
   std::vector<CheckBox*> Boxes;
   std::vector<ListBox*> OptionLists;
   std::vector<ListView*> DataLists;

@@ -37,15 +37,18 @@ void View::NotifyKeyDown(bool& handled, const KeyEvent& event) {
     return;
   }
   if (!Frame.IsActive(*this)) return;
-  const auto target = [&](const KeyRow& row) { return Find(row.Target.Name, IndexFor(row, event.Code)); };
-  const KeyRow* row = FindKeyRow(
-      Tables.KeyMap, event, [&](const KeyRow& one) { return !one.WhileEnabled || target(one)->Enabled; });
+  const KeyRow* row = RowOf(event);
   if (!row || row->Action == KeyAction::LeaveIt) return;
   handled = true;
-  if (row->Action == KeyAction::Click) return PressByKey(*target(*row));
+  if (row->Action == KeyAction::Click) return PressByKey(*TargetOf(*row, event));
   if (row->Action == KeyAction::RepeatSpeech)  // changes nothing, not even what Enter presses
     return Common.Speech.RepeatSpeech();
-  GoByKey(*target(*row));
+  GoByKey(*TargetOf(*row, event));
+}
+
+const KeyRow* View::RowOf(const KeyEvent& event) const {
+  return FindKeyRow(Tables.KeyMap, event,
+                    [&](const KeyRow& row) { return !row.WhileEnabled || TargetOf(row, event)->Enabled; });
 }
 
 /// The control is heard at once, also when it has the focus already: who presses the key wants to hear it.
@@ -65,7 +68,7 @@ void View::PressByKey(Control& control) {
 }
 
 void View::Form_KeyUp(int keyCode) {
-  AnnounceLockKey(Common, keyCode);
+  if (!KeyHelpIsOn) AnnounceLockKey(Common, keyCode);
 }
 
 KeyUse View::OnControlKey(Control& control, const KeyEvent& event) {

@@ -155,5 +155,36 @@ TEST_F(ApplicationTest, NothingReachesAVoiceThatIsOff) {
   EXPECT_EQ(TakeSaid(), Texts{});
 }
 
+TEST_F(ApplicationTest, TheKeyHelpNamesAKeyAsItsLayoutHasIt) {
+  const struct {
+    KeyEvent Key;
+    const char* Said;
+  } rows[] = {
+      {{'G', ControlBit | ShiftBit, 0}, "now Control Shift G: nothing"},
+      {{'2', ShiftBit, U'"'}, "now Shift 2: . "},
+      {{KeyRightBracket, NoShift, U'+'}, "now plus: . "},           // a German plus
+      {{KeyEqual, ShiftBit, U'+'}, "now plus: . "},                 // and one with Shift
+      {{KeySemicolon, NoShift, U'\u00F6'}, "now \u00F6: nothing"},  // a letter that has no code
+      {{0, NoShift, U'\u00E9'}, "now \u00E9: nothing"},
+      {{KeySemicolon, ControlBit, 0}, "now Control semicolon: nothing"},
+      {{'Q', ControlBit | AltBit, U'@'}, "now @: nothing"},  // with AltGr
+      {{KeyF1 + 10, ShiftBit, 0}, "now Shift F11: nothing"},
+  };
+  Start();
+  App->KeyDown({KeyF1, ShiftBit});
+  TakeSaid();
+  for (const auto& row : rows) {
+    EXPECT_TRUE(App->KeyDown(row.Key));
+    EXPECT_EQ(TakeSaid(), Texts{row.Said});
+  }
+  EXPECT_FALSE(App->KeyDown({0, NoShift, 0})) << "a key that is unknown is the desktop's";
+  EXPECT_FALSE(App->KeyDown({'F', AltBit, 0}));
+  EXPECT_TRUE(App->KeyDown({'G', NoShift, U'g', true})) << "held";
+  EXPECT_EQ(TakeSaid(), Texts{});
+  EXPECT_TRUE(App->KeyDown({KeyEscape}));
+  EXPECT_EQ(TakeSaid(), Texts{"now left"});
+  EXPECT_FALSE(App->KeyDown({'G', NoShift, U'g'}));
+}
+
 }  // namespace
 }  // namespace qves

@@ -242,7 +242,8 @@ struct FakePlatform {
         "View\n"
         "1073\tpoint\n"
         "1081\t.\n1202\tError\n1204\t minus "
-        "\n1905\tOff\n1906\tOn\n1413\tbottom\n1414\ttop\n4038\tampersand\n";
+        "\n1901\tleft\n1902\tnothing\n1905\tOff\n1906\tOn\n1909\tControl\n1910\tShift\n1911\tF%%"
+        "\n4043\tplus\n4059\tsemicolon\n1413\tbottom\n1414\ttop\n4038\tampersand\n";
   }
 
   const std::string HostFile = "/home/anna/.config/QVES/Settings/Host.ost";

@@ -183,6 +183,23 @@ class SessionTest(unittest.TestCase):
             calculator.process.terminate()
             calculator.ended()
 
+    def test_key_help_and_the_voice_off(self):
+        calculator = self.started()
+        keys("7")
+        calculator.expect_display("7")
+        opened = lambda: [node.name for node in calculator.nodes(pyatspi.ROLE_MENU_ITEM)  # noqa: E731
+                          if node.getState().contains(pyatspi.STATE_SELECTED)]
+        keys("shift+F1", "5", "m", "Delete", "F9", "F10", "Tab", "space", "ctrl+m")
+        holds("the calculation and no menu", lambda: calculator.display() == "7" and not opened())
+        xdotool("keydown", "Escape", "sleep", "1.2", "keyup", "Escape")  # held, it does not clear all
+        keys("5")
+        calculator.expect_display("75")
+        keys("F9", "m")
+        calculator.expect_display("-75")
+        calculator.process.terminate()
+        calculator.ended()
+        self.assertIn('"OwnVoice","off"', calculator.settings.read_text())
+
     def test_the_decimal_comma_of_the_desktops_language(self):
         for language, shown in (("de_DE.UTF-8", "1.5"), ("en_US.UTF-8", "15")):
             with self.subTest(language=language):
