@@ -13,8 +13,10 @@ struct View::EveryViewKey {
 };
 
 const View::EveryViewKey View::EveryViewKeys[] = {
+    {KeyF2, NoShift, 1852, &View::SayWhere, true},
     {KeyF3, NoShift, 1850, &View::Undo},
     {KeyF3, ShiftBit, 1851, &View::Redo},
+    {KeyF6, NoShift, 1853, &View::SayHeld},
 };
 
 /// True when it was one of them.

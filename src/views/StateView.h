@@ -39,7 +39,10 @@ class StateView : public View {
   };
 
   StateFields EngineState() const override { return Describe(Now); }
-  void NoteStep(const std::string& name) override { Steps.Note(Take(), name); }
+  void NoteStep(const std::string& name) override {
+    Steps.Note(Take(), name);
+    ShowOpenLine();
+  }
   const std::string* UndoStep() override { return PutBack(Steps.Undo()); }
   const std::string* RedoStep() override { return PutBack(Steps.Redo()); }
   /// The calculation on the form is another one.

@@ -105,7 +105,7 @@ std::string ScientificEngine::RecalledText() const {
 void ScientificEngine::OnClearAll() {
   Now.Form = EntryForm::Plain;
   Now.ParenDepth = 0;
-  Now.ParenJustOpened = false;
+  Now.ParenJustOpened = Now.PendingIsImplied = false;
 }
 
 void ScientificEngine::ClearEntry(const PressedKey& key) {
@@ -121,7 +121,7 @@ bool ScientificEngine::OperatorCompletesPending() const {
 void ScientificEngine::BinaryOperator(const PressedKey& key) {
   EndExponent();
   EntryEngine::BinaryOperator(key);
-  Now.ParenJustOpened = false;
+  Now.ParenJustOpened = Now.PendingIsImplied = false;
 }
 
 void ScientificEngine::UnaryOperator(const PressedKey& key) {

@@ -45,6 +45,9 @@ class ScientificEngine : public EntryEngine {
   /// and the base is another all the same.
   void ChangeBase(int base);
 
+  std::vector<OpenOperand> OpenCalculation() const override;  // ParenthesisKeys.cpp
+  /// An open parenthesis is no value.
+  bool ShowsValue() const override { return ShowsEntry() && EntryEngine::ShowsValue(); }
   ValueKind DisplayKind() const override {
     return Now.NumBase == NumberBase::Decimal ? ValueKind::Number : ValueKind::BaseDigits;
   }
