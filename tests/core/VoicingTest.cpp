@@ -122,7 +122,7 @@ TEST(Voicing, ValuesThatAreNoPlainNumbers) {
       {"value is  ", "((", Number, "value is  left paren left paren"},
       {"", "0", BaseDigits, "0"},
       {"", "1A plus. Value is BAD. A to the ADDER, 1E+20, 12", BaseDigits,
-       "1 A, plus. Value is B A, D. A to the ADDER, 1 times ten to the 20, 1 2"},
+       "1 A, plus. Value is B A, D. A, to the ADDER, 1 times ten to the 20, 1 2"},
       {"", "begin 4.072004. end 12.312010.", DateNumber,
        "begin 4 point 0 7, 2 0 0 4. end 12 point 3 1, 2 0 1 0."},
       {"begin date ", "4.072004", DateNumber, "begin date 4 point 0 7, 2 0 0 4"},
