@@ -55,7 +55,6 @@ enum MessageId : int {
   OnePointMessage = 1781,
   ChosenPointMessage = 1782,
   RegistersEmptyMessage = 1785,
-  RegisterHoldsMessage = 1786,
   FlowMessage = 1787,
   EqualFlowsMessage = 1788,
   ImportedMessage = 1790,

@@ -64,9 +64,10 @@ double ScientificEngine::ComputeTrig(std::string_view op, double x) {
   const double result = TrigFunction(op, x, modes);
   Modes.ClearInverse();
   Modes.ClearHyperbolic();
-  // Close to a pole, as at the tangent of 90 degrees.
+  // Close to a pole, as at the tangent of 90 degrees; a hyperbolic function has none.
   if (!(std::fabs(result) <= LargestTrigResult))
-    throw ArithmeticFault(FaultReason::TooLarge, "the result is too large");
+    throw ArithmeticFault(modes.Hyperbolic ? FaultReason::TooLarge : FaultReason::NotDefined,
+                          "the result is too large");
   return result;
 }
 
