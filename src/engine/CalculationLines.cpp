@@ -23,14 +23,10 @@ void EntryEngine::Evaluate(double first, double& second, std::string_view op) {
 
 std::optional<std::string> EntryEngine::BeginLine(double first, double second, std::string_view op) const {
   for (const LineShape& shape : LineShapes())
-    if (shape.Caption == op) return std::string(shape.Lead).append(OperandText(second)).append(shape.Tail);
+    if (shape.Caption == op) return std::string(shape.Lead).append(Written(second)).append(shape.Tail);
   const OperatorRow* row = FindOperator(Operators, op);
   if (row && row->Operands == Arity::Unary) return "";
-  return OperandText(first).append(" ").append(op).append(" ").append(OperandText(second)).append(" = ");
-}
-
-std::string EntryEngine::OperandText(double value) const {
-  return NumberToText(value);
+  return Written(first).append(" ").append(op).append(" ").append(Written(second)).append(" = ");
 }
 
 void EntryEngine::Finish(FinishedCalculation calculation) {

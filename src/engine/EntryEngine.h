@@ -7,6 +7,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "engine/Announcer.h"
 #include "engine/EntryState.h"
@@ -35,6 +36,16 @@ struct PressedKey {
   std::string_view SpokenName;
   std::string_view HelpText;
 };
+
+/// What waits for the rest of its calculation: a number with the caption of its operator, or a group that has
+/// been opened.
+struct OpenOperand {
+  std::string Number;  ///< as entries are written; "" for a group
+  std::string Operator;
+};
+
+/// What stands for a group in place of an operator.
+inline constexpr std::string_view OpenGroupCaption = "(";
 
 class EntryEngine {
  public:
@@ -90,6 +101,14 @@ class EntryEngine {
   /// What the value is that the display shows.
   virtual ValueKind DisplayKind() const { return Now.EntryKind; }
 
+  // OpenCalculation.cpp
+  /// From the outside in; empty while nothing waits.
+  virtual std::vector<OpenOperand> OpenCalculation() const;
+  /// The memory's text as it would be recalled; nothing while nothing is stored.
+  std::optional<std::string> StoredNumber() const;
+  /// Of the error state.
+  FaultReason Reason() const { return Now.Reason; }
+
  protected:
   /// Computes the operator and shows the result, which `second` receives.
   virtual void Evaluate(double first, double& second, std::string_view op);
@@ -115,10 +134,11 @@ class EntryEngine {
   virtual std::optional<std::string> BeginLine(double first, double second, std::string_view op) const;
   /// Of the operators with one operand. One that is not among them puts its result alone on its line.
   virtual std::span<const LineShape> LineShapes() const { return {}; }
-  virtual std::string OperandText(double value) const;
   /// A calculation is finished and shown.
   virtual void Finish(FinishedCalculation calculation);
 
+  /// As WriteNumber, but never faults.
+  std::string Written(double value) const;
   /// As ReadNumber, but faults when the text is no number.
   double ValueOf(std::string_view text) const;
   bool SecondOperandDue() const;

@@ -45,7 +45,8 @@ double rtcPV(double rate, double periods, double payment, double futureValue, in
 double rtcFV(double rate, double periods, double payment, double presentValue, int timing) {
   const Real fraction = rate, length = periods;
   return Checked(-(Become(presentValue, Growth(fraction, length)) +
-                   Become(Due(rate, payment, timing), PaymentsGrown(fraction, length))));
+                   Become(Due(rate, payment, timing), PaymentsGrown(fraction, length))),
+                 FaultReason::TooLarge);
 }
 
 double rtcPMT(double rate, double periods, double presentValue, double futureValue, int timing) {
@@ -53,13 +54,13 @@ double rtcPMT(double rate, double periods, double presentValue, double futureVal
   const Real fraction = rate, length = periods;
   const Real payment =
       -(presentValue / PaymentsDiscounted(fraction, length) + futureValue / PaymentsGrown(fraction, length));
-  return Checked(payment / Due(rate, 1, timing));
+  return Checked(payment / Due(rate, 1, timing), FaultReason::NoSolution);
 }
 
 double rtcNPer(double rate, double payment, double presentValue, double futureValue, int timing) {
   const Real fraction = rate;
   const Real sums = Real{presentValue} + futureValue;
-  if (rate == 0) return Checked(-sums / payment);
+  if (rate == 0) return Checked(-sums / payment, FaultReason::NoSolution);
   if (rate <= -1) throw ArithmeticFault(FaultReason::NoSolution, "a rate of -100 % or less");
   const Real due = Due(rate, payment, timing);
   const Real start = due + presentValue * fraction;
@@ -67,7 +68,7 @@ double rtcNPer(double rate, double payment, double presentValue, double futureVa
   // Each form keeps the digits where the other would lose them.
   const Real logarithm =
       std::fabs(growth) < 0.5 ? std::log1p(growth) : std::log((due - futureValue * fraction) / start);
-  return Checked(logarithm / std::log1p(fraction));
+  return Checked(logarithm / std::log1p(fraction), FaultReason::NoSolution);
 }
 
 Real rtcRate(double periods, double payment, double presentValue, double futureValue, int timing) {

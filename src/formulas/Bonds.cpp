@@ -58,7 +58,7 @@ double BondYield(const Bond& bond, double price) {
   if (BondPrice(bond, 0) < price)
     throw ArithmeticFault(FaultReason::NoSolution, "a price that no yield reaches");
   double high = 1;
-  while (BondPrice(bond, high) > price) high = Checked(2 * high);
+  while (BondPrice(bond, high) > price) high = Checked(2 * high, FaultReason::NoSolution);
   return Halve([&](double yield) { return BondPrice(bond, yield) - price; }, high);
 }
 

@@ -72,7 +72,7 @@ double rtcNPV(double rate, double first, std::span<const double> flows) {
   if (growth == 0) throw ArithmeticFault(FaultReason::NoSolution, "a rate of -100 %");
   Real sum = 0;
   for (std::size_t i = flows.size(); i-- > 0;) sum = (sum + flows[i]) / growth;
-  return Checked(sum + first);
+  return Checked(sum + first, FaultReason::TooLarge);
 }
 
 Real rtcIRR(std::span<const double> flows) {

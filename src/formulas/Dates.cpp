@@ -87,7 +87,8 @@ Date FromDayNumber(DayNumber day) {
 }
 
 DayNumber AddDays(DayNumber day, double days) {
-  return Number(calendar::year_month_day(ToCalendar(ToInt32(day + static_cast<double>(ToInt32(days))))));
+  const double count = ToInt32(days, FaultReason::NoSuchDate);
+  return Number(calendar::year_month_day(ToCalendar(ToInt32(day + count, FaultReason::NoSuchDate))));
 }
 
 DayNumber AddMonths(DayNumber day, int months) {

@@ -61,7 +61,7 @@ std::string Write(std::uint32_t value, int radix) {
 
 /// The text, in any base but decimal, of a whole number. Faults outside the signed 32-bit range.
 std::string WriteInBase(int base, double value) {
-  const auto bits = static_cast<std::uint32_t>(ToInt32(value));
+  const auto bits = static_cast<std::uint32_t>(ToInt32(value, FaultReason::OutOfBase));
   if (base == NumberBase::Octal) return Write(bits, 8);
   const std::string hexadecimal = Write(bits, 16);
   return base == NumberBase::Binary ? HexToBinaryText(hexadecimal) : hexadecimal;

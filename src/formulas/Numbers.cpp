@@ -83,6 +83,12 @@ double Checked(Real value) {
   return nearest == 0 ? 0 : nearest;
 }
 
+double Checked(Real value, FaultReason reason) {
+  if (!std::isfinite(static_cast<double>(value)))
+    throw ArithmeticFault(reason, "the result is not finite or no number");
+  return Checked(value);
+}
+
 std::string NumberToText(double value) {
   if (value == 0) return "0";
   std::array<char, 40> buffer;
@@ -111,12 +117,12 @@ std::optional<double> ParseNumber(std::string_view text) {
   return negative && value != 0 ? -value : value;
 }
 
-std::int32_t ToInt32(double value) {
-  return ToInteger<std::int32_t>(value, FaultReason::OutOfBase);
+std::int32_t ToInt32(double value, FaultReason reason) {
+  return ToInteger<std::int32_t>(value, reason);
 }
 
-std::int16_t ToInt16(double value) {
-  return ToInteger<std::int16_t>(value, FaultReason::OutOfRange);
+std::int16_t ToInt16(double value, FaultReason reason) {
+  return ToInteger<std::int16_t>(value, reason);
 }
 
 bool IsBeyondADouble(std::string_view entry) {

@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+#include "model/ArithmeticFault.h"
+
 namespace qves {
 
 inline constexpr double Pi = 3.1415926535897932384626433832795;
@@ -16,6 +18,8 @@ using Real = long double;
 
 /// The double nearest to the value, never a negative zero; faults when it is not finite.
 double Checked(Real value);
+/// The same with a reason of the caller's own.
+double Checked(Real value, FaultReason reason);
 
 /// The general text of a number: up to 15 significant digits, "-" for negative ones, exponent form ("1E+20",
 /// "1E-05") for very large and very small magnitudes. Negative zero is "0".
@@ -27,8 +31,8 @@ std::string NumberToText(double value);
 std::optional<double> ParseNumber(std::string_view text);
 
 /// The value rounded, halves to even, as a signed integer of that many bits. Faults outside its range.
-std::int32_t ToInt32(double value);
-std::int16_t ToInt16(double value);
+std::int32_t ToInt32(double value, FaultReason reason = FaultReason::OutOfRange);
+std::int16_t ToInt16(double value, FaultReason reason = FaultReason::OutOfRange);
 
 /// True when one more digit at the end of a plain decimal entry can no longer change its value: it stands so
 /// far behind the point that a double does not see it. Keeps the typing of very long entries quick.

@@ -24,7 +24,8 @@ double OddPeriodGrown(double sum, double rate, double fraction, int interest) {
 
 double OddPeriodPV(double rate, const OddPeriodProblem& p) {
   return Checked(PresentValue(rate, p.WholePeriods, p.Payment, p.FutureValue, p.Timing) /
-                 Factor(rate, p.Fraction, p.Interest));
+                     Factor(rate, p.Fraction, p.Interest),
+                 rate > -1 ? FaultReason::TooLarge : FaultReason::NoSolution);
 }
 
 Real SolveRateOdd(const OddPeriodProblem& p) {
@@ -35,8 +36,9 @@ Real SolveRateOdd(const OddPeriodProblem& p) {
   }
   double high = FirstBound;
   while (OddPeriodPV(high, p) > p.PresentValue) {
-    high = Checked(2 * high);
-    Checked(Growth<double>(high, p.WholePeriods));  // a bound that is never found ends here
+    high = Checked(2 * high, FaultReason::NoSolution);
+    Checked(Growth<double>(high, p.WholePeriods),
+            FaultReason::NoSolution);  // a bound that is never found ends here
   }
   return Halve([&](double rate) { return OddPeriodPV(rate, p) - p.PresentValue; }, high);
 }

@@ -59,10 +59,9 @@ double PowerOfTen(double, double x) {
 
 double Factorial(double, double x) {
   if (x < 0) throw ArithmeticFault(FaultReason::NegativeFactorial, "factorial of a negative number");
-  const int count = ToInt16(std::trunc(x));
   // Not in doubles: 170 roundings would show in the last digit.
   Real product = 1;
-  for (int factor = 2; factor <= count && std::isfinite(product); ++factor) product *= factor;
+  for (int factor = 2; factor <= std::trunc(x) && std::isfinite(product); ++factor) product *= factor;
   return Checked(product);
 }
 
@@ -79,7 +78,9 @@ double ShiftLeft(double value, double places) {
 }
 
 double ShiftRight(double value, double places) {
-  return Divide(value, Checked(std::exp2(places)));
+  const double divisor = Checked(std::exp2(places));
+  if (divisor == 0) throw ArithmeticFault(FaultReason::TooLarge, "a shift too far to the left");
+  return Divide(value, divisor);
 }
 
 }  // namespace qves

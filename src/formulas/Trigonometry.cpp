@@ -42,7 +42,8 @@ const TrigRow* Find(std::string_view op) {
 
 /// Outside its domain a function gives no number or an infinity, which is a fault.
 double Compute(const TrigRow& row, double x, const TrigModes& modes) {
-  if (modes.Hyperbolic) return Checked((modes.Inverse ? row.InverseHyperbolic : row.Hyperbolic)(x));
+  if (modes.Hyperbolic && modes.Inverse) return Checked(row.InverseHyperbolic(x), FaultReason::NotDefined);
+  if (modes.Hyperbolic) return Checked(row.Hyperbolic(x));
   if (modes.Inverse) return FromRadians(Checked(row.Inverse(x)), modes.Unit);
   return row.Plain(ToRadians(x, modes.Unit));
 }

@@ -26,6 +26,8 @@ enum MessageId : int {
   ErrorMessage = 1202,
   MinusMessage = 1204,
   OkMessage = 1205,
+  PlusMessage = 1206,
+  DividedByMessage = 1207,
   TimesMessage = 1208,
   OkHelpMessage = 1264,
   DegreesSetMessage = 1446,
@@ -65,6 +67,24 @@ enum MessageId : int {
   ShiftWordMessage = 1910,
   FunctionKeyMessage = 1911,
   KeypadMessage = 1912,
+  FirstReasonMessage = 1760,  ///< + the FaultReason
+  ReasonMessage = 1774,
+  NotationOnMessage = 1775,
+  PrefixWaitsMessage = 1776,
+  MemoryHoldsMessage = 1777,
+  OpenParenthesisMessage = 1778,
+  PointsMessage = 1780,
+  OnePointMessage = 1781,
+  ChosenPointMessage = 1782,
+  RegistersEmptyMessage = 1785,
+  FlowMessage = 1787,
+  EqualFlowsMessage = 1788,
+  ImportedMessage = 1790,
+  ImportedOneMessage = 1791,
+  ImportStoppedMessage = 1792,
+  ImportFullMessage = 1793,
+  ImportFailedMessage = 1794,
+  EmptyTextMessage = 1795,
   CharacterNameMessages = 4000,  ///< + the ASCII code
 };
 

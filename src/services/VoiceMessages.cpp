@@ -21,10 +21,10 @@ constexpr WordRow SpokenWords[] = {
 constexpr WordRow HeardWords[] = {
     {&VoiceWords::HeardPoint, PointMessage},
     {&VoiceWords::LeftParen, 4040},
-    {&VoiceWords::Plus, 1206},
+    {&VoiceWords::Plus, PlusMessage},
     {&VoiceWords::Minus, MinusMessage},
     {&VoiceWords::Times, TimesMessage},
-    {&VoiceWords::DividedBy, 1207},
+    {&VoiceWords::DividedBy, DividedByMessage},
     {&VoiceWords::Equals, 1720},
     {&VoiceWords::Of, 1721},
     {&VoiceWords::About, 1722},

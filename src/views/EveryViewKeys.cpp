@@ -15,12 +15,14 @@ struct View::EveryViewKey {
 
 const View::EveryViewKey View::EveryViewKeys[] = {
     {KeyF1, ShiftBit, 1860, &View::StartKeyHelp},
+    {KeyF2, NoShift, 1852, &View::SayWhere, true},
     {KeyF3, NoShift, 1850, &View::Undo},
     {KeyF3, ShiftBit, 1851, &View::Redo},
     {KeyF4, NoShift, 1854, &View::TakeFromHistory},
     {KeyPageUp, NoShift, 1855, &View::HearEarlier, false, true},
     {KeyPageDown, NoShift, 1856, &View::HearLater, false, true},
     {KeyF5, NoShift, 1859, &View::SpellDisplay},
+    {KeyF6, NoShift, 1853, &View::SayHeld},
     {KeyF8, NoShift, 1861, &View::SpeedBy<10>},
     {KeyF8, ShiftBit, 1862, &View::SpeedBy<-10>},
     {KeyF8, ControlBit, 1863, &View::VolumeBy<5>},
@@ -37,9 +39,7 @@ const View::EveryViewKey* View::FindEveryViewKey(const KeyEvent& event) const {
     if (key.Code != event.Code || key.Shift != event.Shift) continue;
     if (!key.InDialogs && !Frame.IsActive(*this)) continue;
     if (key.LeftToDataLists && dynamic_cast<const ListView*>(FocusedControl())) continue;
-    (this->*key.Act)();
-    return true;
-    if (key.InDialogs || Frame.IsActive(*this)) return &key;
+    return &key;
   }
   return nullptr;
 }

@@ -39,9 +39,9 @@ class StateView : public View {
     Snapshot& noted = Steps.Now();
     const Choices chosen = TakeChoices();
     if (chosen.Options == noted.Chosen.Options && Now == noted.Calculation)
-      noted.Chosen.Points = chosen.Points;
-    else
-      Steps.Add({Now, chosen}, name);
+      return void(noted.Chosen.Points = chosen.Points);
+    Steps.Add({Now, chosen}, name);
+    ShowOpenLine();
   }
   const std::string* UndoStep() override { return PutBack(Steps.Undo()); }
   const std::string* RedoStep() override { return PutBack(Steps.Redo()); }

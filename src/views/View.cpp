@@ -53,6 +53,7 @@ void View::Form_Load() {
   Frame.LoadHostForm(*this);
   if (Frame.TakeWelcome()) Common.Speech.SpeakText(Message(WelcomeMessage));
   Engine->ClearAll();
+  AtStart = TakeChoices();
   // Silently: the view's name is being spoken.
   PlaceFocus(*Display);
   Common.Settings.CalcView = static_cast<std::int16_t>(Frame.Identity().CalcView);

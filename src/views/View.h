@@ -13,6 +13,7 @@
 #include "services/Services.h"
 #include "views/ClickHandlers.h"
 #include "views/MenuIds.h"
+#include "views/Telling.h"
 #include "views/ViewFrame.h"
 
 namespace qves {
@@ -63,7 +64,23 @@ class View : public Form, protected EngineHost {
   virtual const std::string* UndoStep() { return nullptr; }
   virtual const std::string* RedoStep() { return nullptr; }
   /// Shows all of a calculation that has been put back.
-  virtual void ShowCalculation() { Engine->ShowAll(); }
+  virtual void ShowCalculation() {
+    Engine->ShowAll();
+    ShowOpenLine();
+  }
+
+  // WhereAmI.cpp
+  /// Shows which calculations are open; after whatever may have changed them.
+  void ShowOpenLine();
+  /// Tells the modes that are not as they start.
+  virtual void AddModes(Telling& telling) const;
+  /// What is chosen in the lists of options: everything, or what is not as it starts.
+  enum class ChoicesTold { All, Changed };
+  void AddChoices(Telling& telling, ChoicesTold which) const;
+  void AddChecked(Telling& telling) const;
+  /// Everything that the view holds.
+  virtual Telling ReadBack() const;
+
   const std::string& ViewName() const { return Message(Frame.Identity().NameMessage); }
   const std::string& Message(int id) const { return Common.Messages.GetMessage(id); }
 
@@ -150,12 +167,19 @@ class View : public Form, protected EngineHost {
   // KeyHelp.cpp
   void StartKeyHelp();
   std::string DescriptionOf(const KeyEvent& event) const;
+  // WhereAmI.cpp
+  void SayWhere();
+  void SayHeld();
+  Telling WhereAmI() const;
+  void AddOpenCalculation(Telling& telling, ValueKind kind) const;
+  std::string WordsOfOperator(std::string_view caption) const;
 
   const ViewTables& Tables;
   std::unique_ptr<EntryEngine> Engine;
   TextBox* Display = nullptr;
   TextBox* MemoryBox = nullptr;  ///< null in a view without a memory
   bool KeyHelpIsOn = false;
+  Choices AtStart;
   std::vector<CheckBox*> Boxes;
   std::vector<ListBox*> OptionLists;
   std::vector<ListView*> DataLists;

@@ -61,42 +61,58 @@ class Voicing {
     if (At < Text.size() && IsGlued(Text[At])) Out.Text += ' ';
   }
 
+  /// Several numbers of a base, or dates, may stand in a value with words between them.
   bool TakeValue() {
-    if (At != Value.Start || Value.Length == 0) return false;
-    const std::string_view value = Text.substr(At, Value.Length);
+    if (!IsInValue()) return false;
     switch (Value.Kind) {
       case ValueKind::Number:
       case ValueKind::Characters:
       case ValueKind::Prose:
         return false;
       case ValueKind::BaseDigits:
-        return TakeBaseDigits(value);
+        return TakeBaseDigits();
       case ValueKind::DateNumber:
         return TakeDateNumber();
       case ValueKind::DateText:
-        Say(InFull(Rules.DigitsApart ? Joined(value) : std::string(value)), value.size());
-        return true;
+        return TakeDateText();
     }
     return false;
   }
 
-  bool TakeBaseDigits(std::string_view value) {
+  bool TakeBaseDigits() {
+    if (At > 0 && IsWordCharacter(Text[At - 1])) return false;
+    const std::string_view rest = TextOfNumber().substr(At);
     std::string digits;
     std::size_t length = 0;
-    for (; length < value.size(); ++length) {
-      if (BaseDigits.find(value[length]) != std::string_view::npos)
-        digits += value[length];
-      else if (!Rules.DigitsApart || value[length] != ' ')
-        break;  // an open parenthesis may stand behind the number
-    }
-    if (length > 0) Say(BaseDigitsInWords(digits), length);
-    return length > 0;
+    for (; length < rest.size() && BelongsToWord(rest, length); ++length)
+      if (rest[length] != ' ') digits += rest[length];
+    const bool isNumber = length > 0 && digits.find_first_not_of(BaseDigits) == std::string::npos;
+    if (!isNumber) return false;
+    Say(BaseDigitsInWords(digits), length);
+    // A voice would take it for the article of the word that follows.
+    if (digits.back() == 'A' && At < Text.size() && Text[At] == ' ') Out.Text += ',';
+    return true;
+  }
+
+  /// The plus of an exponent is no digit, so that "1E+20" is no number of a base.
+  bool BelongsToWord(std::string_view text, std::size_t at) const {
+    if (text[at] != ' ') return IsWordCharacter(text[at]) || text[at] == '+';
+    const bool isBetweenDigits =
+        at > 0 && IsDigit(text[at - 1]) && at + 1 < text.size() && IsDigit(text[at + 1]);
+    return Rules.DigitsApart && isBetweenDigits;
   }
 
   bool TakeDateNumber() {
-    const auto date = FindNumber(Text, At, Rules);
+    const auto date = FindNumber(TextOfNumber(), At, Rules);
     if (date) Say(DateNumberInWords(*date, Rules), date->Length);
     return date.has_value();
+  }
+
+  bool TakeDateText() {
+    if (At != Value.Start) return false;
+    const std::string_view value = Text.substr(At, Value.Length);
+    Say(InFull(Rules.DigitsApart ? Joined(value) : std::string(value)), value.size());
+    return true;
   }
 
   /// A date text whose digits were spoken apart: its last four are the year.
@@ -232,7 +248,7 @@ MarkedText MakeVoiced(std::string_view spoken, const VoicingRules& rules, ValueS
   if (isLeftAlone || (value.Length == 0 && IsPlain(spoken)))
     return {std::string(spoken), {marks.begin(), marks.end()}};
   VoicingRules used = rules;
-  if (value.Kind == ValueKind::Prose) used.Decimals = AllDecimals;
+  if (value.Kind != ValueKind::Number) used.Decimals = AllDecimals;
   return Voicing(spoken, used, value, marks).Run();
 }
 

@@ -11,11 +11,12 @@
 
 namespace qves {
 
-/// What a value in a spoken text is. Who speaks it says so: nobody guesses it from the letters.
+/// What a value in a spoken text is. Who speaks it says so: nobody guesses it from the letters. Where it is no
+/// plain number, the numbers of the whole text are never rounded.
 enum class ValueKind {
   Number,
-  BaseDigits,  ///< digits and letters of a number base other than decimal
-  DateNumber,  ///< month point day and year
+  BaseDigits,  ///< numbers of a number base other than decimal, and words between them
+  DateNumber,  ///< month point day and year; several of them, and words between them
   DateText,    ///< weekday, month, day and year
   Characters,  ///< no value: the text is spelled, and every character of it heard by itself
   Prose,       ///< no value: the numbers of a help or a document are never rounded

@@ -121,6 +121,10 @@ TEST(Voicing, ValuesThatAreNoPlainNumbers) {
       {"", "101(", BaseDigits, "1 0 1 left paren"},
       {"value is  ", "((", Number, "value is  left paren left paren"},
       {"", "0", BaseDigits, "0"},
+      {"", "1A plus. Value is BAD. A to the ADDER, 1E+20, 12", BaseDigits,
+       "1 A, plus. Value is B A, D. A, to the ADDER, 1 times ten to the 20, 1 2"},
+      {"", "begin 4.072004. end 12.312010.", DateNumber,
+       "begin 4 point 0 7, 2 0 0 4. end 12 point 3 1, 2 0 1 0."},
       {"begin date ", "4.072004", DateNumber, "begin date 4 point 0 7, 2 0 0 4"},
       {"= ", "12point312010", DateNumber, "equals 12 point 3 1, 2 0 1 0"},
       {"= ", "Monday, Dec 27 2004", DateText, "equals Monday, December 27 2004"},
@@ -129,6 +133,8 @@ TEST(Voicing, ValuesThatAreNoPlainNumbers) {
     EXPECT_EQ(VoicedValue(row.LeadIn, row.Value, row.Kind), row.Heard) << row.Value;
   EXPECT_EQ(Voiced("DEAD Dec 4.072004"), "DEAD Dec 4 point 0 7 2, 0 0 4") << "nobody guesses";
   EXPECT_EQ(VoicedValue("= ", "1 1 0 1 1", BaseDigits, true), "equals 1, 1 0 1 1");
+  EXPECT_EQ(VoicedValue("", "1 0 and, F 1 2 A plus. Memory 1 1.", BaseDigits, true),
+            "1 0 and, F 1 2 A, plus. Memory 1 1.");
   EXPECT_EQ(VoicedValue("= ", "Monday, Dec 2 7 2 0 0 4", DateText, true), "equals Monday, December 27 2004");
 }
 

@@ -21,6 +21,13 @@ class BusinessHost {
   virtual const DateNames& NamesOfDates() const = 0;
 };
 
+/// What a register holds, as a recall gives it, with all its digits.
+struct RegisterContent {
+  int NameMessage;
+  std::string Number;
+  ValueKind Kind;
+};
+
 class BusinessEngine : public EntryEngine {
  public:
   BusinessEngine(BusinessState& state, EngineHost& host, BusinessHost& modes, Announcer& announcer);
@@ -35,6 +42,8 @@ class BusinessEngine : public EntryEngine {
   void RegisterKey(const PressedKey& key);
   /// Shows the other one of two results.
   void ExchangeKey(const PressedKey& key);
+  /// The registers that are not as at the start: numbers that are not 0 and dates other than today.
+  std::vector<RegisterContent> FilledRegisters() const;
 
   /// Every register to 0, the dates to today.
   void ClearFinancial();

@@ -9,7 +9,7 @@
 namespace qves {
 
 void AppendFlow(FinancialRegisters& registers, double flow) {
-  ToInt16(registers.FlowCount() + 1.0);
+  ToInt16(registers.FlowCount() + 1.0, FaultReason::ListFull);
   const std::size_t slot = registers.CashFlows.size() - 1;
   registers.CashFlows.Shorten(slot);
   registers.CashFlows.Append(std::array{flow, 0.0});
@@ -25,9 +25,10 @@ std::optional<std::size_t> FindFlow(const FinancialRegisters& registers) {
 void RepeatLastFlow(FinancialRegisters& registers, double count) {
   const std::int16_t before = registers.FlowCount();
   if (before == 0) throw ArithmeticFault(FaultReason::NoSuchFlow, "no flow to repeat");
-  const std::int16_t after = ToInt16(before + count - 1);
+  const std::int16_t after =
+      ToInt16(before + count - 1, count > 0 ? FaultReason::ListFull : FaultReason::OutOfRange);
   const std::int16_t group = ToInt16(count);
-  if (after < 0) throw ArithmeticFault(FaultReason::NoSuchFlow, "fewer flows than none");
+  if (after < 0) throw ArithmeticFault(FaultReason::OutOfRange, "fewer flows than none");
   const double last = registers.CashFlows[static_cast<std::size_t>(before - 1)];
   registers.CashFlows.Shorten(static_cast<std::size_t>(std::min(before, after)));
   std::vector<double> added(static_cast<std::size_t>(std::max(after - before, 0)), last);

@@ -128,6 +128,19 @@ void BusinessEngine::Recall(const RegisterRow& row) {
   Says.Say(leadIn + DisplayText(), {leadIn.size(), DisplayText().size(), DisplayKind()});
 }
 
+std::vector<RegisterContent> BusinessEngine::FilledRegisters() const {
+  const DayNumber today = ToDayNumber(Modes.Today());
+  std::vector<RegisterContent> filled;
+  for (const RegisterRow& row : RegisterTable) {
+    const int name = row.Button.NameMessage;
+    if (const double number = row.Number ? Now.Registers.*row.Number * row.Scale : 0; number != 0)
+      filled.push_back({name, NumberToText(number), ValueKind::Number});
+    if (const DayNumber day = row.Day ? Now.Registers.*row.Day : today; day != today)
+      filled.push_back({name, FormatDateNumber(day), ValueKind::DateNumber});
+  }
+  return filled;
+}
+
 void BusinessEngine::ExchangeKey(const PressedKey&) {
   struct PairRow {
     std::string_view Op;

@@ -81,7 +81,7 @@ double BusinessEngine::SolveI() {
   const Real rate = OddFraction() == 0 ? rtcRate(WholePeriods(), r.PMT, r.PV, r.FV, Modes.PaymentMode())
                                        : SolveRateOdd({WholePeriods(), OddFraction(), r.PMT, r.PV, r.FV,
                                                        Modes.PaymentMode(), Modes.OddPeriod()});
-  const double percent = Checked(rate * 100);
+  const double percent = Checked(rate * 100, FaultReason::NoSolution);
   Now.Registers.I = Checked(rate);
   return percent;
 }

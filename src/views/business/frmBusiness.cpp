@@ -42,6 +42,7 @@ frmBusiness::frmBusiness(Services& services, ViewFrame& frame)
   EngineHost& host = *this;
   BusinessHost& modes = *this;
   auto engine = std::make_unique<BusinessEngine>(Now, host, modes, Says);
+  Business = engine.get();
   engine->ClearFinancial();
   UseEngine(std::move(engine));
 }

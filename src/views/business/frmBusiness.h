@@ -11,6 +11,11 @@ class frmBusiness : public StateView<BusinessState>, private BusinessHost {
   frmBusiness(Services& services, ViewFrame& frame);
 
  private:
+  // View; BusinessTelling.cpp
+  void AddModes(Telling& telling) const override;
+  Telling ReadBack() const override;
+  void AddFlows(Telling& telling) const;
+
   // BusinessHost
   int PaymentMode() const override { return PMTMode->ListIndex; }
   int OddPeriod() const override { return OddPeriodMode->ListIndex; }
@@ -22,6 +27,7 @@ class frmBusiness : public StateView<BusinessState>, private BusinessHost {
   ListBox* PMTMode;
   ListBox* OddPeriodMode;
   DateNames Names;
+  BusinessEngine* Business;
 };
 
 }  // namespace qves

@@ -1,5 +1,6 @@
 // Parentheses: "(" keeps the outer operand and its operator aside, ")" completes the group and gives its
 // result to them as the second operand.
+#include <algorithm>
 #include <limits>
 
 #include "formulas/Numbers.h"
@@ -12,7 +13,7 @@ using enum ActionKind;
 
 namespace {
 constexpr auto MostOpenGroups = std::numeric_limits<std::int16_t>::max();
-constexpr std::string_view OpenParen = "(";
+constexpr std::size_t MostGroupsTold = 100;
 }  // namespace
 
 void ScientificEngine::LeftParen(const PressedKey& key) {
@@ -35,12 +36,12 @@ void ScientificEngine::LeftParen(const PressedKey& key) {
 
 /// A group within a group that has no operator yet starts as "0 +", so that its result is added to nothing.
 OuterOperand ScientificEngine::BeginInnerGroup() {
-  ExtendInstead(OpenParen);
+  ExtendInstead(OpenGroupCaption);
   Now.EntryText = "0";
   Now.CurrentValue = 0;
   Now.CurrentOp = "+";
   Now.LastAction = Biop;
-  return {Now.EntryText, Now.CurrentValue, Now.CurrentOp};
+  return {Now.EntryText, Now.CurrentValue, Now.CurrentOp, true};
 }
 
 OuterOperand ScientificEngine::BeginGroup() {
@@ -49,9 +50,9 @@ OuterOperand ScientificEngine::BeginGroup() {
     Now.EntryText = WriteNumber(Now.Accumulator);
     Now.CurrentValue = Now.Accumulator;
   }
-  ShowInstead(OpenParen);
+  ShowInstead(OpenGroupCaption);
   Now.LastAction = LParen;
-  return {Now.EntryText, Now.CurrentValue, Now.PendingOp};
+  return {Now.EntryText, Now.CurrentValue, Now.PendingOp, Now.PendingIsImplied};
 }
 
 /// Ignored when no operator is pending at all, as in "( 5 )" at the very start: the group stays open. That is
@@ -71,6 +72,7 @@ void ScientificEngine::RestoreOuterOperand() {
   Now.PrevEntryText = outer.Text;
   Now.Accumulator = outer.Value;
   Now.PendingOp = outer.Op;
+  Now.PendingIsImplied = outer.Implied;
   Now.ParenJustOpened = false;
   Now.SecondOperandBegun = true;
   Now.DecimalEntered = false;
@@ -80,6 +82,21 @@ void ScientificEngine::RestoreOuterOperand() {
 /// The last key was "(".
 bool ScientificEngine::GroupIsEmpty() const {
   return Now.LastAction == LParen || (Now.LastAction == Biop && Now.ParenJustOpened);
+}
+
+/// In a group just opened the pending operator is the outer one's. Of very many groups the innermost are
+/// told.
+std::vector<OpenOperand> ScientificEngine::OpenCalculation() const {
+  std::vector<OpenOperand> open;
+  const auto depth = static_cast<std::size_t>(Now.ParenDepth);
+  for (std::size_t level = depth - std::min(depth, MostGroupsTold); level < depth; ++level) {
+    const OuterOperand& outer = Now.ParenStack[level];
+    if (!outer.Op.empty() && !outer.Implied) open.push_back({Written(outer.Value), outer.Op});
+    open.push_back({"", std::string(OpenGroupCaption)});
+  }
+  if (Now.ParenJustOpened || Now.PendingIsImplied) return open;
+  for (OpenOperand& pending : EntryEngine::OpenCalculation()) open.push_back(std::move(pending));
+  return open;
 }
 
 }  // namespace qves

@@ -64,9 +64,10 @@ double ScientificEngine::ComputeTrig(std::string_view op, double x) {
   const double result = TrigFunction(op, x, modes);
   Modes.ClearInverse();
   Modes.ClearHyperbolic();
-  // Close to a pole, as at the tangent of 90 degrees.
+  // Close to a pole, as at the tangent of 90 degrees; a hyperbolic function has none.
   if (!(std::fabs(result) <= LargestTrigResult))
-    throw ArithmeticFault(FaultReason::TooLarge, "the result is too large");
+    throw ArithmeticFault(modes.Hyperbolic ? FaultReason::TooLarge : FaultReason::NotDefined,
+                          "the result is too large");
   return result;
 }
 
@@ -99,7 +100,7 @@ std::optional<double> ScientificEngine::ReadNumber(std::string_view text) const 
 void ScientificEngine::OnClearAll() {
   Now.Form = EntryForm::Plain;
   Now.ParenDepth = 0;
-  Now.ParenJustOpened = false;
+  Now.ParenJustOpened = Now.PendingIsImplied = false;
 }
 
 void ScientificEngine::ClearEntry(const PressedKey& key) {
@@ -115,7 +116,7 @@ bool ScientificEngine::OperatorCompletesPending() const {
 void ScientificEngine::BinaryOperator(const PressedKey& key) {
   EndExponent();
   EntryEngine::BinaryOperator(key);
-  Now.ParenJustOpened = false;
+  Now.ParenJustOpened = Now.PendingIsImplied = false;
 }
 
 void ScientificEngine::UnaryOperator(const PressedKey& key) {

@@ -47,6 +47,7 @@ class ScientificEngine : public EntryEngine {
 
   void TakeText(std::string_view text, int base) override;
   bool ShowsValue() const override { return EntryEngine::ShowsValue() && ShowsEntry(); }
+  std::vector<OpenOperand> OpenCalculation() const override;  // ParenthesisKeys.cpp
   int Base() const override { return Now.NumBase; }
   ValueKind DisplayKind() const override {
     return Now.NumBase == NumberBase::Decimal ? ValueKind::Number : ValueKind::BaseDigits;
@@ -65,7 +66,6 @@ class ScientificEngine : public EntryEngine {
   // ScientificLines.cpp
   std::optional<std::string> BeginLine(double first, double second, std::string_view op) const override;
   std::span<const LineShape> LineShapes() const override;
-  std::string OperandText(double value) const override;
 
  private:
   struct EntryOperator;

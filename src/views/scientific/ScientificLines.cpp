@@ -26,14 +26,4 @@ std::span<const LineShape> ScientificEngine::LineShapes() const {
   return scientific::LineShapes;
 }
 
-/// An operand that its base cannot hold, as one from before the base was chosen, is shown as a decimal
-/// number.
-std::string ScientificEngine::OperandText(double value) const {
-  try {
-    return WriteNumber(value);
-  } catch (const ArithmeticFault&) {
-    return NumberToText(value);
-  }
-}
-
 }  // namespace qves

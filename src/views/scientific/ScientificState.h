@@ -23,6 +23,7 @@ struct OuterOperand {
   std::string Text;
   double Value = 0;
   std::string Op;
+  bool Implied = false;  ///< nobody typed it: the "0 +" of a group within a group
 
   bool operator==(const OuterOperand&) const = default;
 };
@@ -38,6 +39,7 @@ struct ScientificState : EntryState {
   std::int16_t ParenDepth = 0;
   SharedList<OuterOperand> ParenStack;  ///< keeps its old elements when a group is closed
   bool ParenJustOpened = false;         ///< until the first binary operator of the group
+  bool PendingIsImplied = false;        ///< the pending operator and its operand, as in OuterOperand
 
   bool operator==(const ScientificState&) const = default;
 };

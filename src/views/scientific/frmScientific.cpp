@@ -1,5 +1,6 @@
 #include "views/scientific/frmScientific.h"
 
+#include "services/MessageIds.h"
 #include "views/scientific/BaseButtons.h"
 #include "views/scientific/ScientificControls.h"
 #include "views/scientific/ScientificKeyMap.h"
@@ -44,6 +45,12 @@ void frmScientific::OnNewChoice(ListControl& list) {
   if (&list != NumBases) return;
   SetBaseButtons(list.ListIndex);
   Scientific->ChangeBase(list.ListIndex);
+}
+
+void frmScientific::AddModes(Telling& telling) const {
+  AddChoices(telling, ChoicesTold::Changed);
+  if (Now.Form == EntryForm::Notation) telling.Add(Message(NotationOnMessage));
+  AddChecked(telling);
 }
 
 void frmScientific::SetBaseButtons(int base) {

@@ -16,6 +16,8 @@ class frmScientific : public StateView<ScientificState>, private ScientificHost 
     SetBaseButtons(Now.NumBase);
   }
 
+  void AddModes(Telling& telling) const override;
+
   // ScientificHost
   bool InverseChecked() const override { return Inv->Checked; }
   bool HyperbolicChecked() const override { return Hyp->Checked; }

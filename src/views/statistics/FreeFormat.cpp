@@ -74,8 +74,9 @@ std::optional<double> ValueOf(std::string_view field) {
   }
 }
 
-std::string NoNumber(std::string_view field) {
-  return "\"" + std::string(field.substr(0, LongestQuoted)) + "\" is no number that can be kept";
+FreeFormatFault NoNumber(int line, std::string_view field) {
+  const std::string word(field.substr(0, LongestQuoted));
+  return {line, "\"" + word + "\" is no number that can be kept", word};
 }
 
 }  // namespace
@@ -85,8 +86,8 @@ std::optional<FreeFormatFault> ReadFreeFormat(std::string_view text,
   FreeFormatReader reader(text);
   while (const auto field = reader.NextField()) {
     const auto value = reader.Broken ? std::nullopt : ValueOf(*field);
-    if (!value) return FreeFormatFault{reader.Line, NoNumber(*field)};
-    if (!take(*value)) return FreeFormatFault{reader.Line, "there is no room for more numbers"};
+    if (!value) return NoNumber(reader.Line, *field);
+    if (!take(*value)) return FreeFormatFault{reader.Line, "there is no room for more numbers", "", true};
   }
   return std::nullopt;
 }

@@ -12,6 +12,8 @@ namespace qves {
 struct FreeFormatFault {
   int Line = 1;  ///< counted from 1
   std::string Reason;
+  std::string Word = {};  ///< the field that is no number, or its beginning
+  bool IsFull = false;    ///< there was no room
 };
 
 /// Hands each number of the text to `take`, in order, until the text ends or `take` gives false, which means

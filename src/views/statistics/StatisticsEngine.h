@@ -11,8 +11,6 @@ namespace qves {
 /// The most points that a list of data holds.
 inline constexpr std::size_t MostPoints = 32767;
 
-enum class DataList { Main, Second };
-
 /// The messages that tell what was done with a list.
 struct ListWords {
   int Added;

@@ -3,6 +3,7 @@
 #include "formulas/Numbers.h"
 #include "model/ArithmeticFault.h"
 #include "services/MessageIds.h"
+#include "text/Text.h"
 #include "views/statistics/FreeFormat.h"
 #include "views/statistics/StatisticsControls.h"
 #include "views/statistics/StatisticsKeyMap.h"
@@ -134,6 +135,7 @@ void frmStatistics::ImportFile(const std::string& path) {
   };
   std::string error;
   const auto text = Common.Outside.Files.Read(path, error);
+  Now.Imported = {path.substr(path.rfind('/') + 1), TargetList(), text.has_value()};
   if (!text) return log(error + "; nothing is imported");
   ListView& list = ListOf(TargetList());
   RemoveItems(list, 0, list.ItemCount());
@@ -146,9 +148,13 @@ void frmStatistics::ImportFile(const std::string& path) {
   };
   const auto fault = ReadFreeFormat(*text, take);
   AppendItems(list, items);
-  if (fault)
-    log("line " + std::to_string(fault->Line) + ": " + fault->Reason + "; the import ends there, with " +
-        std::to_string(items.size()) + " in the list");
+  Now.Imported.Count = items.size();
+  if (!fault) return;
+  Now.Imported.StoppedAt = fault->Line;
+  Now.Imported.Word = MakeReadable(fault->Word);
+  Now.Imported.IsFull = fault->IsFull;
+  log("line " + std::to_string(fault->Line) + ": " + fault->Reason + "; the import ends there, with " +
+      std::to_string(items.size()) + " in the list");
 }
 
 }  // namespace qves

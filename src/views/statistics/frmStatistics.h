@@ -20,6 +20,12 @@ class frmStatistics : public StateView<StatisticsState>, private StatisticsHost 
   void OnListEnd(ListControl& list, int step) override;
   void OnMenu(int id) override;
 
+  // StatisticsTelling.cpp
+  void AddModes(Telling& telling) const override;
+  Telling ReadBack() const override;
+  void AddCount(Telling& telling, DataList list) const;
+  void AddImport(Telling& telling) const;
+
   // StatisticsHost
   DataList TargetList() const override { return UseList2->Checked ? DataList::Second : DataList::Main; }
   bool IgnoresZero() const override { return IgnoreZero->Checked; }
@@ -27,7 +33,10 @@ class frmStatistics : public StateView<StatisticsState>, private StatisticsHost 
   int SelectedItem(DataList list) const override { return ListOf(list).ListIndex; }
   void AddItem(DataList list, const std::string& text) override { AppendItems(ListOf(list), {&text, 1}); }
   void RemoveItem(DataList list, int item) override { RemoveItems(ListOf(list), item, 1); }
-  void ClearItems(DataList list) override { RemoveItems(ListOf(list), 0, ListOf(list).ItemCount()); }
+  void ClearItems(DataList list) override {
+    RemoveItems(ListOf(list), 0, ListOf(list).ItemCount());
+    if (Now.Imported.Target == list) Now.Imported = {};
+  }
   void Report(double degreesOfFreedom, double alpha) override;
 
   ListView& ListOf(DataList list) const { return *Lists[static_cast<std::size_t>(list)]; }
