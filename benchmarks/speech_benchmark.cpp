@@ -173,14 +173,17 @@ struct Way {
   void Forget() { *this = {Name, Callback, Speak, Stop}; }
 };
 
+// In all orders, as each one finds the caches as the one before it has left them.
 void MeasureInTurn(std::vector<Way>& ways) {
-  const auto speakAll = [&](std::size_t first) {
+  std::vector<std::size_t> order = {0, 1, 2};
+  for (int round = -1; round < Rounds; ++round) {
     for (const char* text : Texts)
-      for (std::size_t i = 0; i < ways.size(); ++i) ways[(first + i) % ways.size()].Take(text);
-  };
-  speakAll(0);
-  for (Way& way : ways) way.Forget();
-  for (int round = 0; round < Rounds; ++round) speakAll(std::size_t(round));
+      for (const std::size_t way : order) ways[way].Take(text);
+    if (round < 0)
+      for (Way& way : ways) way.Forget();
+    else
+      std::next_permutation(order.begin(), order.end());
+  }
 }
 
 void Print(const std::vector<Way>& ways) {
