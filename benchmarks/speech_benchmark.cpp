@@ -1,7 +1,8 @@
-// How quickly the espeak-ng back end speaks and stops, beside the bare library in the same run.
+// How quickly the espeak-ng back end speaks and stops, beside the bare library in the same process.
 //
-// Medians of many texts, in microseconds. Needs pulseaudio: it plays into a private server without a sound
-// device.
+// The bare library and the back end speak in turn, text by text, on the same machine in the same state: the
+// same voice and speed, both idle before for as long, each as often the first. Medians in microseconds. Needs
+// pulseaudio: it plays into a private server without a sound device.
 #include <dlfcn.h>
 #include <espeak-ng/espeak_ng.h>
 #include <espeak-ng/speak_lib.h>
@@ -12,10 +13,12 @@
 #include <algorithm>
 #include <atomic>
 #include <chrono>
+#include <condition_variable>
 #include <cstdio>
 #include <cstring>
 #include <fstream>
 #include <functional>
+#include <mutex>
 #include <string>
 #include <thread>
 #include <vector>
@@ -23,21 +26,22 @@
 #include "EnglishVoice.h"
 #include "speech/Pauses.h"
 #include "speech/SpeechBackEnds.h"
+#include "speech/espeak/EspeakPlayback.h"
 #include "voicing/VoicedText.h"
 
 namespace {
 
 using Clock = std::chrono::steady_clock;
 
-constexpr int Rounds = 200;
-constexpr auto Rest = std::chrono::milliseconds(20);  // after each text: both find the caches equally cold
-constexpr int LibrarySpeed = 175;  // the bare library's own: both make the same samples
+constexpr int Rounds = 60;
+constexpr auto Rest = std::chrono::milliseconds(20);  // while a text is spoken, and after it
 constexpr const char* Texts[] = {"7", "5", "plus", "= 12", "memory recall"};
 
 std::atomic<Clock::rep> firstSamples = 0;  // when a sample came out; 0: not yet
 std::atomic<Clock::rep> flushed = 0;       // when the stream was silenced
 std::atomic<int> silentLead = 0;           // samples before the first audible one
 std::atomic<bool> audible = false;
+std::atomic<long> allSamples = 0;
 
 void Note(std::atomic<Clock::rep>& moment) {
   Clock::rep unset = 0;
@@ -54,31 +58,14 @@ void NoteSamples(const std::int16_t* samples, std::size_t count) {
   audible = first != end;
 }
 
-void Reset() {
-  firstSamples = 0;
-  silentLead = 0;
-  audible = false;
+double Microseconds(Clock::duration time) {
+  return std::chrono::duration<double, std::micro>(time).count();
 }
 
-// Microseconds from `start` to the moment, which may still have to come.
-double Until(Clock::time_point start, const std::atomic<Clock::rep>& moment) {
-  const auto deadline = start + std::chrono::seconds(2);
-  while (moment == 0 && Clock::now() < deadline) std::this_thread::sleep_for(std::chrono::microseconds(50));
-  const Clock::duration taken = Clock::duration(moment.load()) - start.time_since_epoch();
-  return std::chrono::duration<double, std::micro>(taken).count();
-}
-
-double Median(std::vector<double> values) {
-  std::nth_element(values.begin(), values.begin() + std::ptrdiff_t(values.size() / 2), values.end());
-  return values[values.size() / 2];
-}
-
-// The median over all rounds but the first of each text.
-double Measure(const std::function<double(const char*)>& once) {
-  std::vector<double> taken;
-  for (const char* text : Texts) once(text);
-  for (int i = 0; i < Rounds; ++i) taken.push_back(once(Texts[std::size_t(i) % std::size(Texts)]));
-  return Median(std::move(taken));
+double Quantile(std::vector<double> values, double part) {
+  const auto place = values.begin() + std::ptrdiff_t(double(values.size() - 1) * part);
+  std::nth_element(values.begin(), place, values.end());
+  return *place;
 }
 
 template <typename Function>
@@ -92,26 +79,24 @@ class NoPump : public qves::EventPump {
   void ProcessEvents(int) override {}
 };
 
-long allSamples = 0;
-
 int TakeSamples(short* samples, int count, espeak_EVENT*) {
   if (samples && count > 0) allSamples += count;
   if (samples && count > 0) NoteSamples(samples, std::size_t(count));
   return 0;
 }
 
-// The silence before the first audible sample, in microseconds.
-double Lead() {
-  return silentLead * 1e6 / espeak_ng_GetSampleRate();
+void Synthesize(const char* text) {
+  espeak_Synth(text, std::strlen(text) + 1, 0, POS_CHARACTER, 0, espeakCHARS_UTF8, nullptr, nullptr);
 }
 
-// As spoken and as voiced. The library is set up to speak within the call.
+// As spoken and as voiced.
 void PrintSecondsOfSpeech() {
   const auto seconds = [](const std::string& text) {
     allSamples = 0;
-    espeak_Synth(text.c_str(), text.size() + 1, 0, POS_CHARACTER, 0, espeakCHARS_UTF8, nullptr, nullptr);
-    return double(allSamples) / espeak_ng_GetSampleRate();
+    Synthesize(text.c_str());
+    return double(allSamples.load()) / espeak_ng_GetSampleRate();
   };
+  espeak_SetSynthCallback(TakeSamples);
   const struct {
     const char* Text;
     qves::ValueKind Kind;
@@ -126,61 +111,97 @@ void PrintSecondsOfSpeech() {
   }
 }
 
-struct FirstSample {
-  double Any;
-  double Audible;
+// The bare library on a thread that waits for texts.
+class BareThread {
+ public:
+  ~BareThread() {
+    Say(nullptr);
+    Thread.join();
+  }
+  void Say(const char* text) {
+    {
+      const std::lock_guard lock(Mutex);
+      Text = text;
+      Waiting = true;
+    }
+    Changed.notify_one();
+  }
+
+ private:
+  void Run() {
+    while (const char* text = Next()) Synthesize(text);
+  }
+  const char* Next() {
+    std::unique_lock lock(Mutex);
+    Changed.wait(lock, [this] { return Waiting; });
+    Waiting = false;
+    return Text;
+  }
+
+  std::mutex Mutex;
+  std::condition_variable Changed;
+  bool Waiting = false;
+  const char* Text = nullptr;
+  std::thread Thread{[this] { Run(); }};
 };
 
-FirstSample BareFirstSample(espeak_AUDIO_OUTPUT output) {
-  espeak_Initialize(output, 0, nullptr, 0);
-  espeak_SetSynthCallback(TakeSamples);
-  std::vector<double> audibleTimes;
-  espeak_SetVoiceByName("English (Great Britain)");
-  const double median = Measure([&](const char* text) {
-    Reset();
+// One way to speak a text and to silence it, and the times of all texts so far.
+struct Way {
+  const char* Name;
+  t_espeak_callback* Callback;
+  std::function<void(const char*)> Speak;
+  std::function<void()> Stop;
+  std::vector<double> Call = {}, StopCall = {}, Any = {}, Audible = {}, Flush = {};
+
+  void Take(const char* text) {
+    espeak_SetSynthCallback(Callback);
+    silentLead = 0;
+    audible = false;
+    firstSamples = flushed = 0;
     const auto start = Clock::now();
-    espeak_Synth(text, std::strlen(text) + 1, 0, POS_CHARACTER, 0, espeakCHARS_UTF8, nullptr, nullptr);
-    const double taken = Until(start, firstSamples);
-    espeak_Synchronize();
-    audibleTimes.push_back(taken + Lead());
+    Speak(text);
+    Call.push_back(Microseconds(Clock::now() - start));
     std::this_thread::sleep_for(Rest);
-    return taken;
-  });
-  if (output == AUDIO_OUTPUT_SYNCHRONOUS) PrintSecondsOfSpeech();
-  espeak_Terminate();
-  return {median, Median(audibleTimes)};
+    const auto stop = Clock::now();
+    Stop();
+    StopCall.push_back(Microseconds(Clock::now() - stop));
+    std::this_thread::sleep_for(Rest);
+    Any.push_back(Microseconds(Clock::duration(firstSamples.load()) - start.time_since_epoch()));
+    Audible.push_back(Any.back() + silentLead * 1e6 / espeak_ng_GetSampleRate());
+    Flush.push_back(Microseconds(Clock::duration(flushed.load()) - stop.time_since_epoch()));
+  }
+  void Forget() { *this = {Name, Callback, Speak, Stop}; }
+};
+
+// In all orders, as each one finds the caches as the one before it has left them.
+void MeasureInTurn(std::vector<Way>& ways) {
+  std::vector<std::size_t> order = {0, 1, 2};
+  for (int round = -1; round < Rounds; ++round) {
+    for (const char* text : Texts)
+      for (const std::size_t way : order) ways[way].Take(text);
+    if (round < 0)
+      for (Way& way : ways) way.Forget();
+    else
+      std::next_permutation(order.begin(), order.end());
+  }
 }
 
-struct BackEndTimes {
-  FirstSample First;
-  double SpeakCall;
-  double StopToFlush;
-  double StopCall;
-};
-
-// Each text is stopped after a while, so that the next begins with the stream silent.
-BackEndTimes MeasureBackEnd(qves::TtsSpeaker& speaker) {
-  std::vector<double> speakCalls, stops, stopCalls, audibleTimes;
-  const auto since = [](Clock::time_point start) {
-    return std::chrono::duration<double, std::micro>(Clock::now() - start).count();
-  };
-  const double first = Measure([&](const char* text) {
-    Reset();
-    const auto start = Clock::now();
-    speaker.SpeakNow(text);
-    speakCalls.push_back(since(start));
-    const double taken = Until(start, firstSamples);
-    std::this_thread::sleep_for(Rest);
-    audibleTimes.push_back(taken + Lead());
-    flushed = 0;
-    const auto stop = Clock::now();
-    speaker.Stop();
-    stopCalls.push_back(since(stop));
-    stops.push_back(Until(stop, flushed));
-    std::this_thread::sleep_for(std::chrono::milliseconds(2));
-    return taken;
-  });
-  return {{first, Median(audibleTimes)}, Median(speakCalls), Median(stops), Median(stopCalls)};
+void Print(const std::vector<Way>& ways) {
+  const Way& ours = ways[0];
+  const Way& bare = ways[1];
+  std::puts("microseconds from the call to               any sample   audible sample");
+  for (const Way& way : ways)
+    std::printf("%-40s  %11.1f  %15.1f\n", way.Name, Quantile(way.Any, 0.5), Quantile(way.Audible, 0.5));
+  std::vector<double> ratios;
+  for (std::size_t i = 0; i < ours.Any.size(); ++i) ratios.push_back(ours.Any[i] / bare.Any[i]);
+  std::printf("%-40s  %11.2f  %15.3f\n", "ratio, back end to bare on its thread",
+              Quantile(ours.Any, 0.5) / Quantile(bare.Any, 0.5),
+              Quantile(ours.Audible, 0.5) / Quantile(bare.Audible, 0.5));
+  std::printf("its median and quartiles, text by text           %.2f  (%.2f to %.2f)\n",
+              Quantile(ratios, 0.5), Quantile(ratios, 0.25), Quantile(ratios, 0.75));
+  std::printf("SpeakNow call                                   %8.1f\n", Quantile(ours.Call, 0.5));
+  std::printf("Stop call                                       %8.1f\n", Quantile(ours.StopCall, 0.5));
+  std::printf("Stop until the stream is silenced               %8.1f\n", Quantile(ours.Flush, 0.5));
 }
 
 // A sound server in a folder of its own, ended with this object.
@@ -229,26 +250,22 @@ extern "C" pa_operation* pa_stream_flush(pa_stream* stream, pa_stream_success_cb
 int main() {
   const SoundServer server;
   if (!server.Ready) return std::puts("pulseaudio is needed"), 1;
-  const FirstSample inCall = BareFirstSample(AUDIO_OUTPUT_SYNCHRONOUS);
-  const FirstSample onThread = BareFirstSample(AUDIO_OUTPUT_RETRIEVAL);
   NoPump pump;
   const auto list = qves::MakeSpeech(qves::SpeechChoice::EspeakNg, pump);
   while (list->Engines().empty()) std::this_thread::sleep_for(std::chrono::milliseconds(1));
   const auto engine = list->Open([](const auto&) { return 1; });
   if (!engine) return std::puts("espeak-ng has no voices"), 1;
-  engine->SetSpeed(LibrarySpeed);
-  const BackEndTimes ours = MeasureBackEnd(*engine->Speaker(2));
-  std::puts("microseconds from the call to               any sample   audible sample");
-  const auto print = [](const char* what, const FirstSample& times) {
-    std::printf("%-40s  %11.1f  %15.1f\n", what, times.Any, times.Audible);
-  };
-  print("bare library, within the call", inCall);
-  print("bare library, on its own thread", onThread);
-  print("back end, into the sound stream", ours.First);
-  std::printf("%-40s  %11.2f  %15.3f\n", "ratio, back end to bare on its thread",
-              ours.First.Any / onThread.Any, ours.First.Audible / onThread.Audible);
-  std::printf("SpeakNow call                                   %8.1f\n", ours.SpeakCall);
-  std::printf("Stop call                                       %8.1f\n", ours.StopCall);
-  std::printf("Stop until the stream is silenced               %8.1f\n", ours.StopToFlush);
+  qves::TtsSpeaker& speaker = *engine->Speaker(2);
+  std::this_thread::sleep_for(10 * Rest);  // until the sound server is connected
+  BareThread thread;
+  const auto nothing = [] {};
+  std::vector<Way> ways = {
+      {"back end, into the sound stream", qves::EspeakPlayback::Receive,
+       [&](const char* text) { speaker.SpeakNow(text); }, [&] { speaker.Stop(); }},
+      {"bare library, on a thread", TakeSamples, [&](const char* text) { thread.Say(text); }, nothing},
+      {"bare library, within the call", TakeSamples, Synthesize, nothing}};
+  MeasureInTurn(ways);
+  Print(ways);
+  PrintSecondsOfSpeech();
   return 0;
 }
