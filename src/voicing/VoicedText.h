@@ -11,8 +11,8 @@
 
 namespace qves {
 
-/// What a value in a spoken text is. Who speaks it says so: nobody guesses it from the letters. Where it is no
-/// plain number, the numbers of the whole text are never rounded.
+/// What a value in a spoken text is. Who speaks it says so: nobody guesses it from the letters. Where it is
+/// no plain number, the numbers of the whole text are never rounded.
 enum class ValueKind {
   Number,
   BaseDigits,  ///< numbers of a number base other than decimal, and words between them
