@@ -12,7 +12,8 @@ namespace {
 class ScientificFaults : public testing::Test {
  protected:
   ScientificFaults() {
-    Outside.Files.Content["/program/CalcMsg.txt"] += "1068\tleft paren\n1201\tCurrent value is  %%\n1206\t plus \n";
+    Outside.Files.Content["/program/CalcMsg.txt"] +=
+        "1068\tleft paren\n1201\tCurrent value is  %%\n1206\t plus \n";
     App.Main({ScientificView});
     Outside.Speech.Said.clear();
   }
