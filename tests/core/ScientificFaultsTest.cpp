@@ -3,6 +3,7 @@
 
 #include "FakePlatform.h"
 #include "app/CalculatorApp.h"
+#include "formulas/NumberBases.h"
 #include "services/ServiceSet.h"
 
 namespace qves {
@@ -11,7 +12,8 @@ namespace {
 class ScientificFaults : public testing::Test {
  protected:
   ScientificFaults() {
-    Outside.Files.Content["/program/CalcMsg.txt"] += "1068\tleft paren\n";
+    Outside.Files.Content["/program/CalcMsg.txt"] +=
+        "1068\tleft paren\n1201\tCurrent value is  %%\n1206\t plus \n";
     App.Main({ScientificView});
     Outside.Speech.Said.clear();
   }
@@ -55,6 +57,37 @@ TEST_F(ScientificFaults, MoreOpenParenthesesThanFit) {
   EXPECT_EQ(Display(), std::string(40000 - 32768, '('));
   Press(U"5=");
   EXPECT_EQ(Display(), "5");
+}
+
+TEST_F(ScientificFaults, TheLineOfWhatIsOpenFollowsEveryKey) {
+  const struct {
+    std::u32string_view Keys;
+    std::string_view Line;
+  } rows[] = {
+      {U"2", ""},        {U"*", "2 *"},       {U"(", "2 * ("},
+      {U"(", "2 * ( ("}, {U"3", "2 * ( ("},   {U"+", "2 * ( ( 3 +"},
+      {U"4)", "2 * ("},  {U"/", "2 * ( 7 /"}, {U"1)", "2 *"},
+      {U"=", ""},        {U"5+", "5 +"},      {U"0/0=", ""},
+  };
+  for (const auto& row : rows) {
+    Press(row.Keys);
+    EXPECT_EQ(App.ActiveForm()->OpenLine(), row.Line);
+  }
+  Press(U"255*");
+  Choose("lltNumBase", NumberBase::Hexadecimal);
+  EXPECT_EQ(App.ActiveForm()->OpenLine(), "FF *");
+  App.KeyDown({KeyF3, NoShift, 0});
+  App.KeyDown({KeyF3, NoShift, 0});
+  EXPECT_EQ(App.ActiveForm()->OpenLine(), "");
+  Press(U'(', 1000);
+  EXPECT_LT(App.ActiveForm()->OpenLine().size(), 1000U) << "and every key takes as long as another";
+}
+
+TEST_F(ScientificFaults, WhatIsReadBackIsShownAsItIsWritten) {
+  Press(U"1.5+");
+  App.KeyDown({KeyF6, NoShift, 0});
+  EXPECT_EQ(App.ActiveForm()->StatusLine(), "Scientific View. 1.5 plus. Current value is  1.5.");
+  EXPECT_EQ(LastSaid(), "now Scientific View. 1point5 plus. Current value is  1point5.");
 }
 
 TEST_F(ScientificFaults, EveryFaultLeavesMemoryBaseAndUnitAlone) {
