@@ -65,6 +65,7 @@ class CalculatorApp : private ViewFrame, private DialogFrame {
   bool IsActive(const Form& view) const override { return &view == ActiveForm(); }
   bool OpenHelp(int menuItem) override;
   void OpenResult() override;
+  void OpenColumns(std::vector<std::string> names, std::function<void(std::size_t)> choose) override;
   void ViewLoaded() override { ViewSwitching = false; }
   bool TakeWelcome() override { return std::exchange(WelcomeDue, false); }
 
