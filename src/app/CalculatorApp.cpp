@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "dialogs/ColumnDialog.h"
 #include "dialogs/HelpDialogs.h"
 #include "dialogs/ResultDialog.h"
 #include "services/DecimalMark.h"
@@ -149,6 +150,11 @@ bool CalculatorApp::OpenHelp(int menuItem) {
 
 void CalculatorApp::OpenResult() {
   OpenDialog(MakeResultDialog(Common, *this));
+}
+
+void CalculatorApp::OpenColumns(std::vector<std::string> names, std::function<void(std::size_t)> choose) {
+  DialogFrame& frame = *this;
+  OpenDialog(std::make_unique<ColumnDialog>(std::move(names), std::move(choose), Common, frame));
 }
 
 void CalculatorApp::OpenDialog(std::unique_ptr<Form> dialog) {

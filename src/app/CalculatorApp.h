@@ -66,6 +66,7 @@ class CalculatorApp : private ViewFrame, private DialogFrame {
   void StopReading() override { ActiveForm()->StopReading(); }
   bool OpenHelp(int menuItem) override;
   void OpenResult() override;
+  void OpenColumns(std::vector<std::string> names, std::function<void(std::size_t)> choose) override;
   void ViewLoaded() override { ViewSwitching = false; }
   bool TakeWelcome() override { return std::exchange(WelcomeDue, false); }
 

@@ -79,7 +79,7 @@ bool Form::ChooseMenu(int id) {
 bool Form::FocusCancelControl() {
   for (const auto& control : ControlList)
     if (control->Has(CancelButton)) {
-      SetFocus(*control);
+      FocusByUser(*control);
       return true;
     }
   return false;

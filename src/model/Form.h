@@ -102,7 +102,7 @@ class Form {
   virtual void Form_KeyUp(int /*keyCode*/) {}
   /// Chooses the menu item with that id; false when the form has none.
   bool ChooseMenu(int id);
-  /// Moves the focus to the cancel control; false when there is none.
+  /// Moves the focus to the cancel control, which Enter then presses; false when there is none.
   bool FocusCancelControl();
 
   /// Stops what the form reads aloud, so that it can go on there. False when it reads nothing.

@@ -62,6 +62,16 @@ enum MessageId : int {
   CopiedMessage = 1821,
   PastedMessage = 1822,
   NoNumberMessage = 1823,
+  AddedMessage = 1824,   ///< the next one: a single number, as behind each of these
+  Added2Message = 1826,  ///< to data list 2
+  ListFullMessage = 1828,
+  ImportedMessage = 1830,
+  LeftOutMessage = 1832,
+  NoNumbersMessage = 1834,
+  UnreadableMessage = 1835,
+  ColumnMessage = 1836,
+  TableTitleMessage = 1837,
+  TableFilterMessage = 1838,
   PasteStepMessage = 1839,
   ControlWordMessage = 1909,
   ShiftWordMessage = 1910,
@@ -85,6 +95,8 @@ enum MessageId : int {
   ImportFullMessage = 1793,
   ImportFailedMessage = 1794,
   EmptyTextMessage = 1795,
+  TableStepMessage = 1840,
+  MoreFilesMessage = 1841,
   CharacterNameMessages = 4000,  ///< + the ASCII code
 };
 

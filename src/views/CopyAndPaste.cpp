@@ -10,7 +10,7 @@ namespace qves {
 namespace {
 
 /// In bytes; what is longer is no list that a person would add to the data.
-constexpr std::size_t LongestPaste = 2'000'000;
+constexpr std::size_t LongestPaste = 1 << 20;
 
 }  // namespace
 

@@ -20,6 +20,7 @@ enum MenuId : int {
   InverseItem = 353,
   AboutStatisticsItem = 354,
   StatisticsHotKeysItem = 355,
+  ImportTableItem = 1820,
 };
 
 struct MenuSpec {

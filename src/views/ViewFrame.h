@@ -2,6 +2,8 @@
 #pragma once
 
 #include <any>
+#include <functional>
+#include <string>
 #include <vector>
 
 namespace qves {
@@ -41,6 +43,9 @@ class ViewFrame {
   virtual bool OpenHelp(int menuItem) = 0;
   /// Opens the dialog that reads the report of the statistics.
   virtual void OpenResult() = 0;
+  /// Opens the dialog that asks for one of these columns of a table; `choose` is called with its index when
+  /// the user has chosen one.
+  virtual void OpenColumns(std::vector<std::string> names, std::function<void(std::size_t)> choose) = 0;
   /// The view has finished its load.
   virtual void ViewLoaded() = 0;
   /// True once: the first view after start-up speaks the welcome.

@@ -281,6 +281,19 @@ class SessionTest(unittest.TestCase):
         keys("Escape", "Return", "5")
         calculator.expect_display("5")
 
+    def test_copy_and_paste_with_real_keys(self):
+        calculator = self.start("--view", "statistics")
+        calculator.window()
+        keys("7", "period", "5", "m", "ctrl+shift+c", "Escape")
+        calculator.expect_display("0")
+        keys("ctrl+shift+v")
+        calculator.expect_display("-7.5")
+        keys("a")
+        self.expect_data(calculator, ["-7.5"], "-7.5")
+        # What the toolkit copies is pasted, too.
+        keys("Escape", "4", "ctrl+v", "ctrl+c", "Escape", "shift+Insert")
+        calculator.expect_display("4")
+
     def open_import(self, calculator):
         """The keyboard is the file dialog's then."""
         window = calculator.window()

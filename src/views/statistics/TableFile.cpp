@@ -136,6 +136,7 @@ class TableBuilder {
   }
 
   void Complete(TableColumn& column, std::size_t index) const {
+    column.Number = static_cast<int>(index) + 1;
     if (index < Header.size()) column.Name = Header[index];
     std::replace_if(
         column.Name.begin(), column.Name.end(), [](char c) { return c >= 0 && c < ' '; }, ' ');

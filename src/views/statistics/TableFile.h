@@ -11,6 +11,7 @@ struct TableColumn {
   std::string Name;  ///< as the header has it; may be empty
   std::vector<double> Values;
   int LinesLeftOut = 0;  ///< lines without a number here, the header and empty lines at both ends not counted
+  int Number = 1;        ///< of all columns of the table, counted from 1
 };
 
 /// The columns of a file's bytes that hold a number, in their order; at most the first 1,000 of a line.

@@ -2,6 +2,7 @@
 
 #include "formulas/Numbers.h"
 #include "model/ArithmeticFault.h"
+#include "services/ListWords.h"
 #include "services/MessageIds.h"
 #include "text/Text.h"
 #include "views/statistics/FreeFormat.h"
@@ -14,7 +15,7 @@ namespace qves {
 namespace {
 
 constexpr MenuSpec Menus[] = {
-    {FileMenu, {ImportItem, ExitItem}},
+    {FileMenu, {ImportItem, ImportTableItem, ExitItem}},
     {ViewMenu, {}},
     {HelpMenu, {AboutStatisticsItem, StatisticsHotKeysItem, InverseItem}},
 };
@@ -77,22 +78,19 @@ Wording frmStatistics::ChosenWords(const ListControl& list) const {
   if (list.ListIndex == NoItem) return {};
   const std::string item = Common.Speech.SpeechFormatNumber(list.ItemText(list.ListIndex));
   Wording words{item, {0, item.size()}};
-  const std::string place = Common.Sounds.VerbosityAnnounce(ListPositionEntry, false);
-  if (!place.empty())
-    words.Text +=
-        " " + FillPlaceholders(place, {std::to_string(list.ListIndex + 1), std::to_string(list.ItemCount())});
+  words.Text += ListPlaceWords(Common, list.ListIndex, list.ItemCount());
   return words;
 }
 
 void frmStatistics::OnListEnd(ListControl&, int step) {
-  const std::string words =
-      Common.Sounds.VerbosityAnnounce(step < 0 ? TopOfListEntry : BottomOfListEntry, false);
-  if (!words.empty()) Common.Speech.SpeakText(words);
+  TellListEnd(Common, step);
 }
 
 void frmStatistics::OnMenu(int id) {
   if (id == ImportItem)
     Import();
+  else if (id == ImportTableItem)
+    ImportTable();
   else
     View::OnMenu(id);
 }
@@ -117,22 +115,28 @@ void frmStatistics::Report(double degreesOfFreedom, double alpha) {
 }
 
 /// The folder is made, so that the dialog begins in the same one before and after the first report.
-void frmStatistics::Import() {
-  const MessageStore& messages = Common.Messages;
+std::string frmStatistics::AskForFile(int title, const std::string& filter, const std::string& extension) {
   const std::string& folder = Common.FolderLocations.DocumentsFolder;
   Common.Outside.Files.MakeFolder(folder);
-  const std::string path = Common.Outside.FileDialog.Show(
-      {messages.GetMessage(ImportTitleMessage), messages.GetMessage(ImportFilterMessage), "txt", folder});
+  return Common.Outside.FileDialog.Show({Message(title), filter, extension, folder});
+}
+
+/// Files that spreadsheets write are offered, too.
+void frmStatistics::Import() {
+  const std::string filter = Message(ImportFilterMessage) + "|" + Message(MoreFilesMessage);
+  const std::string path = AskForFile(ImportTitleMessage, filter, "txt");
   if (path.empty()) return;
   ImportFile(path);
-  NoteStep(messages.GetMessage(ImportStepMessage));
+  NoteStep(Message(ImportStepMessage));
+}
+
+void frmStatistics::LogImport(const std::string& path, const std::string& what) {
+  Common.Log.WriteErrorLog(ImportErrorCode, path + ": " + what);
 }
 
 /// The list is emptied when the file is open, before anything is read: what a broken file loses is wanted so.
 void frmStatistics::ImportFile(const std::string& path) {
-  const auto log = [&](const std::string& what) {
-    Common.Log.WriteErrorLog(ImportErrorCode, path + ": " + what);
-  };
+  const auto log = [&](const std::string& what) { LogImport(path, what); };
   std::string error;
   const auto text = Common.Outside.Files.Read(path, error);
   Now.Imported = {path.substr(path.rfind('/') + 1), TargetList(), text.has_value()};

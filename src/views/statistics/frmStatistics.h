@@ -2,9 +2,11 @@
 #pragma once
 
 #include <array>
+#include <span>
 
 #include "views/StateView.h"
 #include "views/statistics/StatisticsEngine.h"
+#include "views/statistics/TableFile.h"
 
 namespace qves {
 
@@ -42,6 +44,22 @@ class frmStatistics : public StateView<StatisticsState>, private StatisticsHost 
   ListView& ListOf(DataList list) const { return *Lists[static_cast<std::size_t>(list)]; }
   void Import();
   void ImportFile(const std::string& path);
+  std::string AskForFile(int title, const std::string& filter, const std::string& extension);
+  void LogImport(const std::string& path, const std::string& what);
+
+  // ForeignPoints.cpp
+  struct Taken {
+    std::size_t Added = 0;
+    std::size_t LeftOut = 0;  ///< the list is full
+  };
+  bool PasteText(std::string_view text) override;
+  Taken AddPoints(std::span<const double> numbers);
+  void ImportTable();
+  std::vector<TableColumn> ReadTableFile(const std::string& path);
+  void ImportColumn(const TableColumn& column);
+  std::string NameOf(const TableColumn& column) const;
+  std::string CountWords(int message, std::size_t count) const;
+  std::string FullWords(const Taken& taken) const;
 
   std::array<ListView*, 2> Lists;
   CheckBox* IgnoreZero;
