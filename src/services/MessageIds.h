@@ -54,6 +54,9 @@ enum MessageId : int {
   PastedMessage = 1822,
   NoNumberMessage = 1823,
   PasteStepMessage = 1839,
+  OpenLineMessage = 1940,
+  StatusLineMessage = 1941,
+  MoreFiltersMessage = 1948,
   CharacterNameMessages = 4000,  ///< + the ASCII code
 };
 

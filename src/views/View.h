@@ -36,6 +36,7 @@ class View : public Form, protected EngineHost {
   void Form_Unload() override;
   void NotifyKeyDown(bool& handled, const KeyEvent& event) override;
   void Form_KeyUp(int keyCode) override;
+  void Returned() override;
 
  protected:
   /// The view's engine; each view gives its own once, in its constructor.
@@ -103,6 +104,7 @@ class View : public Form, protected EngineHost {
   WrittenNumber AsWritten(std::string_view text) const;
   const std::string& StateOf(const CheckBox& box) const;
   KeyUse TextBoxKey(TextBox& box, const KeyEvent& event);
+  KeyUse LinesKey(TextBox& box, const KeyEvent& event);
 
   // EveryViewKeys.cpp
   struct EveryViewKey;

@@ -17,7 +17,11 @@ TEST_F(ApplicationTest, WhileAMenuIsOpenOnlyF1IsHeardByTheCalculator) {
   TakeSaid();
   App->KeyDown({KeyF1, NoShift, 0});
   EXPECT_EQ(TakeSaid(), Texts{"now Exit. "});
-  hints.MenusClosed();
+  TakeSaid();
+  hints.MenusClosed(true);
+  EXPECT_EQ(TakeSaid(), Texts{}) << "the item speaks";
+  hints.MenusClosed(false);
+  EXPECT_EQ(TakeSaid(), Texts{"queued Current value is  0"});
   EXPECT_TRUE(App->KeyDown({'7', NoShift, U'7'}));
 }
 

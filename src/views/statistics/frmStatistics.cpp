@@ -90,10 +90,9 @@ void frmStatistics::OnListEnd(ListControl&, int step) {
 }
 
 void frmStatistics::OnMenu(int id) {
-  if (id == ImportItem)
-    Import();
-  else
-    View::OnMenu(id);
+  if (id != ImportItem) return View::OnMenu(id);
+  Import();
+  Returned();
 }
 
 /// A fault ends the calculation without a word, and the dialog reads the report of the run before. Both are
@@ -101,9 +100,10 @@ void frmStatistics::OnMenu(int id) {
 void frmStatistics::Report(double degreesOfFreedom, double alpha) {
   const std::string path = Common.FolderLocations.ReportFile();
   try {
-    const StatisticsResult result = RunStatistics(
-        {Items(DataList::Main).Copy(), Items(DataList::Second).Copy(), IgnoresZero(), degreesOfFreedom, alpha},
-        Common.Outside.Sheet);
+    const StatisticsResult result =
+        RunStatistics({Items(DataList::Main).Copy(), Items(DataList::Second).Copy(), IgnoresZero(),
+                       degreesOfFreedom, alpha},
+                      Common.Outside.Sheet);
     std::string error;
     if (!Common.Outside.Files.Write(path, WriteReport(result, Common.Messages), error))
       Common.Log.WriteErrorLog(ReportErrorCode, "The report " + path + " cannot be written: " + error +
@@ -119,7 +119,9 @@ void frmStatistics::Import() {
   const std::string& folder = Common.FolderLocations.DocumentsFolder;
   Common.Outside.Files.MakeFolder(folder);
   const std::string path = Common.Outside.FileDialog.Show(
-      {messages.GetMessage(ImportTitleMessage), messages.GetMessage(ImportFilterMessage), "txt", folder});
+      {messages.GetMessage(ImportTitleMessage),
+       messages.GetMessage(ImportFilterMessage) + "|" + messages.GetMessage(MoreFiltersMessage), "txt",
+       folder});
   if (path.empty()) return;
   ImportFile(path);
   NoteStep(messages.GetMessage(ImportStepMessage));
