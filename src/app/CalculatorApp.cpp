@@ -86,7 +86,7 @@ void CalculatorApp::Exit() {
 
 void CalculatorApp::UnloadView() {
   if (!View) return;
-  while (!Dialogs.empty()) CloseDialog(*Dialogs.back());
+  while (!Dialogs.empty()) DropDialog();
   // The wait of the shutdown lets events run; they find no view any more.
   Retired.push_back(std::move(View));
   Form& leaving = *Retired.back();
@@ -117,6 +117,10 @@ void CalculatorApp::TellOfNoFunction(const KeyEvent& event) {
   const bool goesToMenus = event.Code == KeyF10 && event.Shift == NoShift && !ActiveForm()->Menus().empty();
   if (goesToMenus || event.Held || IsNoMistake(event)) return;
   if (Common.Settings.NoFunctionSound) Common.Sounds.VerbosityAnnounce(NoFunctionEntry, false);
+}
+
+void CalculatorApp::KeyElsewhere(const KeyEvent& event) {
+  if (HostForm) HostForm->NoteKey(event);
 }
 
 void CalculatorApp::KeyUp(int keyCode) {
@@ -164,9 +168,16 @@ void CalculatorApp::OpenDialog(std::unique_ptr<Form> dialog) {
   opened.Form_Load();
 }
 
-void CalculatorApp::CloseDialog(Form& dialog) {
+void CalculatorApp::CloseDialog(Form&) {
+  DropDialog();
+  ActiveForm()->Returned();
+}
+
+/// The one on top.
+void CalculatorApp::DropDialog() {
   Retired.push_back(std::move(Dialogs.back()));
   Dialogs.pop_back();
+  Form& dialog = *Retired.back();
   dialog.Form_Unload();
   Observer.FormClosed(dialog);
 }

@@ -46,6 +46,8 @@ class CalculatorApp : private ViewFrame, private DialogFrame {
   /// A key press: through the keyboard hook, then to the active form. True when the calculator has used it;
   /// else it is the toolkit's own.
   bool KeyDown(const KeyEvent& event);
+  /// A key press that belongs to a dialog which is no form.
+  void KeyElsewhere(const KeyEvent& event);
   /// The release of a key.
   void KeyUp(int keyCode);
   /// Leaves the calculator as File, Exit does. Nothing when it has ended already.
@@ -78,6 +80,7 @@ class CalculatorApp : private ViewFrame, private DialogFrame {
   void TellOfNoFunction(const KeyEvent& event);
   void ShowView(const ViewRow& row);
   void OpenDialog(std::unique_ptr<Form> dialog);
+  void DropDialog();
   void UnloadView();
 
   Services& Common;

@@ -24,7 +24,7 @@ frmCTLApp::~frmCTLApp() {
 }
 
 bool frmCTLApp::KeyDown(const KeyEvent& event) {
-  CtrlAlone = event.Code == KeyControl;
+  NoteKey(event);
   if (BelongsToDesktop(event)) return false;
   if (MenuActive) {
     if (event.Code != KeyF1) return false;
@@ -66,6 +66,12 @@ void frmCTLApp::MenuItemHighlighted(std::string_view text, std::string_view mnem
   MenuHasSubMenu = hasSubMenu;
   Common.Speech.SpeakText(hasSubMenu ? MenuHintText + ". " + messages.GetMessage(HasSubMenuMessage)
                                      : MenuHintText);
+}
+
+void frmCTLApp::MenusClosed(bool chosen) {
+  MenuActive = false;
+  Form* form = Calls.ActiveForm();
+  if (form && !chosen) form->Returned();
 }
 
 void frmCTLApp::DescribeMenuItem() {

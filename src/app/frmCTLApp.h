@@ -31,11 +31,13 @@ class frmCTLApp : private HintListener, private QueryUnloadListener, private Tts
 
   /// The keyboard hook: sees every key before the view does. True: the key is swallowed.
   bool KeyDown(const KeyEvent& event);
+  /// Any key: the release of Ctrl alone stops speech everywhere.
+  void NoteKey(const KeyEvent& event) { CtrlAlone = event.Code == KeyControl; }
   void KeyUp(int keyCode);
 
  private:
   void MenuItemHighlighted(std::string_view text, std::string_view mnemonic, bool hasSubMenu) override;
-  void MenusClosed() override { MenuActive = false; }
+  void MenusClosed(bool chosen) override;
   void QueryUnload(int reason) override;
   void BookMarkReached(std::int32_t number, TtsSpeaker& speaker) override;
   void SpeechStopped(TtsSpeaker& speaker) override;

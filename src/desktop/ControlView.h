@@ -28,6 +28,8 @@ class ControlView {
   virtual void Refresh() = 0;
   /// Shows the part of the text from that byte on; what was before is shown already.
   virtual void Append(std::size_t /*from*/) { Refresh(); }
+  /// Shows where the user has moved to in the text.
+  virtual void ShowCaret() {}
   /// From the item `from` on, `removed` items have gone and `added` ones have come in their place.
   virtual void ItemsChanged(int /*from*/, int /*removed*/, int /*added*/) { Refresh(); }
   /// The desktop's font or colours changed.

@@ -130,6 +130,7 @@ void LinesView::Refresh() {
   setEnabled(Model.Enabled);
   if (Model.SelLength > 0) return ShowSelection();
   setPlainText(QString::fromStdString(Model.Text));
+  ShowCaret();
   verticalScrollBar()->setValue(verticalScrollBar()->maximum());
 }
 
@@ -137,7 +138,14 @@ void LinesView::Append(std::size_t from) {
   QTextCursor end(document());
   end.movePosition(QTextCursor::End);
   end.insertText(QString::fromUtf8(std::string_view(Model.Text).substr(from)));
+  setTextCursor(end);
   verticalScrollBar()->setValue(verticalScrollBar()->maximum());
+}
+
+void LinesView::ShowCaret() {
+  QTextCursor cursor(document());
+  cursor.setPosition(CountCharacters(std::string_view(Model.Text).substr(0, Model.Caret)));
+  setTextCursor(cursor);
 }
 
 void LinesView::ShowSelection() {

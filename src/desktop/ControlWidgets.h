@@ -53,6 +53,7 @@ class LinesView : public QPlainTextEdit, public ControlView {
   LinesView(TextBox& box, ControlHost& host, const AppSettings& settings, QWidget* parent);
   void Refresh() override;
   void Append(std::size_t from) override;
+  void ShowCaret() override;
   void Restyle() override;
   QSize minimumSizeHint() const override;
   QSize sizeHint() const override;

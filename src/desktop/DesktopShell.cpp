@@ -20,6 +20,11 @@ void DesktopShell::Attach(CalculatorApp& app) {
   To.FileDialog.Owner = [this] { return TopWindow(); };
   Keys = std::make_unique<KeyFilter>(KeyFilter::Receivers{
       .KeyDown = [this](const KeyEvent& event) { return App->KeyDown(event); },
+      .KeyElsewhere =
+          [this](const KeyEvent& event) {
+            App->KeyElsewhere(event);
+            return To.FileDialog.KeyDown(event);
+          },
       .KeyUp = [this](int keyCode) { App->KeyUp(keyCode); },
       .NotePress = [this](int keyCode) { To.Windows.NoteKeyPress(keyCode); },
       .TopWindow = [this] { return TopWindow(); },

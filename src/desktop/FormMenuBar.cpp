@@ -6,6 +6,7 @@
 #include <QMenu>
 #include <QMouseEvent>
 #include <QTimer>
+#include <utility>
 
 namespace qves {
 namespace {
@@ -39,6 +40,7 @@ FormMenuBar::FormMenuBar(const std::vector<Menu>& menus, HintNotify& hints, Rece
 
 FormMenuBar::~FormMenuBar() {
   To.GiveFocusBack = [] {};
+  Chosen = true;  // the form is going, and is not come back to
   TellClosed();
 }
 
@@ -48,6 +50,7 @@ void FormMenuBar::AddMenu(const Menu& menu) {
   for (const MenuItem& item : menu.Items) {
     QAction* action = popup->addAction(QString::fromStdString(item.Caption));
     action->setMenuRole(QAction::NoRole);
+    connect(action, &QAction::triggered, this, [this] { Chosen = true; });
     connect(
         action, &QAction::triggered, this, [this, id = item.Id] { To.Choose(id); }, Qt::QueuedConnection);
   }
@@ -99,7 +102,7 @@ void FormMenuBar::Highlighted(QAction* action) {
 void FormMenuBar::Tell(QAction* action) {
   if (action == Last || action->isSeparator()) return;
   Last = action;
-  Active = true;
+  if (!std::exchange(Active, true)) Chosen = false;
   HintListener* listener = Hints.GetListener();
   if (!listener) return;
   const std::string text = WithoutMnemonic(action->text()).toStdString();
@@ -154,7 +157,7 @@ void FormMenuBar::TellClosed() {
   Active = false;
   Last = nullptr;
   if (hasFocus()) To.GiveFocusBack();
-  if (HintListener* listener = Hints.GetListener()) listener->MenusClosed();
+  if (HintListener* listener = Hints.GetListener()) listener->MenusClosed(std::exchange(Chosen, false));
 }
 
 }  // namespace qves

@@ -53,6 +53,7 @@ class FormMenuBar : public QMenuBar {
   Receivers To;
   QAction* Last = nullptr;
   bool Active = false;
+  bool Chosen = false;  ///< an item has been, and the menus are closing
 };
 
 /// A menu caption as it is read: without the "&" before the mnemonic.

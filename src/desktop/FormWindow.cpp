@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QVBoxLayout>
 #include <algorithm>
 #include <utility>
 
@@ -24,7 +25,7 @@ void FormWindow::ShowForm(Form& form) {
   form.AddObserver(*this);
   setWindowTitle(QString::fromStdString(form.Title()));
   BuildMenus();
-  BuildControls();
+  BuildContents();
   FocusNow();
   show();
 }
@@ -47,9 +48,30 @@ void FormWindow::BuildMenus() {
   setMenuBar(MenuBar);
 }
 
-void FormWindow::BuildControls() {
+/// The controls with the form's lines around them.
+void FormWindow::BuildContents() {
   auto* central = new QWidget;
-  PanelGrid grid(*Shown, *central);
+  auto* controls = new QWidget(central);
+  auto* column = new QVBoxLayout(central);
+  OpenLine = AddLine(Shown->OpenLineName(), Qt::ElideLeft, *column);
+  column->addWidget(controls, 1);
+  StatusLine = AddLine(Shown->StatusLineName(), Qt::ElideRight, *column);
+  BuildControls(*controls);
+  LinesChanged(*Shown);
+  // Deletes what was there, when the event that led here has ended.
+  setCentralWidget(central);
+}
+
+/// Null when it has no name.
+LineLabel* FormWindow::AddLine(const std::string& name, Qt::TextElideMode elide, QVBoxLayout& column) {
+  if (name.empty()) return nullptr;
+  auto* line = new LineLabel(name, elide, Settings, column.parentWidget());
+  column.addWidget(line);
+  return line;
+}
+
+void FormWindow::BuildControls(QWidget& central) {
+  PanelGrid grid(*Shown, central);
   QWidget* previous = nullptr;
   for (const auto& control : Shown->Controls()) {
     ControlView* view = MakeControlView(*control, *this, Settings, grid.PanelOf(*control));
@@ -60,8 +82,6 @@ void FormWindow::BuildControls() {
     previous = &view->Widget();
   }
   grid.Balance();
-  // Deletes what was there, when the event that led here has ended.
-  setCentralWidget(central);
 }
 
 ControlView* FormWindow::ViewOf(const Control& control) const {
@@ -86,6 +106,15 @@ void FormWindow::TextAppended(Form&, TextBox& box, std::size_t from) {
 
 void FormWindow::ItemsChanged(Form&, ListView& list, int from, int removed, int added) {
   if (ControlView* view = ViewOf(list)) view->ItemsChanged(from, removed, added);
+}
+
+void FormWindow::CaretMoved(Form&, TextBox& box) {
+  if (ControlView* view = ViewOf(box)) view->ShowCaret();
+}
+
+void FormWindow::LinesChanged(Form& form) {
+  if (OpenLine) OpenLine->Show(form.OpenLine());
+  if (StatusLine) StatusLine->Show(form.StatusLine());
 }
 
 void FormWindow::FocusChanged(Form&) {
@@ -153,6 +182,8 @@ void FormWindow::changeEvent(QEvent* event) {
   // The desktop's, as the window has none of its own.
   if (event->type() != QEvent::FontChange && event->type() != QEvent::PaletteChange) return;
   for (const auto& [control, view] : Views) view->Restyle();
+  for (LineLabel* line : {OpenLine, StatusLine})
+    if (line) line->Restyle();
 }
 
 }  // namespace qves

@@ -6,8 +6,11 @@
 
 #include "desktop/ControlWidgets.h"
 #include "desktop/FormMenuBar.h"
+#include "desktop/LineLabel.h"
 #include "model/Form.h"
 #include "services/AppSettings.h"
+
+class QVBoxLayout;
 
 namespace qves {
 
@@ -47,14 +50,18 @@ class FormWindow : public QMainWindow, private FormObserver, private ControlHost
   void ControlChanged(Form& form, Control& control) override;
   void TextAppended(Form& form, TextBox& box, std::size_t from) override;
   void ItemsChanged(Form&, ListView& list, int from, int removed, int added) override;
+  void CaretMoved(Form& form, TextBox& box) override;
   void FocusChanged(Form& form) override;
+  void LinesChanged(Form& form) override;
   // ControlHost
   void ControlPressed(Control& control) override;
   void ItemChosen(ListControl& list, int item) override;
 
   ControlView* ViewOf(const Control& control) const;
   void BuildMenus();
-  void BuildControls();
+  void BuildContents();
+  LineLabel* AddLine(const std::string& name, Qt::TextElideMode elide, QVBoxLayout& column);
+  void BuildControls(QWidget& central);
   void ChooseMenu(int id);
   void FocusNow();
   void FocusMoved(const QWidget* to);
@@ -63,6 +70,8 @@ class FormWindow : public QMainWindow, private FormObserver, private ControlHost
   HintNotify& Hints;
   Form* Shown = nullptr;
   FormMenuBar* MenuBar = nullptr;
+  LineLabel* OpenLine = nullptr;    ///< above the controls; null when the form has no lines
+  LineLabel* StatusLine = nullptr;  ///< below them
   std::unordered_map<const Control*, ControlView*> Views;
   bool FocusDue = false;     ///< the form's focus has moved, perhaps more than once
   bool MovingFocus = false;  ///< the focus follows the form: its echo is no news for it

@@ -59,7 +59,7 @@ bool KeyFilter::Press(const QKeyEvent& event) {
   KeyEvent key = TranslateKey(event);
   key.Held = IsRepetition(event, key.Code);
   if (!key.Held) To.NotePress(key.Code);
-  if (IsForeign()) return false;
+  if (IsForeign()) return To.KeyElsewhere(key);
   if (key.Held && ActsOnceWhileHeld(key.Code)) return true;
   const bool used = To.KeyDown(key) || OpensMenu(key);
   if (FormWindow* window = To.TopWindow()) window->SettleFocus();

@@ -13,7 +13,8 @@ namespace qves {
 class KeyFilter : public QObject {
  public:
   struct Receivers {
-    std::function<bool(const KeyEvent&)> KeyDown;  ///< true: the key is used, no widget is to see it
+    std::function<bool(const KeyEvent&)> KeyDown;       ///< true: the key is used, no widget is to see it
+    std::function<bool(const KeyEvent&)> KeyElsewhere;  ///< the same of a key in a dialog that is no form
     std::function<void(int keyCode)> KeyUp;
     std::function<void(int keyCode)> NotePress;  ///< a key goes down that was up, also where it is not ours
     std::function<FormWindow*()> TopWindow;      ///< whose menus get keys; null for none

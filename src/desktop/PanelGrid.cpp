@@ -33,6 +33,7 @@ int RowWeight(const Control& control) {
 }  // namespace
 
 PanelGrid::PanelGrid(const Form& form, QWidget& central) : Window(new QGridLayout(&central)) {
+  Window->setContentsMargins(0, 0, 0, 0);
   Window->setSpacing(2 * Spacing);
   for (const PanelSpec& spec : form.Panels()) Make(spec, central);
   for (const auto& control : form.Controls())

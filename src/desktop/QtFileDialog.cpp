@@ -1,12 +1,11 @@
 #include "desktop/QtFileDialog.h"
 
-#include <QAbstractItemView>
-#include <QAccessible>
 #include <QApplication>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QMessageBox>
+#include <QLineEdit>
+#include <memory>
 #include <utility>
 
 namespace qves {
@@ -30,27 +29,7 @@ QString ExistingFolder(const std::string& folder) {
   return info.absoluteFilePath();
 }
 
-/// What a screen reader would say of the widget: its name, and what it shows or has chosen.
-QStringList WordsFor(QWidget& widget) {
-  QAccessibleInterface* read = QAccessible::queryAccessibleInterface(&widget);
-  if (!read) return {};
-  QStringList words{read->text(QAccessible::Name), read->text(QAccessible::Value)};
-  if (const auto* view = qobject_cast<QAbstractItemView*>(&widget))
-    words << view->currentIndex().data().toString();
-  return words;
-}
-
-/// And of a window that comes to the front.
-QStringList WordsForWindow(const QWidget& window) {
-  const auto* message = qobject_cast<const QMessageBox*>(&window);
-  return {window.windowTitle(), message ? message->text() : QString()};
-}
-
-QString Sentence(QStringList words) {
-  words.removeAll(QString());
-  words.removeDuplicates();
-  return words.join(", ");
-}
+constexpr int HelpOfDialog = 1947;
 
 }  // namespace
 
@@ -70,19 +49,38 @@ std::string QtFileDialog::Show(const FileDialogSpec& spec) {
   return isChosen ? dialog.selectedFiles().value(0).toStdString() : "";
 }
 
+void QtFileDialog::Speak(const QStringList& words) const {
+  if (const std::string all = Sentence(words); !all.empty()) Says.Speak(all);
+}
+
 void QtFileDialog::SpeakMoves() {
-  const auto speak = [this](const QStringList& words) {
-    if (const QString all = Sentence(words); !all.isEmpty()) Speak(all.toStdString());
-  };
   const QWidget* before = nullptr;
-  QObject::connect(qApp, &QApplication::focusChanged, Dialog,
-                   [this, speak, before](QWidget*, QWidget* now) mutable {
-                     if (!now || !Dialog || !Dialog->isVisible()) return;
-                     const bool isSameWindow = std::exchange(before, now->window()) == now->window();
-                     speak((isSameWindow ? QStringList() : WordsForWindow(*now->window())) + WordsFor(*now));
-                   });
+  QObject::connect(qApp, &QApplication::focusChanged, Dialog, [this, before](QWidget*, QWidget* now) mutable {
+    if (!now || !Dialog || !Dialog->isVisible()) return;
+    const bool isSameWindow = std::exchange(before, now->window()) == now->window();
+    Speak((isSameWindow ? QStringList() : WordsForWindow(*now->window())) + WordsFor(*now, Says.Message));
+  });
   QObject::connect(Dialog, &QFileDialog::currentChanged,
-                   [speak](const QString& path) { speak({QFileInfo(path).fileName()}); });
+                   [this](const QString& path) { Speak(WordsForPath(path, Says.Message)); });
+  for (QLineEdit* edit : Dialog->findChildren<QLineEdit*>()) SpeakTyping(*edit);
+}
+
+/// What the dialog itself writes into the edit is said where it is chosen.
+void QtFileDialog::SpeakTyping(QLineEdit& edit) {
+  const auto before = std::make_shared<QString>(edit.text());
+  QObject::connect(&edit, &QLineEdit::textEdited, [this, before](const QString& now) {
+    const std::string part = EditedPart(*before, now).toStdString();
+    if (!part.empty()) Says.Speak(Says.Character(part));
+  });
+  QObject::connect(&edit, &QLineEdit::textChanged, [before](const QString& now) { *before = now; });
+}
+
+bool QtFileDialog::KeyDown(const KeyEvent& event) {
+  QWidget* focused = QApplication::focusWidget();
+  if (!IsOpen() || !focused || event.Shift != NoShift) return false;
+  if (event.Code == KeyF1) Says.Speak(Says.Message(HelpOfDialog));
+  if (event.Code == KeyF7) Speak(WordsFor(*focused, Says.Message));
+  return event.Code == KeyF1 || event.Code == KeyF7;
 }
 
 void QtFileDialog::CloseFront() {

@@ -4,10 +4,12 @@
 #include <functional>
 #include <string>
 
+#include "desktop/WidgetWords.h"
+#include "model/KeyEvent.h"
 #include "platform/FixedSizeFileDialog.h"
 
 class QFileDialog;
-class QWidget;
+class QLineEdit;
 
 namespace qves {
 
@@ -15,6 +17,7 @@ class QtFileDialog : public FixedSizeFileDialog {
  public:
   /// Runs an event loop of its own until the dialog is left. A second dialog is cancelled at once.
   std::string Show(const FileDialogSpec& spec) override;
+  bool TakesFocus() const override { return true; }
 
   bool IsOpen() const { return Dialog != nullptr; }
   /// Closes what is in front: a pop-up or message of the dialog, or the dialog as Escape does. It is left
@@ -23,11 +26,22 @@ class QtFileDialog : public FixedSizeFileDialog {
 
   /// The window above which the dialog stands.
   std::function<QWidget*()> Owner = [] { return nullptr; };
-  /// Speaks what the user has come to in the dialog, in place of what is being said.
-  std::function<void(const std::string&)> Speak = [](const std::string&) {};
+  /// A key while the dialog is open; true: it is used.
+  bool KeyDown(const KeyEvent& event);
+
+  struct Voice {
+    /// Speaks in place of what is being said.
+    std::function<void(const std::string&)> Speak = [](const std::string&) {};
+    /// What to speak for what has been typed: of one character its name.
+    std::function<std::string(const std::string&)> Character = [](const std::string& text) { return text; };
+    MessageText Message = [](int) { return std::string(); };
+  };
+  Voice Says;
 
  private:
+  void Speak(const QStringList& words) const;
   void SpeakMoves();
+  void SpeakTyping(QLineEdit& edit);
 
   QFileDialog* Dialog = nullptr;
 };

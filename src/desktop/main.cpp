@@ -86,7 +86,10 @@ int RunCalculator(const Options& options, QtEventPump& events, LateTts& speech,
   ServiceSet services(platform);
 
   DesktopShell shell({services.All.Settings, hints, windowMessages, windows, events, fileDialog});
-  fileDialog.Speak = [&services](const std::string& text) { services.All.Speech.SpeakText(text, Prose); };
+  fileDialog.Says = {
+      .Speak = [&services](const std::string& text) { services.All.Speech.SpeakText(text, Prose); },
+      .Character = [&services](const std::string& text) { return services.All.Speech.SpeakableChar(text); },
+      .Message = [&services](int id) { return services.All.Messages.GetMessage(id); }};
   CalculatorApp app(services.All, shell);
   shell.Attach(app);
   if (!app.Main({options.View})) return 0;

@@ -1,6 +1,6 @@
 #include "dialogs/DocumentFile.h"
 
-#include "dialogs/Sentences.h"
+#include "text/TextPlaces.h"
 
 namespace qves {
 namespace {

@@ -3,13 +3,12 @@
 #include <utility>
 
 #include "dialogs/RichText.h"
+#include "model/CaretKeys.h"
 #include "services/MessageIds.h"
 #include "text/Text.h"
 
 namespace qves {
 namespace {
-
-constexpr int LinesOfAPage = 10;
 
 ControlSpec MakeReaderSpec(const ReadingDialogSpec& spec) {
   return {.Name = spec.ReaderName,
@@ -137,70 +136,21 @@ bool ReadingDialog::ReaderKey(const KeyEvent& event) {
     ReadOn(false);
     return true;
   }
-  return event.Shift == NoShift && !Document->Text.empty() && MoveCaret(event.Code);
+  return !Document->Text.empty() && MoveCaret(event);
 }
 
-bool ReadingDialog::MoveCaret(int keyCode) {
-  std::size_t& caret = Document->Caret;
-  const std::string& text = Document->Text;
-  const TextSpan line = LineAround(text, caret);
-  switch (keyCode) {
-    case KeyLeft:
-      caret = PreviousCharacter(text, caret);
-      break;
-    case KeyRight:
-      caret = NextCharacter(text, caret);
-      break;
-    case KeyHome:
-      caret = line.Start;
-      break;
-    case KeyEnd:
-      caret = line.Length == 0 ? line.Start : PreviousCharacter(text, line.Start + line.Length);
-      break;
-    case KeyUp:
-    case qves::KeyDown:
-    case KeyPageUp:
-    case KeyPageDown: {
-      const int step = keyCode == KeyUp || keyCode == qves::KeyDown ? 1 : LinesOfAPage;
-      MoveLines(keyCode == KeyUp || keyCode == KeyPageUp ? -step : step);
-      SayLine();
-      ReaderMoved(*Document);
-      return true;
-    }
-    default:
-      return false;
-  }
-  SayCharacter();
+/// The highlight goes: nothing is being read, and the eye is to be led to the caret.
+bool ReadingDialog::MoveCaret(const KeyEvent& event) {
+  const auto move = MoveByKey(Document->Text, Document->Caret, event);
+  if (!move) return false;
+  Document->Caret = move->Caret;
+  Document->SpokenLength = 0;
   ReaderMoved(*Document);
+  if (move->IsCharacter)
+    Common.Speech.SpeakText(Common.Speech.SpeakableChar(move->Said));
+  else
+    Common.Speech.SpeakText(move->Said, {0, 0, Numbers()});
   return true;
-}
-
-/// To the start of a line so many further; to the first or the last where there are fewer.
-void ReadingDialog::MoveLines(int lines) {
-  const std::string& text = Document->Text;
-  TextSpan line = LineAround(text, Document->Caret);
-  for (; lines > 0 && line.Start + line.Length < text.size(); --lines)
-    line = LineAround(text, line.Start + line.Length + 1);
-  for (; lines < 0 && line.Start > 0; ++lines) line = LineAround(text, line.Start - 1);
-  Document->Caret = line.Start;
-}
-
-void ReadingDialog::SayLine() {
-  const TextSpan line = LineAround(Document->Text, Document->Caret);
-  const std::string text = Document->Text.substr(line.Start, line.Length);
-  // An empty line has to be heard too.
-  const bool isBlank = text.find_first_not_of(" \t") == std::string::npos;
-  Common.Speech.SpeakText(isBlank ? Common.Speech.SpeakableChar("\r") : text, {0, 0, Numbers()});
-}
-
-void ReadingDialog::SayCharacter() {
-  const std::string& text = Document->Text;
-  const std::size_t at = Document->Caret;
-  if (at >= text.size() || text[at] == '\n')
-    return Common.Speech.SpeakText(Common.Speech.SpeakableChar("\r"));
-  const std::size_t next = NextCharacter(text, at);
-  Common.Speech.SpeakText(
-      Common.Speech.SpeakableChar(text.substr(at, next == at ? std::string::npos : next - at)));
 }
 
 }  // namespace qves

@@ -42,10 +42,7 @@ class ReadingDialog : public Form {
   /// After what is being spoken, or at once.
   void ReadOn(bool queued);
   void ShowSentence();
-  bool MoveCaret(int keyCode);
-  void SayCharacter();
-  void SayLine();
-  void MoveLines(int lines);
+  bool MoveCaret(const KeyEvent& event);
 
   const bool IsReport;
   const ControlSpec ReaderSpec;

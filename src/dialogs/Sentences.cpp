@@ -1,9 +1,5 @@
 #include "dialogs/Sentences.h"
 
-#include <algorithm>
-
-#include "text/Utf8.h"
-
 namespace qves {
 namespace {
 
@@ -31,26 +27,6 @@ std::vector<TextSpan> FindSentences(std::string_view text) {
     sentences.push_back({start, end - start});
     start = end;
   }
-}
-
-TextSpan LineAround(std::string_view text, std::size_t at) {
-  at = std::min(at, text.size());
-  const std::size_t before = at == 0 ? std::string_view::npos : text.rfind('\n', at - 1);
-  const std::size_t start = before == std::string_view::npos ? 0 : before + 1;
-  return {start, std::min(text.find('\n', at), text.size()) - start};
-}
-
-std::size_t NextCharacter(std::string_view text, std::size_t at) {
-  std::size_t next = at + 1;
-  while (next < text.size() && IsInsideCharacter(text[next])) ++next;
-  return next < text.size() ? next : at;
-}
-
-std::size_t PreviousCharacter(std::string_view text, std::size_t at) {
-  if (at == 0) return 0;
-  std::size_t previous = at - 1;
-  while (previous > 0 && IsInsideCharacter(text[previous])) --previous;
-  return previous;
 }
 
 }  // namespace qves

@@ -106,6 +106,7 @@ class TextBox : public Control {
   std::string Text;
   std::size_t SelStart = 0;
   std::size_t SelLength = 0;
+  std::size_t Caret = 0;  ///< in a box of several lines: where the user has moved to
 };
 
 class CheckBox : public Control {

@@ -89,12 +89,14 @@ void Form::SetText(TextBox& box, std::string_view text) {
   box.SelStart = box.SelLength = 0;
   if (box.Text == text) return;
   box.Text = text;
+  box.Caret = text.size();
   Tell([&](FormObserver& observer) { observer.ControlChanged(*this, box); });
 }
 
 void Form::AppendText(TextBox& box, std::string_view text) {
   const std::size_t from = box.Text.size();
   box.Text += text;
+  box.Caret = box.Text.size();
   box.SelStart = box.SelLength = 0;
   Tell([&](FormObserver& observer) { observer.TextAppended(*this, box, from); });
 }
@@ -103,6 +105,12 @@ void Form::SelectAll(TextBox& box) {
   box.SelStart = 0;
   box.SelLength = box.Text.size();
   Tell([&](FormObserver& observer) { observer.ControlChanged(*this, box); });
+}
+
+void Form::MoveCaret(TextBox& box, std::size_t caret) {
+  box.SelStart = box.SelLength = 0;
+  box.Caret = caret;
+  Tell([&](FormObserver& observer) { observer.CaretMoved(*this, box); });
 }
 
 void Form::ReaderMoved(Reader& reader) {
@@ -142,6 +150,11 @@ void Form::RemoveItems(ListView& list, int from, int count) {
 
 void Form::ItemsReplaced(ListView& list, int before) {
   Tell([&](FormObserver& observer) { observer.ItemsChanged(*this, list, 0, before, list.ItemCount()); });
+}
+
+void Form::NameLines(std::string open, std::string status) {
+  OpenName = std::move(open);
+  StatusName = std::move(status);
 }
 
 void Form::SetLine(std::string& line, std::string_view text) {

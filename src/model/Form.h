@@ -27,6 +27,8 @@ class FormObserver {
   virtual void TextAppended(Form&, TextBox&, std::size_t /*from*/) {}
   /// From the item `from` on, `removed` items have gone and `added` ones have come in their place.
   virtual void ItemsChanged(Form&, ListView&, int /*from*/, int /*removed*/, int /*added*/) {}
+  /// The user has moved in the box's text.
+  virtual void CaretMoved(Form&, TextBox&) {}
   /// The form's focused control changed.
   virtual void FocusChanged(Form&) {}
   /// One of the form's lines that are no controls changed.
@@ -64,8 +66,11 @@ class Form {
   Control* FocusedControl() const { return Focused; }
   /// The calculation that is still open, as it is shown above the display: "2 * ( 3 +".
   const std::string& OpenLine() const { return OpenText; }
+  /// What a screen reader calls that line; "": the form has no such lines.
+  const std::string& OpenLineName() const { return OpenName; }
   /// What the form has told last about what it holds.
   const std::string& StatusLine() const { return StatusText; }
+  const std::string& StatusLineName() const { return StatusName; }
   /// The control of that name, and index when it is a member of an array; null when there is none.
   Control* Find(std::string_view name, int index = NoIndex) const;
   /// The same for one that stands alone and is of that kind when it is there.
@@ -100,6 +105,8 @@ class Form {
   KeyUse KeyDown(const KeyEvent& event);
   /// A key release.
   virtual void Form_KeyUp(int /*keyCode*/) {}
+  /// The user is back from a menu or a dialog: the form says where, after what is being said.
+  virtual void Returned() {}
   /// Chooses the menu item with that id; false when the form has none.
   bool ChooseMenu(int id);
   /// Moves the focus to the cancel control, which Enter then presses; false when there is none.
@@ -121,6 +128,7 @@ class Form {
   void SetText(TextBox& box, std::string_view text);
   void AppendText(TextBox& box, std::string_view text);
   void SelectAll(TextBox& box);
+  void MoveCaret(TextBox& box, std::size_t caret);
   void SetChecked(CheckBox& box, bool checked);
   /// Sets the chosen item without a word and without the list's handler.
   void PlaceChoice(ListControl& list, int item);
@@ -131,6 +139,8 @@ class Form {
   /// The list shows other items than it did, of which there were so many.
   void ItemsReplaced(ListView& list, int before);
   void SetEnabled(Control& control, bool enabled);
+  /// Gives the form its lines.
+  void NameLines(std::string open, std::string status);
   void SetOpenLine(std::string_view text) { SetLine(OpenText, text); }
   void SetStatusLine(std::string_view text) { SetLine(StatusText, text); }
   /// Places in the reader's document have changed.
@@ -175,6 +185,8 @@ class Form {
   std::string FormTitle;
   std::string OpenText;
   std::string StatusText;
+  std::string OpenName;
+  std::string StatusName;
   std::vector<std::unique_ptr<Control>> ControlList;
   std::vector<FormObserver*> Observers;
   Control* Focused = nullptr;

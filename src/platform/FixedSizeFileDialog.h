@@ -17,6 +17,8 @@ class FixedSizeFileDialog {
   virtual ~FixedSizeFileDialog() = default;
   /// Shows the dialog until it is left: the path chosen, "" when it was cancelled.
   virtual std::string Show(const FileDialogSpec& spec) = 0;
+  /// Whether it stands before the user, who then comes back from it.
+  virtual bool TakesFocus() const { return false; }
 };
 
 }  // namespace qves

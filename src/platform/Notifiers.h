@@ -22,7 +22,8 @@ class HintListener {
   /// A menu item is highlighted: its text without "&", its mnemonic character ("" for none), whether it opens
   /// a sub-menu.
   virtual void MenuItemHighlighted(std::string_view text, std::string_view mnemonic, bool hasSubMenu) = 0;
-  virtual void MenusClosed() = 0;
+  /// `chosen`: with an item, which acts after that.
+  virtual void MenusClosed(bool chosen) = 0;
 };
 
 /// Why a program is asked to end.

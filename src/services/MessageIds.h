@@ -97,6 +97,8 @@ enum MessageId : int {
   EmptyTextMessage = 1795,
   TableStepMessage = 1840,
   MoreFilesMessage = 1841,
+  OpenLineMessage = 1940,
+  StatusLineMessage = 1941,
   CharacterNameMessages = 4000,  ///< + the ASCII code
 };
 

@@ -22,6 +22,7 @@ View::View(const ViewTables& tables, Services& services, ViewFrame& frame)
       Tables(tables) {
   AddControls();
   AddMenus();
+  NameLines(Message(OpenLineMessage), Message(StatusLineMessage));
   PanelList.assign(Tables.Panels.begin(), Tables.Panels.end());
 }
 
@@ -124,6 +125,10 @@ void View::OnChoose(ListControl& list) {
 
 void View::OnGotFocus(Control& control) {
   Introduce(control, &control == Display);
+}
+
+void View::Returned() {
+  if (FocusedControl()) SayOf(*FocusedControl(), true);
 }
 
 /// What a control says when the user comes to it.

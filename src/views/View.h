@@ -38,6 +38,7 @@ class View : public Form, protected EngineHost {
   void NotifyKeyDown(bool& handled, const KeyEvent& event) override;
   bool DescribeKey(const KeyEvent& event) override;
   void Form_KeyUp(int keyCode) override;
+  void Returned() override;
 
  protected:
   /// The view's engine; each view gives its own once, in its constructor.
@@ -128,6 +129,7 @@ class View : public Form, protected EngineHost {
   Control* TargetOf(const KeyRow& row, const KeyEvent& event) const {
     return Find(row.Target.Name, IndexFor(row, event.Code));
   }
+  KeyUse LinesKey(TextBox& box, const KeyEvent& event);
 
   // EveryViewKeys.cpp
   struct EveryViewKey;

@@ -1,4 +1,5 @@
 // What the keys of every view do: those of its key map, and those of the focused control.
+#include "model/CaretKeys.h"
 #include "services/MessageIds.h"
 #include "views/View.h"
 
@@ -90,9 +91,22 @@ KeyUse View::TextBoxKey(TextBox& box, const KeyEvent& event) {
     Common.Speech.SpeakText(Message(CopyMessage));
     return KeyUse::PassedOn;  // the copy itself is the toolkit's
   }
-  if (!box.Has(MultiLine) || !Is(event, SelectAllKey)) return KeyUse::Unused;
-  SelectAll(box);
-  Common.Speech.SpeakText(Message(AllSelectedMessage));
+  return box.Has(MultiLine) ? LinesKey(box, event) : KeyUse::Unused;
+}
+
+/// In a box of several lines.
+KeyUse View::LinesKey(TextBox& box, const KeyEvent& event) {
+  SpeechService& speech = Common.Speech;
+  if (Is(event, SelectAllKey)) {
+    SelectAll(box);
+    speech.SpeakText(Message(AllSelectedMessage));
+    return KeyUse::Used;
+  }
+  const auto move = MoveByKey(box.Text, box.Caret, event);
+  if (!move || box.Text.empty()) return KeyUse::Unused;
+  MoveCaret(box, move->Caret);
+  speech.SpeakText(move->IsCharacter ? speech.SpeakableChar(move->Said)
+                                     : speech.SpeechFormatNumber(move->Said));
   return KeyUse::Used;
 }
 

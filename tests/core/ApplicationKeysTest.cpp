@@ -5,6 +5,7 @@ namespace qves {
 namespace {
 
 TEST_F(ApplicationTest, WhileAMenuIsOpenOnlyF1IsHeardByTheCalculator) {
+  Outside.Files.Content["/program/CalcMsg.txt"] += "1201\tValue\n";
   Start();
   HintListener& hints = *Outside.Hints.GetListener();
   hints.MenuItemHighlighted("Tools", "&", true);
@@ -17,7 +18,11 @@ TEST_F(ApplicationTest, WhileAMenuIsOpenOnlyF1IsHeardByTheCalculator) {
   TakeSaid();
   App->KeyDown({KeyF1, NoShift, 0});
   EXPECT_EQ(TakeSaid(), Texts{"now Exit. "});
-  hints.MenusClosed();
+  TakeSaid();
+  hints.MenusClosed(true);
+  EXPECT_EQ(TakeSaid(), Texts{}) << "the item speaks";
+  hints.MenusClosed(false);
+  EXPECT_EQ(TakeSaid(), Texts{"queued Value"});
   EXPECT_TRUE(App->KeyDown({'7', NoShift, U'7'}));
 }
 

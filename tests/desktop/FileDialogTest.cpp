@@ -23,7 +23,8 @@ class FileDialogTest : public WindowFixture {
     for (const char* name : {"points.txt", "other.txt", "picture.png"})
       QFile(Home.filePath(name)).open(QIODevice::WriteOnly);
     FileDialog.Owner = [this] { return &Window; };
-    FileDialog.Speak = [this](const std::string& text) { Spoken.push_back(text); };
+    FileDialog.Says.Speak = [this](const std::string& text) { Spoken.push_back(text); };
+    FileDialog.Says.Message = [](int id) { return "%% is " + std::to_string(id); };
   }
 
   FileDialogSpec Spec() {
@@ -96,13 +97,19 @@ TEST_F(FileDialogTest, SpeaksWhereTheUserIs) {
     Type(dialog, "nil");
     QTest::keyClick(dialog.windowHandle(), Qt::Key_Tab);
     QTest::keyClick(dialog.windowHandle(), Qt::Key_Tab, Qt::ShiftModifier);
-    EXPECT_THAT(Spoken, ElementsAre("Text Files (*.txt)", "File name:, nil"));
+    EXPECT_THAT(Spoken, ElementsAre("n", "i", "l", "Text Files (*.txt) is 1944", "File name is 1942, nil"));
+    Spoken.clear();
+    QTest::keyClick(dialog.windowHandle(), Qt::Key_End);
+    QTest::keyClick(dialog.windowHandle(), Qt::Key_Backspace);
+    QTest::keyClick(dialog.windowHandle(), Qt::Key_F7);
+    QTest::keyClick(dialog.windowHandle(), Qt::Key_F1);
+    EXPECT_THAT(Spoken, ElementsAre("l", "File name is 1942, ni", "%% is 1947"));
     auto* files = dialog.findChild<QListView*>("listView");
     files->setFocus();
     EXPECT_THAT(Spoken.back(), HasSubstr("Files"));
     EXPECT_TRUE(QTest::qWaitFor([&] { return files->model()->rowCount(files->rootIndex()) == 2; }));
     QTest::keyClick(dialog.windowHandle(), Qt::Key_End);
-    EXPECT_EQ(Spoken.back(), files->currentIndex().data().toString().toStdString());
+    EXPECT_EQ(Spoken.back(), files->currentIndex().data().toString().toStdString() + " is 1945");
     EXPECT_THAT(Spoken.back(), HasSubstr(".txt"));
     Cancel(dialog);
   });

@@ -21,9 +21,9 @@ class FormMenuTest : public WindowFixture, private HintListener {
     MenuHasKeys = true;
     Heard.push_back(std::string(text) + "|" + std::string(mnemonic) + (hasSubMenu ? "|sub" : ""));
   }
-  void MenusClosed() override {
+  void MenusClosed(bool chosen) override {
     MenuHasKeys = false;
-    Heard.push_back("closed");
+    Heard.push_back(chosen ? "closed with an item" : "closed");
   }
 
   std::vector<std::string> Heard;
@@ -56,7 +56,7 @@ TEST_F(FormMenuTest, ChosenItemComesOnceAndAfterTheMenusClosed) {
   TakeHints();
   QTest::keyClick(Popup(), Qt::Key_Return);
   Settle();
-  EXPECT_THAT(TakeHints(), ElementsAre("closed"));
+  EXPECT_THAT(TakeHints(), ElementsAre("closed with an item"));
   EXPECT_THAT(Shown.Take(), ElementsAre("menu 11"));
   EXPECT_TRUE(Find<QLineEdit>("txtDisplay").hasFocus());
 }

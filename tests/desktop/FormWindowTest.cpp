@@ -1,5 +1,6 @@
 #include <QAccessible>
 #include <QApplication>
+#include <QLabel>
 
 #include "WindowFixture.h"
 
@@ -101,10 +102,37 @@ TEST_F(FormWindowTest, TapeGrowsAtItsEnd) {
   Shown.Append("1 + 1 = 2\r\n");
   Shown.Append("é + 2 = 4\r\n");
   EXPECT_EQ(tape.toPlainText(), "1 + 1 = 2\né + 2 = 4\n");
+  EXPECT_TRUE(tape.textCursor().atEnd());
+  Shown.Move(std::string_view("1 + 1 = 2\r\né").size());
+  EXPECT_EQ(tape.textCursor().position(), QString("1 + 1 = 2\né").size());
   Shown.Select("txtTape");
   EXPECT_EQ(tape.textCursor().selectedText().size(), tape.toPlainText().size());
   Shown.Show("txtTape", "");
   EXPECT_EQ(tape.toPlainText(), "");
+}
+
+TEST_F(FormWindowTest, LinesAreNoControlsAndNeverWidenTheWindow) {
+  const auto labels = Window.centralWidget()->findChildren<QLabel*>();
+  ASSERT_EQ(labels.size(), 2);
+  const auto nameOf = [&](int label) {
+    return QAccessible::queryAccessibleInterface(labels[label])->text(QAccessible::Name);
+  };
+  EXPECT_EQ(nameOf(0), "Open");
+  const QSize before = Window.size();
+  const std::string open(40000, '(');
+  Shown.ShowLines(open, "All registers are 0.");
+  Settle();
+  EXPECT_EQ(nameOf(0).toStdString(), "Open: " + open);
+  EXPECT_EQ(nameOf(1), "Status: All registers are 0.");
+  EXPECT_EQ(Window.size(), before);
+  EXPECT_LT(Window.minimumSizeHint().width(), before.width() + 1);
+  EXPECT_LT(labels[0]->geometry().bottom(),
+            Find<QLineEdit>("txtDisplay").mapTo(Window.centralWidget(), QPoint()).y());
+  for (const QLabel* label : labels) {
+    EXPECT_EQ(label->focusPolicy(), Qt::NoFocus);
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(const_cast<QLabel*>(label))->role(),
+              QAccessible::StaticText);
+  }
 }
 
 TEST_F(FormWindowTest, LongTapeStaysCheap) {

@@ -39,11 +39,17 @@ class TestForm : public Form {
     PanelList = {{0, 0, 0, 1, 1}, {1, 1, 0, 1, 1}};
     MenuList = {{1, "&File", {{11, "&Open..."}, {12, "E&xit"}}}, {2, "&View", {{21, "Other && more"}}}};
     PlaceFocus(*Find("txtDisplay"));
+    NameLines("Open", "Status");
   }
 
   TextBox& Box(std::string_view name) { return static_cast<TextBox&>(*Find(name)); }
   void Show(std::string_view name, std::string_view text) { SetText(Box(name), text); }
   void Append(std::string_view text) { AppendText(Box("txtTape"), text); }
+  void Move(std::size_t caret) { MoveCaret(Box("txtTape"), caret); }
+  void ShowLines(std::string_view open, std::string_view status) {
+    SetOpenLine(open);
+    SetStatusLine(status);
+  }
   void Select(std::string_view name) { SelectAll(Box(name)); }
   CheckBox& Inv() { return static_cast<CheckBox&>(*Find("cbInv")); }
   ListBox& Mode() { return static_cast<ListBox&>(*Find("lltMode")); }

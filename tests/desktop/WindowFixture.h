@@ -53,6 +53,7 @@ class WindowFixture : public testing::Test {
             LastKey = event;
             return !MenuHasKeys && Window.ShownForm()->KeyDown(event) == KeyUse::Used;
           },
+      .KeyElsewhere = [this](const KeyEvent& event) { return FileDialog.KeyDown(event); },
       .KeyUp = [](int) {},
       .NotePress = [](int) {},
       .TopWindow = [this] { return &Window; },

@@ -10,7 +10,8 @@ import sys
 import time
 
 sys.dont_write_bytecode = True
-from rig import SOUND_TOOLS, Calculator, Recording, SoundServer, enter_session, start_manager  # noqa: E402
+from rig import (  # noqa: E402
+    SOUND_TOOLS, Calculator, Recording, SoundServer, enter_session, start_manager, wait_for, xdotool)
 
 BOUND = 1.0  # seconds
 FAILED = []
@@ -50,6 +51,13 @@ def hear_tick(recording):
     report("the length of the tick", recording.wait_for_silence(pressed) - began, 0.3)
 
 
+def hear_file_dialog(calculator):
+    """Its help too, for which the dialog has a key, ends with Ctrl alone."""
+    window = calculator.window()
+    xdotool("key", "--delay", "60", "alt+f", "Return")
+    wait_for("the file dialog", lambda: xdotool("getactivewindow") not in ([], [window]))
+
+
 def hear(calculator):
     recording = Recording()
     try:
@@ -59,6 +67,9 @@ def hear(calculator):
         hear_keys(recording)
         hear_silence(recording)
         hear_tick(recording)
+        hear_file_dialog(calculator)
+        recording.wait_for_silence(press("Control_L"))
+        hear_silence(recording)
     finally:
         recording.stop()
 
@@ -67,7 +78,8 @@ def main():
     enter_session(SOUND_TOOLS)
     sound = SoundServer()
     manager = start_manager()
-    calculator = Calculator(os.path.abspath(sys.argv[1]), os.path.join(os.environ["HOME"], "home"), speech="espeak-ng")
+    calculator = Calculator(os.path.abspath(sys.argv[1]), os.path.join(os.environ["HOME"], "home"),
+                            "--view", "statistics", speech="espeak-ng")
     try:
         hear(calculator)
         calculator.end()

@@ -210,6 +210,22 @@ class SessionTest(unittest.TestCase):
                 calculator.process.terminate()
                 calculator.ended()
 
+    def test_the_tape_is_read_by_the_line_and_the_lines_are_no_controls(self):
+        calculator = self.started()
+        names = [node.name for node in calculator.nodes(pyatspi.ROLE_LABEL)]
+        self.assertEqual([name.split(":")[0] for name in names], ["Open calculation", "Status"])
+        keys("1", "plus", "2", "Return", "7", "plus", "5", "Return")
+        calculator.expect_display("12")
+        keys("ctrl+v", "Tab", "Tab")
+        tape = calculator.nodes(pyatspi.ROLE_TEXT)[2]
+        wait_for("the tape's focus", lambda: tape.getState().contains(pyatspi.STATE_FOCUSED))
+        lines = tape.queryText()
+        for key, line in (("Up", "7 + 5 = 12"), ("Up", "1 + 2 = 3"), ("End", "1 + 2 = 3"), ("ctrl+End", "7 + 5 = 12")):
+            with self.subTest(key=key):
+                keys(key)
+                wait_for("the caret on " + line, lambda: lines.getTextAtOffset(
+                    lines.caretOffset, pyatspi.TEXT_BOUNDARY_LINE_START)[0].strip() == line)
+
     def test_scientific_view_from_the_menu(self):
         calculator = self.started()
         keys("alt+v")

@@ -92,7 +92,8 @@ void frmStatistics::OnMenu(int id) {
   else if (id == ImportTableItem)
     ImportTable();
   else
-    View::OnMenu(id);
+    return View::OnMenu(id);
+  if (Common.Outside.FileDialog.TakesFocus() && Frame.IsActive(*this)) Returned();
 }
 
 /// A fault ends the calculation without a word, and the dialog reads the report of the run before. Both are
