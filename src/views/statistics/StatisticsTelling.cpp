@@ -40,7 +40,7 @@ void frmStatistics::AddCount(Telling& telling, DataList list) const {
 void frmStatistics::AddImport(Telling& telling) const {
   const ImportOutcome& done = Now.Imported;
   if (!done.IsRead) return telling.Add(Message(ImportFailedMessage), {done.File});
-  telling.Add(Message(done.Count == 1 ? ImportedOneMessage : ImportedMessage),
+  telling.Add(Message(done.Count == 1 ? ImportDoneOneMessage : ImportDoneMessage),
               {done.File, std::to_string(done.Count)});
   const std::string line = std::to_string(done.StoppedAt);
   if (done.IsFull) return telling.Add(Message(ImportFullMessage), {line});
