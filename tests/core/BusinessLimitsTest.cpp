@@ -27,6 +27,10 @@ TEST(FinancialRegisters, TheListOfFlowsHasItsLimits) {
   EXPECT_EQ(registers.FlowCount(), 32767);
   RepeatLastFlow(registers, -32764);
   EXPECT_EQ(registers.CashFlows, (SharedList<double>{7, 7, 0})) << "a shortened list ends in 0 again";
+  FinancialRegisters broken;
+  AppendFlow(broken, 7);
+  RepeatLastFlow(broken, 2.6);
+  EXPECT_EQ(broken.CashFlows, (SharedList<double>{7, 0, 7, 0})) << "a fraction rounded up leaves a flow of 0";
   registers.J = 2.5;
   EXPECT_FALSE(FindFlow(registers));
   registers.J = 0.4;

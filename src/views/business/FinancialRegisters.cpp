@@ -31,8 +31,9 @@ void RepeatLastFlow(FinancialRegisters& registers, double count) {
   if (after < 0) throw ArithmeticFault(FaultReason::OutOfRange, "fewer flows than none");
   const double last = registers.CashFlows[static_cast<std::size_t>(before - 1)];
   registers.CashFlows.Shorten(static_cast<std::size_t>(std::min(before, after)));
-  std::vector<double> added(static_cast<std::size_t>(std::max(after - before, 0)), last);
-  added.push_back(0);
+  // Of a fraction that is rounded up the first new flow is 0: wanted so.
+  std::vector<double> added(static_cast<std::size_t>(std::max(after - before, 0)) + 1);
+  for (std::size_t k = 1; static_cast<double>(k) <= count - 1; ++k) added[added.size() - 1 - k] = last;
   registers.CashFlows.Append(added);
   registers.LastGroupCount = group;
 }
