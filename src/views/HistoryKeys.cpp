@@ -1,6 +1,9 @@
 // The keys of the history, in every view.
+#include <algorithm>
+
 #include "model/ArithmeticFault.h"
 #include "services/MessageIds.h"
+#include "text/Characters.h"
 #include "views/View.h"
 
 namespace qves {
@@ -20,7 +23,7 @@ void View::HearLater() {
 /// Its place among how many, and its line.
 void View::TellCalculation(const FinishedCalculation* calculation) {
   if (!calculation) return Common.Speech.SpeakText(Message(HistoryEmptyMessage));
-  const std::string line = Common.Speech.SpeechFormatNumber(calculation->Line);
+  const std::string line = LineInWords(calculation->Line);
   const std::string text =
       FillPlaceholders(Message(HistoryPlaceMessage),
                        {std::to_string(Common.Past.Place()), std::to_string(Common.Past.Count())}) +
@@ -29,6 +32,16 @@ void View::TellCalculation(const FinishedCalculation* calculation) {
   // Within a number's span a parenthesis would be heard; a function's is none.
   const std::size_t length = kind == ValueKind::Number ? 0 : line.size();
   Common.Speech.SpeakText(text + line, {text.size(), length, kind});
+}
+
+/// As the tape is spoken. A name before the result, as that of a register, stays as it is: its hyphens are no
+/// signs.
+std::string View::LineInWords(const std::string& line) const {
+  const std::size_t sign = std::min(line.find(" = "), line.size());
+  const bool isName =
+      sign < line.size() && std::none_of(line.begin(), line.begin() + static_cast<int>(sign), IsDigit);
+  const std::size_t name = isName ? sign : 0;
+  return line.substr(0, name) + Common.Speech.SpeechFormatNumber(line.substr(name));
 }
 
 /// Only a date begins with the name of a weekday.

@@ -148,6 +148,7 @@ class View : public Form, protected EngineHost {
   void HearEarlier();
   void HearLater();
   void TellCalculation(const FinishedCalculation* calculation);
+  std::string LineInWords(const std::string& line) const;
   ValueKind KindOfLine(const FinishedCalculation& calculation) const;
   void TakeFromHistory();
 

@@ -44,12 +44,13 @@ void frmStatistics::ImportTable() {
   const std::string path = AskForFile(TableTitleMessage, Message(TableFilterMessage), "csv");
   if (path.empty()) return;
   std::vector<TableColumn> columns = ReadTableFile(path);
-  if (columns.size() == 1) return ImportColumn(columns.front());
+  const std::string file = path.substr(path.rfind('/') + 1);
+  if (columns.size() == 1) return ImportColumn(file, columns.front());
   if (columns.empty()) return;
   std::vector<std::string> names;
   for (const TableColumn& column : columns) names.push_back(NameOf(column));
-  Frame.OpenColumns(std::move(names), [this, columns = std::move(columns)](std::size_t chosen) {
-    ImportColumn(columns[chosen]);
+  Frame.OpenColumns(std::move(names), [this, file, columns = std::move(columns)](std::size_t chosen) {
+    ImportColumn(file, columns[chosen]);
   });
 }
 
@@ -65,10 +66,12 @@ std::vector<TableColumn> frmStatistics::ReadTableFile(const std::string& path) {
   return {};
 }
 
-void frmStatistics::ImportColumn(const TableColumn& column) {
+void frmStatistics::ImportColumn(const std::string& file, const TableColumn& column) {
   ListView& list = ListOf(TargetList());
   RemoveItems(list, 0, list.ItemCount());
   const Taken taken = AddPoints(column.Values);
+  Now.Imported = {file, TargetList(), true};
+  Now.Imported.Count = taken.Added;
   std::string words = CountWords(ImportedMessage, taken.Added);
   if (column.LinesLeftOut > 0)
     words += " " + CountWords(LeftOutMessage, static_cast<std::size_t>(column.LinesLeftOut));

@@ -56,7 +56,7 @@ class frmStatistics : public StateView<StatisticsState>, private StatisticsHost 
   Taken AddPoints(std::span<const double> numbers);
   void ImportTable();
   std::vector<TableColumn> ReadTableFile(const std::string& path);
-  void ImportColumn(const TableColumn& column);
+  void ImportColumn(const std::string& file, const TableColumn& column);
   std::string NameOf(const TableColumn& column) const;
   std::string CountWords(int message, std::size_t count) const;
   std::string FullWords(const Taken& taken) const;
