@@ -16,6 +16,7 @@ FormWindow::FormWindow(const AppSettings& settings, HintNotify& hints, QWidget* 
 }
 
 FormWindow::~FormWindow() {
+  disconnect(qApp, nullptr, this, nullptr);  // the focus moves once more while the window goes
   DropForm();
 }
 

@@ -32,7 +32,7 @@ class SharedList {
 
   void Append(std::span<const T> items) {
     if (items.empty()) return;
-    std::vector<Piece> pieces = Row();
+    PieceRow pieces = Row();
     if (pieces.empty() || pieces.back().End() != pieces.back().Buffer->size())
       pieces.push_back({std::make_shared<std::vector<T>>(), 0, 0});
     pieces.back().Buffer->insert(pieces.back().Buffer->end(), items.begin(), items.end());
@@ -41,34 +41,31 @@ class SharedList {
   }
   void Append(const T& item) { Append(std::span(&item, 1)); }
 
-  void Erase(std::size_t from, std::size_t count) {
-    std::vector<Piece> pieces;
-    std::size_t start = 0;
-    const auto keep = [&](const Piece& piece, std::size_t first, std::size_t last) {
-      if (first < last) pieces.push_back({piece.Buffer, piece.From + first, last - first});
-    };
-    for (const Piece& piece : Row()) {
-      const std::size_t cutFrom = std::clamp(from, start, start + piece.Count) - start;
-      const std::size_t cutTo = std::clamp(from + count, start, start + piece.Count) - start;
-      keep(piece, 0, cutFrom);
-      keep(piece, cutTo, piece.Count);
-      start += piece.Count;
-    }
-    Keep(std::move(pieces), Size - count);
+  /// Puts these items in the place of so many from `from` on.
+  void Replace(std::size_t from, std::size_t count, std::span<const T> items) {
+    PieceRow pieces;
+    AddPart(pieces, 0, from);
+    if (!items.empty())
+      pieces.push_back({std::make_shared<std::vector<T>>(items.begin(), items.end()), 0, items.size()});
+    AddPart(pieces, from + count, Size);
+    Keep(std::move(pieces), Size - count + items.size());
   }
+  void Erase(std::size_t from, std::size_t count) { Replace(from, count, {}); }
+  void Set(std::size_t index, const T& item) { Replace(index, 1, std::span(&item, 1)); }
   /// Everything from `size` on goes.
   void Shorten(std::size_t size) {
     if (size < Size) Erase(size, Size - size);
   }
   void Clear() { *this = {}; }
-  void Set(std::size_t index, const T& item) {
-    std::vector<T> after = Copy(index + 1, Size);
-    Shorten(index);
-    Append(item);
-    Append(after);
+  std::vector<T> Copy() const {
+    std::vector<T> items;
+    items.reserve(Size);
+    for (const Piece& piece : Row()) {
+      const auto first = piece.Buffer->begin() + static_cast<std::ptrdiff_t>(piece.From);
+      items.insert(items.end(), first, first + static_cast<std::ptrdiff_t>(piece.Count));
+    }
+    return items;
   }
-
-  std::vector<T> Copy() const { return Copy(0, Size); }
 
   bool operator==(const SharedList& other) const {
     if (Size != other.Size) return false;
@@ -92,11 +89,15 @@ class SharedList {
     return Pieces ? *Pieces : none;
   }
 
-  std::vector<T> Copy(std::size_t from, std::size_t to) const {
-    std::vector<T> items;
-    if (from < to) items.reserve(to - from);
-    for (std::size_t i = from; i < to; ++i) items.push_back((*this)[i]);
-    return items;
+  /// The pieces of a part of the list.
+  void AddPart(PieceRow& pieces, std::size_t first, std::size_t last) const {
+    std::size_t start = 0;
+    for (const Piece& piece : Row()) {
+      const std::size_t from = std::clamp(first, start, start + piece.Count) - start;
+      const std::size_t to = std::clamp(last, start, start + piece.Count) - start;
+      if (from < to) pieces.push_back({piece.Buffer, piece.From + from, to - from});
+      start += piece.Count;
+    }
   }
 
   /// Many small pieces would make each look at the list slow: they become one.
