@@ -23,12 +23,14 @@ void View::HearLater() {
 /// Its place among how many, and its line.
 void View::TellCalculation(const FinishedCalculation* calculation) {
   if (!calculation) return Common.Speech.SpeakText(Message(HistoryEmptyMessage));
-  const std::string line = LineInWords(calculation->Line);
+  const ValueKind kind = KindOfLine(*calculation);
+  // The letters of another number base are digits and no name.
+  const std::string line = kind == ValueKind::BaseDigits ? Common.Speech.SpeechFormatNumber(calculation->Line)
+                                                         : LineInWords(calculation->Line);
   const std::string text =
       FillPlaceholders(Message(HistoryPlaceMessage),
                        {std::to_string(Common.Past.Place()), std::to_string(Common.Past.Count())}) +
       " ";
-  const ValueKind kind = KindOfLine(*calculation);
   // Within a number's span a parenthesis would be heard; a function's is none.
   const std::size_t length = kind == ValueKind::Number ? 0 : line.size();
   Common.Speech.SpeakText(text + line, {text.size(), length, kind});

@@ -51,6 +51,7 @@ void frmStatistics::ImportTable() {
   for (const TableColumn& column : columns) names.push_back(NameOf(column));
   Frame.OpenColumns(std::move(names), [this, file, columns = std::move(columns)](std::size_t chosen) {
     ImportColumn(file, columns[chosen]);
+    Returned();  // what it said has cut off where the user came back to
   });
 }
 
